@@ -1,0 +1,30 @@
+# Compiler settings that every target shares.
+
+set(CMAKE_CXX_FLAGS_DEV "-O1 -g1" CACHE STRING "Flags of the everyday build")
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Dev CACHE STRING "Build type" FORCE)
+endif()
+
+set(VANTOR_SANITIZE "" CACHE STRING "Sanitizers, as the compiler's -fsanitize takes them; empty for none")
+
+find_program(CCACHE ccache)
+if(CCACHE)
+    # Precompiled headers only hit the cache when their defines and time stamps are left out of the comparison.
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CCACHE} sloppiness=pch_defines,time_macros,include_file_mtime,include_file_ctime)
+endif()
+
+add_library(vantor_flags INTERFACE)
+if(MSVC)
+    target_compile_options(vantor_flags INTERFACE /W4 /utf-8)
+else()
+    target_compile_options(vantor_flags INTERFACE -Wall -Wextra -Wformat=2 -Werror=format -Werror=return-type
+                           -Wnon-virtual-dtor -fno-omit-frame-pointer)
+    if(CCACHE)
+        target_compile_options(vantor_flags INTERFACE -fpch-preprocess)
+    endif()
+    if(VANTOR_SANITIZE)
+        target_compile_options(vantor_flags INTERFACE -fsanitize=${VANTOR_SANITIZE} -fno-sanitize-recover=all)
+        target_link_options(vantor_flags INTERFACE -fsanitize=${VANTOR_SANITIZE})
+    endif()
+endif()
