@@ -1,6 +1,6 @@
 # Compiler settings that every target shares.
 
-set(CMAKE_CXX_FLAGS_DEV "-O1 -g1" CACHE STRING "Flags of the everyday build")
+set(CMAKE_CXX_FLAGS_DEV "-O1 -g1")
 if(NOT CMAKE_BUILD_TYPE)
     set(CMAKE_BUILD_TYPE Dev CACHE STRING "Build type" FORCE)
 endif()
@@ -11,7 +11,7 @@ find_program(CCACHE ccache)
 if(CCACHE)
     # Precompiled headers only hit the cache when their defines and time stamps are left out of the comparison.
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        ${CCACHE} sloppiness=pch_defines,time_macros,include_file_mtime,include_file_ctime)
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${CCACHE})
 endif()
 
 add_library(vantor_flags INTERFACE)

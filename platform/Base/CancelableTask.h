@@ -14,14 +14,16 @@ using Task = std::function<void()>;
 class CCancelableTask
 {
 public:
-    CCancelableTask(details::WeakAnchorRef owner, Task work) : m_owner(std::move(owner)), m_work(std::move(work)) {}
+    CCancelableTask(details::WeakAnchorRef owner, Task work)
+        : m_owner(std::move(owner)), m_work(std::move(work))
+    {}
 
     /// Runs the member of the object with the arguments' values, while the object's anchor lives.
     template<typename T, typename... Params, typename... Args>
-    CCancelableTask(const details::CWeakPtrBase& anchor, T* object, void (T::*member)(Params...), Args... args)
+    CCancelableTask(const details::CWeakPtrBase& anchor, T* object, void (T::*member)(Params...),
+                    Args... args)
         : m_owner(anchor.Ref()), m_work([object, member, args...] { (object->*member)(args...); })
-    {
-    }
+    {}
 
     void operator()() const
     {

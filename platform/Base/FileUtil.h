@@ -7,20 +7,22 @@ namespace Base::FileUtil {
 /// The folder of the running program, in the local code page, ending in "/".
 std::string GetCurExeDir();
 
-/// Registers the same folder as UTF-8, for the libraries that want it so. Call once, before other threads start.
+/// Registers the same folder as UTF-8, for the libraries that want it so. Call once, before other threads
+/// start.
 void InitCurExeDirUtf8(const std::string& dir);
 const std::string& GetCurExeDirUtf8();
 
-/// The root of this user's data, in the local code page, ending in "/": VANTOR_USER_DATA if set, else the platform's usual
-/// place ($XDG_DATA_HOME/Vantor, ~/.local/share/Vantor; Windows: the roaming application data). Sockets, shared memory
-/// and files of one root never meet those of another. Empty when the platform names no place.
+/// The root of this user's data, in the local code page, ending in "/": VANTOR_USER_DATA if set, else the
+/// platform's usual place ($XDG_DATA_HOME/Vantor, ~/.local/share/Vantor; Windows: the roaming application
+/// data). Sockets, shared memory and files of one root never meet those of another. Empty when the platform
+/// names no place.
 std::string UserDataRoot();
 
 /// The whole of a file of at most limit bytes; false when it cannot be read or is larger.
 bool ReadFile(const std::string& path, std::string& content, std::size_t limit = 16 * 1024 * 1024);
 
-/// Writes the file under a temporary name with mode 0600, brings it to the disk and puts it in place in one step, so
-/// that a reader finds the old content or the new one.
+/// Writes the file under a temporary name with mode 0600, brings it to the disk and puts it in place in one
+/// step, so that a reader finds the old content or the new one.
 bool WriteFileAtomically(const std::string& path, const std::string& content);
 
 /// Creates the folder and those above it, for the user only. True when it exists afterwards.

@@ -15,20 +15,22 @@ struct LogLocation
     const char* function;
 };
 
-/// The process's logger, on log4cxx. Before InitLog and after UninitLog every line is lost quietly. Any thread.
+/// The process's logger, on log4cxx. Before InitLog and after UninitLog every line is lost quietly. Any
+/// thread.
 class CLog
 {
 public:
     static CLog& Instance();
 
-    /// Starts logging as the properties file says. A file that cannot be read gives a plain log on standard error
-    /// and the result false.
+    /// Starts logging as the properties file says. A file that cannot be read gives a plain log on standard
+    /// error and the result false.
     bool InitLog(const std::string& propertiesPath);
 
     /// Writes out and stops. May be called again.
     void UninitLog();
 
-    /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at 16 KiB.
+    /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at
+    /// 16 KiB.
     void Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
         __attribute__((format(printf, 5, 6)));
 
@@ -49,9 +51,9 @@ void SetLogObserver(LogObserver observer);
 #define BASE_LOG_FUNCTION __FUNCSIG__
 #endif
 
-#define BASE_LOG(level, logger, ...)                                                                                  \
-    ::Base::CLog::Instance().Write(level, logger, ::Base::LogLocation{__FILE__, __LINE__, BASE_LOG_FUNCTION},         \
-                                   __VA_ARGS__)
+#define BASE_LOG(level, logger, ...)                                                                         \
+    ::Base::CLog::Instance().Write(level, logger,                                                            \
+                                   ::Base::LogLocation{__FILE__, __LINE__, BASE_LOG_FUNCTION}, __VA_ARGS__)
 
 #define BASE_DEBUG(...) BASE_LOG(::Base::LogLevel::Debug, "", __VA_ARGS__)
 #define BASE_INFO(...) BASE_LOG(::Base::LogLevel::Info, "", __VA_ARGS__)
@@ -59,7 +61,8 @@ void SetLogObserver(LogObserver observer);
 #define BASE_ERROR(...) BASE_LOG(::Base::LogLevel::Error, "", __VA_ARGS__)
 #define BASE_FATAL(...) BASE_LOG(::Base::LogLevel::Fatal, "", __VA_ARGS__)
 
-/// The same to a named logger, for example BASE_ERROR_TO("VideoLogger", "Failed to send. LastError: [%d].", error).
+/// The same to a named logger, for example BASE_ERROR_TO("VideoLogger", "Failed to send. LastError: [%d].",
+/// error).
 #define BASE_INFO_TO(logger, ...) BASE_LOG(::Base::LogLevel::Info, logger, __VA_ARGS__)
 #define BASE_WARN_TO(logger, ...) BASE_LOG(::Base::LogLevel::Warn, logger, __VA_ARGS__)
 #define BASE_ERROR_TO(logger, ...) BASE_LOG(::Base::LogLevel::Error, logger, __VA_ARGS__)

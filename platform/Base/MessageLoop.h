@@ -9,7 +9,8 @@ namespace Base {
 
 /// One thread that runs posted tasks one after the other, in the order in which they were posted.
 ///
-/// The thread starts with the first task. Stop runs what is queued and ends the thread; see CThreadPool::Stop.
+/// The thread starts with the first task. Stop runs what is queued and ends the thread; see
+/// CThreadPool::Stop.
 class CMessageLoop : CNoncopyable
 {
 public:

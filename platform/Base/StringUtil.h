@@ -8,8 +8,8 @@ namespace Base {
 
 namespace StringUtil {
 
-/// The text with every occurrence of from replaced by to, found from the left; what was put in is not looked at again.
-/// An empty from changes nothing.
+/// The text with every occurrence of from replaced by to, found from the left; what was put in is not looked
+/// at again. An empty from changes nothing.
 std::string StringReplace(std::string_view text, std::string_view from, std::string_view to);
 
 /// The parts between separators, empty ones kept; one part for a text without separator.
@@ -23,8 +23,8 @@ std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2))
 
 } // namespace StringUtil
 
-/// Text of the process's local code page (the locale's character set; Windows: the ANSI code page) as UTF-8, and back.
-/// A byte that the code page does not know becomes "?".
+/// Text of the process's local code page (the locale's character set; Windows: the ANSI code page) as UTF-8,
+/// and back. A byte that the code page does not know becomes "?".
 std::string LocalToUTF8(const std::string& text);
 std::string UTF8ToLocal(const std::string& text);
 

@@ -17,12 +17,12 @@ public:
     CThreadPool(const std::string& name, std::size_t threads);
     ~CThreadPool();
 
-    /// False when the pool was stopped; the task is then dropped. An exception that leaves a task is logged and goes
-    /// no further. Any thread.
+    /// False when the pool was stopped; the task is then dropped. An exception that leaves a task is logged
+    /// and goes no further. Any thread.
     bool PostTask(Task task);
 
-    /// Takes no more tasks, runs what is queued and waits for it. Calls after the first do nothing but wait. Called
-    /// from within a task it waits for nothing; the threads then end by themselves.
+    /// Takes no more tasks, runs what is queued and waits for it. Calls after the first do nothing but wait.
+    /// Called from within a task it waits for nothing; the threads then end by themselves.
     void Stop();
 
 private:

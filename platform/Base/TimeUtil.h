@@ -12,8 +12,8 @@ namespace Base::TimeUtil {
 constexpr std::int64_t kFirstSecond = -62167219200;
 constexpr std::int64_t kLastSecond = 253402300799;
 
-/// The text of a time in seconds since 1970. A time outside the range gives the nearer end of it, so that the order
-/// of texts stays the order of times.
+/// The text of a time in seconds since 1970. A time outside the range gives the nearer end of it, so that the
+/// order of texts stays the order of times.
 std::string TimeT2StrDatetime(std::int64_t seconds);
 
 /// The time of a text in exactly the form above with a date that exists; nothing for any other text.

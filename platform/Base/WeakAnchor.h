@@ -17,12 +17,12 @@ struct AnchorState
 /// A weak reference to the owner of an anchor.
 using WeakAnchorRef = std::shared_ptr<AnchorState>;
 
-/// Member of a class whose members run later, on another thread, as posted tasks. A task keeps only a weak reference;
-/// when the owner is gone it does nothing.
+/// Member of a class whose members run later, on another thread, as posted tasks. A task keeps only a weak
+/// reference; when the owner is gone it does nothing.
 ///
-/// Release (called by the destructor) waits for a task that is running on another thread; it may be called from within
-/// such a task. The owner must not hold, while it is destroyed, a lock that its tasks take. Declare it as the last member, so
-/// that it is released before what the tasks use.
+/// Release (called by the destructor) waits for a task that is running on another thread; it may be called
+/// from within such a task. The owner must not hold, while it is destroyed, a lock that its tasks take.
+/// Declare it as the last member, so that it is released before what the tasks use.
 class CWeakPtrBase : CNoncopyable
 {
 public:

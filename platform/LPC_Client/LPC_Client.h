@@ -8,9 +8,9 @@
 
 /// The client end of the local channel: one connection a process, usable from any thread.
 ///
-/// Every function that returns bool (or an identifier, 0 = failed) leaves the reason of a failure in the calling thread's
-/// GetLPCLastError. Requests and notifications of the server arrive at the invoke callback, always on the library's
-/// own thread and in the order in which they were sent.
+/// Every function that returns bool (or an identifier, 0 = failed) leaves the reason of a failure in the
+/// calling thread's GetLPCLastError. Requests and notifications of the server arrive at the invoke callback,
+/// always on the library's own thread and in the order in which they were sent.
 namespace lpcclient {
 
 using LPCCallBackData = lpc::CallBackData;
@@ -22,29 +22,33 @@ using tag_LPCReplyData = lpc::ReplyData;
 using lpc::HeaderMap;
 using lpc::RequestId;
 
-/// Takes what the server sends. Must return quickly; the result tells whether the data was taken (false is logged).
+/// Takes what the server sends. Must return quickly; the result tells whether the data was taken (false is
+/// logged).
 using InvokeCallBack = std::function<bool(const LPCCallBackData& data, void* user)>;
 
-/// Takes the answer to an asynchronous request on the library's thread; error is lpc::kNoError, or why there is none.
+/// Takes the answer to an asynchronous request on the library's thread; error is lpc::kNoError, or why there
+/// is none.
 using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& answer)>;
 
-/// Gives the client the name under which the server sees it (1 to 128 bytes). traceTraffic writes each message's headers and size
-/// to the log at debug level.
+/// Gives the client the name under which the server sees it (1 to 128 bytes). traceTraffic writes each
+/// message's headers and size to the log at debug level.
 [[nodiscard]] bool Init(const std::string& clientName, bool traceTraffic);
 
-/// Connects to the server of that name in this user's data root and exchanges the hello. Waits at most 5 seconds.
+/// Connects to the server of that name in this user's data root and exchanges the hello. Waits at most 5
+/// seconds.
 [[nodiscard]] bool ConnectToServer(const std::string& serverName);
 
-/// Sets or, with an empty function, clears the receiver. What arrived before the first receiver was set, up to the
-/// receive queue's limit, is delivered to it then; so is the loss of the connection, which arrives as a notification
-/// with the method "clientDisconnected". After clearing returns no call is under way, unless it was cleared from within one.
+/// Sets or, with an empty function, clears the receiver. What arrived before the first receiver was set, up
+/// to the receive queue's limit, is delivered to it then; so is the loss of the connection, which arrives as
+/// a notification with the method "clientDisconnected". After clearing returns no call is under way, unless
+/// it was cleared from within one.
 [[nodiscard]] bool SetInvokeCallBack(InvokeCallBack callback, void* user);
 
 /// Sends a request and returns its identifier without waiting. Without a callback the answer is dropped.
 [[nodiscard]] RequestId Send(const tag_LPCRequestData& request, AnswerCallBack onAnswer = {});
 
-/// Sends a request and waits for its answer, at most timeoutMs milliseconds (0: no limit but the connection's life). id receives the
-/// identifier. An answer that comes later is dropped.
+/// Sends a request and waits for its answer, at most timeoutMs milliseconds (0: no limit but the connection's
+/// life). id receives the identifier. An answer that comes later is dropped.
 [[nodiscard]] bool SendEx(tag_LPCResponseData& response, const tag_LPCRequestData& request, RequestId& id,
                           std::uint32_t timeoutMs);
 
@@ -54,8 +58,9 @@ using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& 
 /// Answers a request that the invoke callback received.
 [[nodiscard]] bool Reply(const tag_LPCReplyData& reply);
 
-/// Closes the connection; waiting SendEx calls fail at once with lpc::kConnectionLost. No "clientDisconnected" is delivered
-/// for it. Succeeds when there is no connection any more. From within the invoke callback it does not wait for the library's thread.
+/// Closes the connection; waiting SendEx calls fail at once with lpc::kConnectionLost. No
+/// "clientDisconnected" is delivered for it. Succeeds when there is no connection any more. From within the
+/// invoke callback it does not wait for the library's thread.
 [[nodiscard]] bool DisconnectToServer();
 
 /// Ends the library's thread and forgets the name. Fails with lpc::kNotInitialised when there was no Init.

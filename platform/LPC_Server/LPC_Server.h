@@ -33,8 +33,8 @@ public:
 /// Takes the answer to a request on the server's thread; error is lpc::kNoError, or why there is none.
 using AnswerCallBack = std::function<void(int error, const lpc::Message& answer)>;
 
-/// A listening socket with its clients and the thread that serves them. All functions may be called from any thread,
-/// also from within events; results are lpc::Error numbers.
+/// A listening socket with its clients and the thread that serves them. All functions may be called from any
+/// thread, also from within events; results are lpc::Error numbers.
 class CLPCServer
 {
 public:
@@ -45,21 +45,22 @@ public:
     CLPCServer(const CLPCServer&) = delete;
     CLPCServer& operator=(const CLPCServer&) = delete;
 
-    /// Listens under the name in this user's data root. A socket that a dead server left behind is replaced; that of a living one gives
-    /// lpc::kCannotListen.
+    /// Listens under the name in this user's data root. A socket that a dead server left behind is replaced;
+    /// that of a living one gives lpc::kCannotListen.
     [[nodiscard]] int Start(const std::string& serverName);
 
     /// Closes all connections and ends the thread. May be called again.
     void Stop();
 
-    /// While not accepting, connected clients' requests are refused with lpc::kTryAgain. Accepting at the start.
+    /// While not accepting, connected clients' requests are refused with lpc::kTryAgain. Accepting at the
+    /// start.
     void SetAccepting(bool accepting);
 
     [[nodiscard]] int Notify(ClientId client, const lpc::Message& notification);
     [[nodiscard]] int Reply(ClientId client, const lpc::ReplyData& reply);
 
-    /// Sends a request. onAnswer is called exactly once when the result is lpc::kNoError, after timeoutMs milliseconds at
-    /// the latest, and never otherwise.
+    /// Sends a request. onAnswer is called exactly once when the result is lpc::kNoError, after timeoutMs
+    /// milliseconds at the latest, and never otherwise.
     [[nodiscard]] int Send(ClientId client, const lpc::Message& request, std::uint32_t timeoutMs,
                            AnswerCallBack onAnswer);
 

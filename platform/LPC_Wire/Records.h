@@ -48,17 +48,18 @@ enum Error : int {
     kNoError = 0,
     kNotInitialised = 1001,
     kInvalidArgument = 1002,
-    kCannotConnect = 1003,   ///< no server of that name, or it belongs to another user
-    kRefused = 1004,         ///< the other side speaks another version, or refused the hello
+    kCannotConnect = 1003, ///< no server of that name, or it belongs to another user
+    kRefused = 1004,       ///< the other side speaks another version, or refused the hello
     kNotConnected = 1005,
     kConnectionLost = 1006,
     kTimedOut = 1007,
-    kTooLong = 1008,         ///< headers or body over the limit
+    kTooLong = 1008, ///< headers or body over the limit
     kCannotListen = 1009,
-    kTryAgain = 1015,        ///< a queue is full, or the server is not accepting yet
+    kTryAgain = 1015, ///< a queue is full, or the server is not accepting yet
 };
 
-/// Headers of an answer that reports an error: the HTTP-style status (absent: 200) and the error number (absent: 0).
+/// Headers of an answer that reports an error: the HTTP-style status (absent: 200) and the error number
+/// (absent: 0).
 constexpr const char* kStatusHeader = "status";
 constexpr const char* kErrorCodeHeader = "errorCode";
 

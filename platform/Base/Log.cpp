@@ -1,0 +1,117 @@
+#include "Base/Log.h"
+
+#include <log4cxx/basicconfigurator.h>
+#include <log4cxx/logger.h>
+#include <log4cxx/logmanager.h>
+#include <log4cxx/propertyconfigurator.h>
+#include <log4cxx/spi/location/locationinfo.h>
+
+#include <array>
+#include <atomic>
+#include <cstdarg>
+#include <cstdio>
+#include <fstream>
+
+namespace Base {
+
+namespace {
+
+constexpr std::size_t kMessageLimit = 16 * 1024;
+
+std::atomic<bool> g_open{false};
+std::atomic<LogObserver> g_observer{nullptr};
+
+log4cxx::LevelPtr Level(LogLevel level)
+{
+    switch (level) {
+    case LogLevel::Debug:
+        return log4cxx::Level::getDebug();
+    case LogLevel::Info:
+        return log4cxx::Level::getInfo();
+    case LogLevel::Warn:
+        return log4cxx::Level::getWarn();
+    case LogLevel::Error:
+        return log4cxx::Level::getError();
+    case LogLevel::Fatal:
+        return log4cxx::Level::getFatal();
+    }
+    return log4cxx::Level::getFatal();
+}
+
+log4cxx::LoggerPtr Logger(const char* name)
+{
+    return *name ? log4cxx::Logger::getLogger(name) : log4cxx::Logger::getRootLogger();
+}
+
+/// Most lines fit the buffer on the stack; only long ones are formatted a second time.
+std::string FormatMessage(const char* format, std::va_list arguments)
+{
+    std::array<char, 512> shortText;
+    std::va_list again;
+    va_copy(again, arguments);
+    const int length = std::vsnprintf(shortText.data(), shortText.size(), format, arguments);
+    std::string message;
+    if (length >= 0 && static_cast<std::size_t>(length) < shortText.size()) {
+        message.assign(shortText.data(), static_cast<std::size_t>(length));
+    } else if (length > 0) {
+        message.resize(std::min<std::size_t>(static_cast<std::size_t>(length), kMessageLimit) + 1);
+        std::vsnprintf(message.data(), message.size(), format, again);
+        message.pop_back();
+    }
+    va_end(again);
+    return message;
+}
+
+} // namespace
+
+CLog& CLog::Instance()
+{
+    static CLog* const log = new CLog();
+    return *log;
+}
+
+bool CLog::InitLog(const std::string& propertiesPath)
+{
+    const bool readable = std::ifstream(propertiesPath).good();
+    if (readable)
+        log4cxx::PropertyConfigurator::configure(log4cxx::File(propertiesPath));
+    else
+        log4cxx::BasicConfigurator::configure();
+    g_open = true;
+    return readable;
+}
+
+void CLog::UninitLog()
+{
+    if (g_open.exchange(false))
+        log4cxx::LogManager::shutdown();
+}
+
+void CLog::Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
+{
+    const LogObserver observer = g_observer;
+    if (!g_open && !observer)
+        return;
+    const log4cxx::LoggerPtr target = g_open ? Logger(logger) : nullptr;
+    const bool wanted = target && target->isEnabledFor(Level(level));
+    if (!wanted && !observer)
+        return;
+
+    std::va_list arguments;
+    va_start(arguments, format);
+    const std::string message = FormatMessage(format, arguments);
+    va_end(arguments);
+    if (observer)
+        observer(level, logger, message);
+    if (wanted)
+        target->forcedLog(
+            Level(level), message,
+            log4cxx::spi::LocationInfo(location.file, location.file, location.function, location.line));
+}
+
+void SetLogObserver(LogObserver observer)
+{
+    g_observer = observer;
+}
+
+} // namespace Base
