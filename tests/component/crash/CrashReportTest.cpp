@@ -102,6 +102,11 @@ struct CrashRow
     const char* function; // Named in the stack.
 };
 
+void PrintTo(const CrashRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
 class CrashOfAProcess : public CrashReport, public testing::WithParamInterface<CrashRow>
 {};
 
