@@ -110,9 +110,7 @@ void CLog::Write(LogLevel level, const char* logger, const LogLocation& location
     if (observer)
         observer(level, logger, message);
     if (wanted)
-        target->forcedLog(
-            Level(level), message,
-            log4cxx::spi::LocationInfo(location.file, location.file, location.function, location.line));
+        target->forcedLog(Level(level), message, Place(location));
 }
 
 void SetLogObserver(LogObserver observer)
