@@ -47,7 +47,8 @@ public:
     bool Has(const std::string& message) const
     {
         const auto lines = Lines();
-        return std::any_of(lines.begin(), lines.end(), [&](const Line& line) { return line.message == message; });
+        return std::any_of(lines.begin(), lines.end(),
+                           [&](const Line& line) { return line.message == message; });
     }
 
 private:

@@ -1,0 +1,63 @@
+# What run, test and bench share: installing what is missing, configuring and building. Sourced from the project's root.
+
+set -euo pipefail
+
+say() { printf '\033[1m%s\033[0m\n' "$*"; }
+die() { printf '%s\n' "$*" >&2; exit 1; }
+
+wanted_packages() { grep -vE '^\s*(#|$)' scripts/packages.txt; }
+
+missing_packages() {
+    local package
+    for package in $(wanted_packages); do
+        [ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || printf '%s ' "$package"
+    done
+}
+
+# apt as root, by sudo if need be. Another apt that is running is waited for.
+apt_as_root() {
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || die "These packages are missing and can only be installed by root (there is no sudo): $(missing_packages)"
+        as_root=(sudo)
+    fi
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300 -q "$@"
+}
+
+install_missing() {
+    command -v dpkg-query >/dev/null || die "This script knows Debian packages only; install by hand what scripts/packages.txt lists."
+    local missing
+    missing=$(missing_packages)
+    [ -n "$missing" ] || return 0
+    say "Installing: $missing"
+    apt_as_root update || die "The package lists could not be fetched; is there a network?"
+    # shellcheck disable=SC2086  # one word a package
+    apt_as_root install -y --no-install-recommends $missing || die "These packages could not be installed: $missing"
+}
+
+# build PRESET [TARGET...]
+build() {
+    local preset=$1
+    shift
+    say "Building ($preset) in build/$preset"
+    cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 || { cat "build/configure-$preset.log" >&2; die "Configuring failed."; }
+    cmake --build "build/$preset" ${@:+--target "$@"}
+}
+
+# Starts an X server of our own where there is no display, on a number that it chooses itself.
+need_display() {
+    [ -z "${DISPLAY:-}" ] || return 0
+    local pipe
+    pipe=$(mktemp -u "${TMPDIR:-/tmp}/vantor-display.XXXXXX")
+    mkfifo "$pipe"
+    Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$pipe" 2>/dev/null &
+    XVFB_PID=$!
+    DISPLAY=":$(timeout 20 head -n 1 "$pipe")"
+    rm -f "$pipe"
+    [ "$DISPLAY" != ":" ] || die "Xvfb did not start."
+    export DISPLAY
+}
+
+stop_display() { [ -z "${XVFB_PID:-}" ] || kill "$XVFB_PID" 2>/dev/null || true; }
+
+mkdir -p build

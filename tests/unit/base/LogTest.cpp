@@ -1,0 +1,70 @@
+#include "Base/Log.h"
+#include "Base/FileUtil.h"
+#include "support/CapturedLog.h"
+#include "support/TestDataRoot.h"
+
+#include <gtest/gtest.h>
+
+using Base::LogLevel;
+
+namespace {
+
+std::string FileLog(const std::string& folder)
+{
+    const std::string properties = folder + "log.properties";
+    Base::FileUtil::WriteFileAtomically(properties,
+                                        "log4j.rootLogger=INFO, F\n"
+                                        "log4j.appender.F=org.apache.log4j.FileAppender\n"
+                                        "log4j.appender.F.File=" +
+                                            folder +
+                                            "out.log\n"
+                                            "log4j.appender.F.layout=org.apache.log4j.PatternLayout\n"
+                                            "log4j.appender.F.layout.ConversionPattern=%p|%c|%F|%m%n\n");
+    return properties;
+}
+
+std::string Content(const std::string& path)
+{
+    std::string text;
+    Base::FileUtil::ReadFile(path, text);
+    return text;
+}
+
+TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
+{
+    TestDataRoot root;
+    BASE_INFO("lost before");
+    ASSERT_TRUE(Base::CLog::Instance().InitLog(FileLog(root.Path())));
+    BASE_FATAL("[%s] is not exist.", "x");
+    BASE_DEBUG("below the level");
+    BASE_ERROR_TO("VideoLogger", "Failed %d", 7);
+    Base::CLog::Instance().UninitLog();
+    BASE_ERROR("lost after");
+    Base::CLog::Instance().UninitLog();
+
+    const std::string text = Content(root.Path() + "out.log");
+    EXPECT_NE(text.find("FATAL|root|"), std::string::npos) << text;
+    EXPECT_NE(text.find("LogTest.cpp|[x] is not exist."), std::string::npos) << text;
+    EXPECT_NE(text.find("ERROR|VideoLogger|"), std::string::npos) << text;
+    EXPECT_EQ(text.find("lost"), std::string::npos) << text;
+    EXPECT_EQ(text.find("below"), std::string::npos) << text;
+}
+
+TEST(TheLog, ReportsAMissingPropertiesFile)
+{
+    EXPECT_FALSE(Base::CLog::Instance().InitLog("no/such/log.properties"));
+    Base::CLog::Instance().UninitLog();
+}
+
+TEST(TheLog, KeepsLongMessagesUpToItsLimit)
+{
+    CapturedLog log;
+    BASE_INFO("%s", std::string(600, 'a').c_str());
+    BASE_INFO("%s", std::string(100000, 'b').c_str());
+    const auto messages = log.Messages(LogLevel::Info);
+    ASSERT_EQ(messages.size(), 2u);
+    EXPECT_EQ(messages[0], std::string(600, 'a'));
+    EXPECT_EQ(messages[1], std::string(16 * 1024, 'b'));
+}
+
+} // namespace

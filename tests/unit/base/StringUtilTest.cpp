@@ -1,0 +1,80 @@
+#include "Base/StringUtil.h"
+#include "Base/GuidUtil.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <regex>
+#include <set>
+
+using namespace Base;
+using namespace Base::StringUtil;
+
+namespace {
+
+struct Replacement
+{
+    const char* text;
+    const char* from;
+    const char* to;
+    const char* result;
+};
+
+class AReplacement : public testing::TestWithParam<Replacement>
+{};
+
+TEST_P(AReplacement, ReplacesEveryOccurrenceOnce)
+{
+    EXPECT_EQ(StringReplace(GetParam().text, GetParam().from, GetParam().to), GetParam().result);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AReplacement,
+                         testing::Values(Replacement{"it's 'x'", "'", "''", "it''s ''x''"},
+                                         Replacement{"aaa", "aa", "b", "ba"},
+                                         Replacement{"abc", "", "x", "abc"}, Replacement{"", "a", "b", ""},
+                                         Replacement{"abc", "c", "", "ab"}));
+
+TEST(Split, KeepsEmptyParts)
+{
+    EXPECT_EQ(Split("a  b ", ' '), (std::vector<std::string>{"a", "", "b", ""}));
+    EXPECT_EQ(Split("", ' '), std::vector<std::string>{""});
+}
+
+TEST(CutUtf8, NeverCutsInsideACharacter)
+{
+    const std::string text = "aä中";
+    EXPECT_EQ(CutUtf8(text, 6), text);
+    EXPECT_EQ(CutUtf8(text, 5), "aä");
+    EXPECT_EQ(CutUtf8(text, 3), "aä");
+    EXPECT_EQ(CutUtf8(text, 2), "a");
+    EXPECT_EQ(CutUtf8(text, 0), "");
+}
+
+TEST(CodePages, TakeTheCLocaleAsUtf8AndReplaceBrokenBytes)
+{
+    std::setlocale(LC_CTYPE, "C");
+    EXPECT_EQ(LocalToUTF8("Grüße 中"), "Grüße 中");
+    EXPECT_EQ(UTF8ToLocal("Grüße 中"), "Grüße 中");
+    EXPECT_EQ(LocalToUTF8("a\xff z"), "a? z");
+    EXPECT_EQ(LocalToUTF8("cut \xe4\xb8"), "cut ??");
+}
+
+TEST(CodePages, ConvertMoreThanOneBuffer)
+{
+    std::string text;
+    for (int i = 0; i < 5000; ++i)
+        text += "中";
+    EXPECT_EQ(LocalToUTF8(text), text);
+}
+
+TEST(Guids, HaveTheUsualFormAndDiffer)
+{
+    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}");
+    std::set<std::string> seen;
+    for (int i = 0; i < 1000; ++i)
+        seen.insert(GuidUtil::CreateGuid());
+    EXPECT_EQ(seen.size(), 1000u);
+    EXPECT_TRUE(std::regex_match(*seen.begin(), form)) << *seen.begin();
+}
+
+} // namespace
