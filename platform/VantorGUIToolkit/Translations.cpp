@@ -53,7 +53,8 @@ bool CTranslations::Load(const QString& dir, int language)
     if (tag != english)
         (void)ReadAll(dir, english, loaded);
     const bool complete = ReadAll(dir, tag, loaded);
-    m_translators = std::move(loaded.translators); // a translator that goes takes itself out of the application
+    // A translator that goes takes itself out of the application.
+    m_translators = std::move(loaded.translators);
     m_files = loaded.files;
     for (const auto& translator : m_translators)
         QCoreApplication::installTranslator(translator.get());
