@@ -10,6 +10,9 @@ namespace Base {
 /// A piece of work for a message loop or pool.
 using Task = std::function<void()>;
 
+/// Runs a task; an exception that leaves it is logged and goes no further.
+void RunGuarded(const Task& task);
+
 /// Work that is left out when its owner is gone by the time it would run.
 class CCancelableTask
 {

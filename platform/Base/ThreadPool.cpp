@@ -42,16 +42,16 @@ namespace {
 /// The state of the pool that the current thread belongs to.
 thread_local const void* t_ownPool = nullptr;
 
-void RunGuarded(const Task& task, const std::string& pool)
+} // namespace
+
+void RunGuarded(const Task& task)
 {
     try {
         task();
     } catch (const std::exception& error) {
-        BASE_ERROR("A task of the pool [%s] failed: %s.", pool.c_str(), error.what());
+        BASE_ERROR("A task failed: %s.", error.what());
     }
 }
-
-} // namespace
 
 CThreadPool::CThreadPool(const std::string& name, std::size_t threads)
     : m_state(std::make_shared<State>(name, threads))
@@ -74,8 +74,7 @@ bool CThreadPool::PostTask(Task task)
             state->context.run();
         });
     }
-    State* state = m_state.get();
-    boost::asio::post(m_state->context, [state, work = std::move(task)] { RunGuarded(work, state->name); });
+    boost::asio::post(m_state->context, [work = std::move(task)] { RunGuarded(work); });
     return true;
 }
 

@@ -1,6 +1,7 @@
 #include "Base/CancelableTask.h"
 #include "Base/Error.h"
 #include "Base/MessageLoop.h"
+#include "Base/SerialTasks.h"
 #include "Base/Singleton.h"
 #include "Base/ThreadPool.h"
 #include "support/CapturedLog.h"
@@ -62,7 +63,31 @@ TEST(APool, LogsATaskThatThrowsAndGoesOn)
     pool.PostTask([&] { next = true; });
     pool.Stop();
     EXPECT_TRUE(next);
-    EXPECT_TRUE(log.Has("A task of the pool [test] failed: broken."));
+    EXPECT_TRUE(log.Has("A task failed: broken."));
+}
+
+TEST(SerialTasks, KeepTheirOrderOnAPoolOfManyThreads)
+{
+    CThreadPool pool("test", 4);
+    CSerialTasks serial([&](Task task) { return pool.PostTask(std::move(task)); });
+    std::vector<int> order;
+    for (int i = 0; i < 2000; ++i)
+        ASSERT_TRUE(serial.PostTask([&order, i] { order.push_back(i); }));
+    pool.Stop();
+    ASSERT_EQ(order.size(), 2000u);
+    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
+    EXPECT_FALSE(serial.PostTask([] {}));
+}
+
+TEST(SerialTasks, GoOnAfterATaskThatThrows)
+{
+    CThreadPool pool("test", 2);
+    CSerialTasks serial([&](Task task) { return pool.PostTask(std::move(task)); });
+    bool next = false;
+    serial.PostTask([] { throw std::runtime_error("broken"); });
+    serial.PostTask([&] { next = true; });
+    pool.Stop();
+    EXPECT_TRUE(next);
 }
 
 struct Owner

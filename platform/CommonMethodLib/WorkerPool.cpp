@@ -1,0 +1,26 @@
+#include "CommonMethodLib/WorkerPool.h"
+
+#include "Base/Singleton.h"
+
+#include <algorithm>
+#include <thread>
+
+namespace comm_methodlib {
+
+namespace {
+
+constexpr std::size_t kFewest = 2;
+constexpr std::size_t kMost = 8;
+
+} // namespace
+
+CWorkerPool& CWorkerPool::Instance()
+{
+    return Base::CSingleton<CWorkerPool>::Instance();
+}
+
+CWorkerPool::CWorkerPool()
+    : CThreadPool("worker", std::clamp<std::size_t>(std::thread::hardware_concurrency(), kFewest, kMost))
+{}
+
+} // namespace comm_methodlib

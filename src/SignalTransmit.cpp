@@ -1,0 +1,248 @@
+#include "SignalTransmit.h"
+
+#include "Base/Log.h"
+#include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/WindowJSONStruct.h"
+#include "WndIdManager.h"
+#include "logical/Communication/LPCClientPackage.h"
+#include "logical/Communication/LPCNames.h"
+
+#include <array>
+
+namespace video {
+
+namespace {
+
+using lpcclient::LPCCallBackData;
+
+/// A method of the framework with the signal that carries it and the slot that does the work.
+struct MethodRow
+{
+    const char* method;
+    void (CSignalTransmit::*signal)(const LPCCallBackData&);
+    void (CSignalTransmit::*slot)(const LPCCallBackData&);
+};
+
+using T = CSignalTransmit;
+
+constexpr std::array<MethodRow, 15> kMethods = {{
+    {"getWndHandle", &T::SignalGetWnd, &T::OnSignalGetWnd},
+    {"showMenuWnd", &T::SingnalShowMenuWnd, &T::OnSingnalShowMenuWnd},
+    {"widgetOperation", &T::SignalWidgetOperation, &T::OnSignalWidgetOperation},
+    {"systemConfigPageChanged", &T::SignalSystemConfigPageChanged, &T::OnSignalSystemConfigPageChanged},
+    {"systemConfigPageSave", &T::SignalSystemConfigPageSaved, &T::OnSignalSystemConfigPageSaved},
+    {"showWnd", &T::SignalShowWnd, &T::OnSignalShowWnd},
+    {"operateDownload", &T::SignalDownloadOperate, &T::OnSignalDownloadOperate},
+    {"componentStateNotify", &T::SignalNotifyMainViewState, &T::OnSignalSetMainViewStateProgress},
+    {"joystickKeyboardCtrl", &T::SignalJoystickKeyboardCtrl, &T::OnSignalJoystickKeyboardCtrl},
+    {"joystickKeyboard3DPtzCtrl", &T::SignalJoystickKeyboard3DPtzCtrl, &T::OnSignalJoystickKeyboard3DPtzCtrl},
+    {"getAuxiliaryScreenApp", &T::signalGetAuxiliaryScreenApp, &T::onGetAuxiliaryScreenApp},
+    {"appTabRemoved", &T::signalCloseWnd, &T::onCloseWnd},
+    {"switchUserStopWorking", &T::signalSwitchUserStopWorking, &T::onSwitchUserStopWorking},
+    {"switchUserUpdateFrame", &T::signalSwitchUserUpdateFrame, &T::onSwitchUserUpdateFrame},
+    {"frameworkMove", &T::signalFrameworkWindowMove, &T::onsignalFrameworkWindowMove},
+}};
+
+/// A method that carries nothing.
+struct PlainMethodRow
+{
+    const char* method;
+    void (CSignalTransmit::*signal)();
+};
+
+constexpr std::array<PlainMethodRow, 4> kPlainMethods = {{
+    {"clientDisconnected", &T::SignalQuit},
+    {"componentUninit", &T::SignalQuit},
+    {"tabSwitch", &T::SignalTabSwitch},
+    {"stopVideoVoiceTalk", &T::SignalStopVoiceTalk},
+}};
+
+/// A further live view that the framework can put on an auxiliary screen.
+struct AuxiliaryScreenRow
+{
+    const char* view;
+    const char* application;
+};
+
+constexpr std::array<AuxiliaryScreenRow, 3> kAuxiliaryScreens = {{
+    {"SecondLiveView", "MainView2"},
+    {"ThirdLiveView", "MainView3"},
+    {"FourthLiveView", "MainView4"},
+}};
+constexpr const char* kAuxiliaryIcon = "image/MainView_32x32.png";
+constexpr const char* kAuxiliarySelectedIcon = "image/MainView_sel_32x32.png";
+
+const AuxiliaryScreenRow* AuxiliaryScreenOf(const std::string& view)
+{
+    for (const AuxiliaryScreenRow& row : kAuxiliaryScreens)
+        if (view == row.view)
+            return &row;
+    return nullptr;
+}
+
+/// For a slot whose page this edition does not have.
+void LogNotServed(const LPCCallBackData& data)
+{
+    BASE_INFO("[%s] is not served.", data.Header(kMethodHeader).c_str());
+}
+
+} // namespace
+
+CSignalTransmit::CSignalTransmit(CWndIdManager& windows, ReplyMethod reply)
+    : m_windows(windows), m_reply(std::move(reply))
+{
+    qRegisterMetaType<LPCCallBackData>("lpcclient::LPCCallBackData");
+    ConnectAll();
+}
+
+CSignalTransmit& CSignalTransmit::Instance()
+{
+    static CSignalTransmit* const transmitter = new CSignalTransmit(
+        CWndIdManager::Instance(),
+        [](const LPCCallBackData& call, const std::string& method, protocol::ILPCData& payload) {
+            return CLPCClientPackage::Instance().ReplyMethod(call, method, payload);
+        });
+    return *transmitter;
+}
+
+void CSignalTransmit::ConnectAll()
+{
+    for (const MethodRow& row : kMethods)
+        connect(this, row.signal, this, row.slot);
+}
+
+void CSignalTransmit::ServeMethods(CRouteTable& methods)
+{
+    for (const MethodRow& row : kMethods)
+        methods.Bind(row.method, [this, row](const LPCCallBackData& data) { emit(this->*row.signal)(data); });
+    for (const PlainMethodRow& row : kPlainMethods)
+        methods.Bind(row.method, [this, row](const LPCCallBackData&) { emit(this->*row.signal)(); });
+}
+
+void CSignalTransmit::OnWebsocketNotify(const LPCCallBackData& data)
+{
+    emit SignalWebsocketNotify(data);
+}
+
+void CSignalTransmit::OnAlarmMessage(const LPCCallBackData& data)
+{
+    emit SignalAlarmMessage(data);
+}
+
+void CSignalTransmit::OnSignalGetWnd(const LPCCallBackData& data)
+{
+    protocol::GetWndHandleRequestData request;
+    protocol::LPCRequestData envelope(request);
+    if (!envelope.Parse(data.body))
+        return;
+    BASE_INFO("Get wnd id Name:[%s].", request.type.c_str());
+    if (envelope.method != request.Key())
+        return;
+    int wid = 0;
+    if (!m_windows.GetWID(request.type, wid)) {
+        BASE_ERROR("Get wnd id Error.");
+        return;
+    }
+    BASE_INFO("Get wnd Success id:[%d].", wid);
+    protocol::GetWndHandleResponseData response;
+    response.wndId = wid;
+    m_reply(data, envelope.method, response);
+}
+
+void CSignalTransmit::OnSignalShowWnd(const LPCCallBackData& data)
+{
+    protocol::ShowWndRequestData request;
+    protocol::LPCRequestData envelope(request);
+    if (!envelope.Parse(data.body))
+        return;
+    if (m_windows.ShowWnd(request.type))
+        BASE_INFO("Show Wnd[%s] Success", request.type.c_str());
+    else
+        BASE_ERROR("There is no window [%s] to show.", request.type.c_str());
+}
+
+void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
+{
+    protocol::GetAuxiliaryScreenAppRequestData request;
+    protocol::LPCRequestData envelope(request);
+    if (!envelope.Parse(data.body))
+        return;
+    const char* view = request.type.c_str();
+    BASE_INFO("GetAuxiliaryScreenApp APP-[%s]", view);
+    bool replied = false;
+    if (const AuxiliaryScreenRow* screen = AuxiliaryScreenOf(request.type)) {
+        protocol::GetAuxiliaryScreenAppResponseData response;
+        response.view = screen->view;
+        response.application = screen->application;
+        response.icon = kAuxiliaryIcon;
+        response.selectedIcon = kAuxiliarySelectedIcon;
+        BASE_INFO("Return AuxiliaryScreenApp APP-[%s]", view);
+        replied = m_reply(data, request.Key(), response);
+    }
+    if (replied)
+        BASE_INFO("Return AuxiliaryScreenApp finished! APP-[%s]", view);
+    else
+        BASE_ERROR("Return AuxiliaryScreenApp fail!!! APP-[%s]", view);
+}
+
+void CSignalTransmit::OnSignalSetMainViewStateProgress(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSingnalShowMenuWnd(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalWidgetOperation(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalSystemConfigPageChanged(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalSystemConfigPageSaved(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalDownloadOperate(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalJoystickKeyboardCtrl(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::OnSignalJoystickKeyboard3DPtzCtrl(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::onCloseWnd(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::onSwitchUserStopWorking(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::onSwitchUserUpdateFrame(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+void CSignalTransmit::onsignalFrameworkWindowMove(const LPCCallBackData& data)
+{
+    LogNotServed(data);
+}
+
+} // namespace video

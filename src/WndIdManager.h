@@ -1,0 +1,77 @@
+#pragma once
+
+#include "Base/Noncopyable.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace video {
+
+/// Creates and keeps the component's top-level pages and hands out their native window identifiers, under
+/// which the framework embeds them.
+///
+/// A page is created, without being shown, when its identifier is first asked for. All functions but Init
+/// belong to the GUI thread.
+class CWndIdManager : Base::CNoncopyable
+{
+public:
+    /// Makes the page of a window name; empty when there is none.
+    using PageFactory = std::function<std::unique_ptr<QWidget>(const std::string& name)>;
+
+    explicit CWndIdManager(PageFactory factory);
+
+    /// The process's pages; the factory is set by SetPageFactory.
+    static CWndIdManager& Instance();
+    void SetPageFactory(PageFactory factory) { m_factory = std::move(factory); }
+
+    /// What a getter waits for before it looks at the pages: the end of Init on its worker.
+    void SetReadyWait(std::function<void()> wait) { m_waitReady = std::move(wait); }
+
+    /// Start-up on a worker thread: draws up the table of windows. Creates no widget.
+    void Init();
+
+    /// Releases all pages, those of preview and playback first.
+    bool Finit();
+
+    /// The getter bound to a window name, with its result; false also for an unknown name.
+    bool GetWID(const std::string& name, int& wid);
+
+    bool GetMainViewWID(int& wid);
+    bool GetRemotePlaybackWID(int& wid) { return PageWID("RemotePlayback", wid); }
+    bool GetEncodingDeviceWID(int& wid) { return PageWID("EncodingDevice", wid); }
+    /// view: "AuxiliaryScreen", "SecondLiveView", "ThirdLiveView" or "FourthLiveView".
+    bool GetLiveViewWID(const std::string& view, int& wid) { return PageWID(view, wid); }
+    bool GetStoragePlanWID(int& wid) { return PageWID("StoragePlan", wid); }
+    bool GetRecordScheduleWID(int& wid) { return PageWID("RecordSchedule", wid); }
+    bool GetBroadcastWID(int& wid) { return PageWID("BroadcastWID", wid); }
+    bool GetAlarmOutputWID(int& wid) { return PageWID("AlarmOutput", wid); }
+    bool GetWiperWID(int& wid) { return PageWID("Wiper", wid); }
+    bool GetStreamMediaServerWID(int& wid) { return PageWID("StreamMediaServer", wid); }
+    bool GetVideoFileWID(int& wid) { return PageWID("VideoFile", wid); }
+    bool GetSnapshotFileWID(int& wid) { return PageWID("SnapshotFile", wid); }
+
+    /// Shows a page that was created before; false when there is none of the name.
+    bool ShowWnd(const std::string& name);
+
+    /// The names that GetWID knows, in the order of the table.
+    std::vector<std::string> Names() const;
+
+private:
+    using Getter = std::function<bool(CWndIdManager&, int&)>;
+
+    bool PageWID(const std::string& name, int& wid);
+    QWidget* PageOf(const std::string& name);
+    void ReleaseLiveViews();
+
+    PageFactory m_factory;
+    std::function<void()> m_waitReady;
+    std::vector<std::pair<std::string, Getter>> m_windows;
+    std::map<std::string, std::unique_ptr<QWidget>> m_pages;
+};
+
+} // namespace video

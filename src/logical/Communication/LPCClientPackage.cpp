@@ -1,0 +1,153 @@
+#include "logical/Communication/LPCClientPackage.h"
+
+#include "Base/Log.h"
+#include "CommonMethodLib/WorkerPool.h"
+#include "CommunicationLayer/FrameworkRequests.h"
+#include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
+#include "logical/Communication/LPCNames.h"
+
+namespace video {
+
+namespace {
+
+constexpr const char* kLogger = "VideoLogger";
+
+/// Passes the library's result on; a failure is logged with the library's reason.
+template<typename Result>
+Result LoggedSend(Result result)
+{
+    if (!result)
+        BASE_ERROR_TO(kLogger, "Failed to send. LastError: [%d].", lpcclient::GetLPCLastError());
+    return result;
+}
+
+/// One incoming message on its way through the worker pool, which owns it.
+class CDispatchTask
+{
+public:
+    CDispatchTask(const CLPCDispatcher& dispatcher, const lpcclient::LPCCallBackData& data)
+        : m_dispatcher(dispatcher), m_data(std::make_shared<const lpcclient::LPCCallBackData>(data))
+    {}
+
+    void operator()() const { m_dispatcher.Dispatch(*m_data); }
+
+private:
+    const CLPCDispatcher& m_dispatcher;
+    std::shared_ptr<const lpcclient::LPCCallBackData> m_data;
+};
+
+} // namespace
+
+CLPCClientPackage::CLPCClientPackage(PostTask postTask) : m_postTask(postTask), m_inOrder(std::move(postTask))
+{}
+
+CLPCClientPackage::~CLPCClientPackage() = default;
+
+CLPCClientPackage& CLPCClientPackage::Instance()
+{
+    static CLPCClientPackage* const link = new CLPCClientPackage(
+        [](Base::Task task) { return comm_methodlib::CWorkerPool::Instance().PostTask(std::move(task)); });
+    return *link;
+}
+
+void CLPCClientPackage::Init()
+{
+    if (!lpcclient::Init(kLPCClientName, false)) {
+        BASE_ERROR_TO(kLogger, "Failed to lpcclient::Init. LastError: [%d].", lpcclient::GetLPCLastError());
+        return;
+    }
+    if (!lpcclient::ConnectToServer(kLPCServerName)) {
+        BASE_ERROR_TO(kLogger, "Failed to lpcclient::connectToServer. LastError: [%d].",
+                      lpcclient::GetLPCLastError());
+        return;
+    }
+    const auto onInvoke = [](const lpcclient::LPCCallBackData& data, void* self) {
+        return static_cast<CLPCClientPackage*>(self)->OnInvoke(data);
+    };
+    if (!lpcclient::SetInvokeCallBack(onInvoke, this)) {
+        BASE_ERROR_TO(kLogger, "Failed to lpcclient::SetInvokeCallBack. LastError: [%d].",
+                      lpcclient::GetLPCLastError());
+        return;
+    }
+    RegisterServedUrls();
+    BASE_INFO("alarmRegisteredRet async start.");
+    m_alarmRegistered = std::async(std::launch::async, [this] { RegisterAlarm(); });
+}
+
+void CLPCClientPackage::UnInit()
+{
+    if (!lpcclient::SetInvokeCallBack({}, nullptr))
+        BASE_ERROR_TO(kLogger, "Failed to lpcclient::SetInvokeCallBack. LastError: [%d].",
+                      lpcclient::GetLPCLastError());
+    if (!lpcclient::DisconnectToServer())
+        BASE_ERROR_TO(kLogger, "Failed to lpcclient::DisconnectToServer. LastError: [%d].",
+                      lpcclient::GetLPCLastError());
+    // Disconnecting has ended the wait for the answer, so this takes no time.
+    if (m_alarmRegistered.valid())
+        m_alarmRegistered.get();
+    if (!lpcclient::Uninit())
+        BASE_ERROR_TO(kLogger, "Failed to lpcserver::Uninit. LastError: [%d].", lpcclient::GetLPCLastError());
+}
+
+bool CLPCClientPackage::Notify(const lpcclient::tag_LPCNotifyData& notification)
+{
+    return LoggedSend(lpcclient::Notify(notification));
+}
+
+bool CLPCClientPackage::Reply(const lpcclient::tag_LPCReplyData& reply)
+{
+    return LoggedSend(lpcclient::Reply(reply));
+}
+
+lpcclient::RequestId CLPCClientPackage::Send(const lpcclient::tag_LPCRequestData& request)
+{
+    return LoggedSend(lpcclient::Send(request));
+}
+
+bool CLPCClientPackage::SendEx(lpcclient::tag_LPCResponseData& response,
+                               const lpcclient::tag_LPCRequestData& request, lpcclient::RequestId& id,
+                               std::uint32_t timeoutMs)
+{
+    return LoggedSend(lpcclient::SendEx(response, request, id, timeoutMs));
+}
+
+bool CLPCClientPackage::NotifyMethod(const std::string& method)
+{
+    return Notify({{{kMethodHeader, method}}, protocol::LPCRequestData::Envelope(method)});
+}
+
+bool CLPCClientPackage::ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body)
+{
+    return Reply({call.requestId, call.headers, body});
+}
+
+bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, const std::string& method,
+                                    protocol::ILPCData& payload)
+{
+    return ReplyBody(call, protocol::LPCRequestData::Envelope(method, payload));
+}
+
+void CLPCClientPackage::RegisterAlarm()
+{
+    if (commlayer::CRegisterAlarm::request())
+        BASE_INFO("Register alarm success.");
+    else
+        BASE_ERROR_TO(kLogger, "Failed to register alarm.");
+}
+
+bool CLPCClientPackage::OnInvoke(const lpcclient::LPCCallBackData& data)
+{
+    CDispatchTask task(m_dispatcher, data);
+    if (data.Header(kProtocolHeader) == kHttpProtocol)
+        m_postTask(std::move(task));
+    else
+        m_inOrder.PostTask(std::move(task));
+    return true;
+}
+
+void CLPCClientPackage::RegisterServedUrls()
+{
+    commlayer::CRegisterComponent::request(m_servedUrls);
+}
+
+} // namespace video

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Base/Noncopyable.h"
+#include "Base/SerialTasks.h"
+#include "Protocol/JSONStruct/IJSONStruct.h"
+#include "logical/Communication/LPCDispatcher.h"
+
+#include <future>
+#include <string>
+
+namespace video {
+
+/// The component's link to the framework: connects, registers what the component serves, hands what arrives
+/// to the worker pool, and sends. Init and UnInit belong to the GUI thread; everything else may be called
+/// from any thread.
+class CLPCClientPackage : Base::CNoncopyable
+{
+public:
+    /// Posts work to the worker pool; false when the pool was stopped.
+    using PostTask = std::function<bool(Base::Task)>;
+
+    explicit CLPCClientPackage(PostTask postTask);
+    ~CLPCClientPackage();
+
+    /// The process's link, on the component's worker pool.
+    static CLPCClientPackage& Instance();
+
+    /// Where subsystems put their rows, before Init.
+    CLPCDispatcher& Dispatcher() { return m_dispatcher; }
+
+    /// The names that Init registers with the framework, in their order. Before Init.
+    void SetServedUrls(std::vector<std::string> urls) { m_servedUrls = std::move(urls); }
+
+    /// Connects and registers with the framework. Stops at the first failure; the component then runs without
+    /// a link.
+    void Init();
+
+    /// Ends the link. Waiting requests fail at once; tasks that are queued already still run. May be called
+    /// again.
+    void UnInit();
+
+    bool Notify(const lpcclient::tag_LPCNotifyData& notification);
+    bool Reply(const lpcclient::tag_LPCReplyData& reply);
+    lpcclient::RequestId Send(const lpcclient::tag_LPCRequestData& request);
+    bool SendEx(lpcclient::tag_LPCResponseData& response, const lpcclient::tag_LPCRequestData& request,
+                lpcclient::RequestId& id, std::uint32_t timeoutMs);
+
+    /// Sends a notification of this method with an empty payload.
+    bool NotifyMethod(const std::string& method);
+
+    /// Answers a call with the body, under the call's request identifier and header map.
+    bool ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body);
+
+    /// Answers a method call with a payload in the envelope of its method.
+    bool ReplyMethod(const lpcclient::LPCCallBackData& call, const std::string& method,
+                     protocol::ILPCData& payload);
+
+    /// Registers for the framework's alarms; waits for the answer.
+    void RegisterAlarm();
+
+private:
+    bool OnInvoke(const lpcclient::LPCCallBackData& data);
+    void RegisterServedUrls();
+
+    PostTask m_postTask;
+    Base::CSerialTasks m_inOrder; ///< methods and websocket notifications; "http" requests run side by side
+    CLPCDispatcher m_dispatcher;
+    std::vector<std::string> m_servedUrls;
+    std::future<void> m_alarmRegistered;
+};
+
+} // namespace video

@@ -1,0 +1,28 @@
+#pragma once
+
+/// Fixed names of the local channel between this component and the framework.
+namespace video {
+
+/// The component's client name; the lower-case "d" is part of it.
+constexpr const char* kLPCClientName = "Video.C_9AA5C3F1D41D467D813dE671443AF127";
+constexpr const char* kLPCServerName = "Vantor_ClientFramework_LPCServer_7F0AA04D76F64B58AB20037B4D99073F";
+
+constexpr const char* kUrlHeader = "url";
+constexpr const char* kMethodHeader = "method";
+constexpr const char* kProtocolHeader = "protocol";
+
+constexpr const char* kHttpProtocol = "http";
+constexpr const char* kWebsocketProtocol = "websocket";
+
+/// The websocket notification type that also goes to the transmitter's alarm entry.
+constexpr const char* kAlarmMessageType = "alarmMessage";
+
+namespace route {
+constexpr const char* kLocalFile = "/vantor/v1/internal/video/locaFile";
+constexpr const char* kVideoFileNotify = "/vantor/v1/internal/video/videoFileNotify";
+constexpr const char* kLocalFileQuery = "/vantor/v1/internal/video/localFileQuery";
+constexpr const char* kSystemConfigs = "/vantor/v1/internal/video/systemConfigs";
+constexpr const char* kBroadCastOperator = "/vantor/v1/internal/video/BroadCastOperator";
+} // namespace route
+
+} // namespace video

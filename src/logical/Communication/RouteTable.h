@@ -1,0 +1,45 @@
+#pragma once
+
+#include "LPC_Client/LPC_Client.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace video {
+
+/// Serves one kind of request or notification, on a thread of the worker pool.
+using LPCHandler = std::function<void(const lpcclient::LPCCallBackData& data)>;
+
+/// Handlers by exact, case-sensitive name. The rows are put in by the subsystems that own them, before the
+/// link is opened; from then on the table is only read, from any thread.
+class CRouteTable
+{
+public:
+    enum class Result { Served, NobodyServes, Unknown };
+
+    /// Adds a row that nobody serves yet, at the end of the order of names.
+    void Declare(const std::string& name);
+
+    /// Gives the row its handler, adding the row if need be. The latest handler holds.
+    void Bind(const std::string& name, LPCHandler handler);
+
+    /// Calls the row's handler.
+    Result Serve(const std::string& name, const lpcclient::LPCCallBackData& data) const;
+
+    /// All names in the order in which the rows were added.
+    std::vector<std::string> Names() const;
+
+private:
+    struct Row
+    {
+        std::string name;
+        LPCHandler handler;
+    };
+
+    Row& RowOf(const std::string& name);
+
+    std::vector<Row> m_rows; ///< some thirty: a walk is as quick as a map
+};
+
+} // namespace video

@@ -1,0 +1,57 @@
+#include "ui/Application/ServedRoutes.h"
+
+#include "ClientCommonLogical/NotifyCenterManager.h"
+#include "CommonMethodLib/WorkerPool.h"
+#include "SignalTransmit.h"
+#include "logical/Communication/LPCClientPackage.h"
+#include "logical/Communication/LPCNames.h"
+
+namespace video {
+
+namespace {
+
+/// In the order in which they are registered with the framework. The rows' handlers are bound by the
+/// subsystems that own them.
+const std::vector<std::string> kHttpRoutes = {route::kLocalFile, route::kVideoFileNotify,
+                                              route::kLocalFileQuery, route::kSystemConfigs,
+                                              route::kBroadCastOperator};
+
+/// A method that the framework also lets other clients address.
+constexpr const char* kRegisteredMethod = "operateDownload";
+
+void ServeLinkMethods(CLPCClientPackage& link)
+{
+    CRouteTable& methods = link.Dispatcher().Methods();
+    methods.Bind("hideShadeFrame", [](const lpcclient::LPCCallBackData&) {});
+    // The registration waits for its answer; the methods behind it in the queue do not wait with it.
+    methods.Bind("notifyRegisterAlarm", [&link](const lpcclient::LPCCallBackData&) {
+        comm_methodlib::CWorkerPool::Instance().PostTask([&link] { link.RegisterAlarm(); });
+    });
+}
+
+void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)
+{
+    link.Dispatcher().SetWebsocketSinks(
+        [](std::shared_ptr<protocol::WebSocketNotifyData> notification) {
+            clientcommon::CNotifyCenterManager::Instance().addNotify(std::move(notification));
+        },
+        [&transmitter](const lpcclient::LPCCallBackData& data) { transmitter.OnWebsocketNotify(data); },
+        [&transmitter](const lpcclient::LPCCallBackData& data) { transmitter.OnAlarmMessage(data); });
+}
+
+} // namespace
+
+void ServeAllRoutes(CLPCClientPackage& link, CSignalTransmit& transmitter)
+{
+    for (const std::string& url : kHttpRoutes)
+        link.Dispatcher().Http().Declare(url);
+    transmitter.ServeMethods(link.Dispatcher().Methods());
+    ServeLinkMethods(link);
+    ServeWebsocket(link, transmitter);
+
+    std::vector<std::string> urls = link.Dispatcher().Http().Names();
+    urls.push_back(kRegisteredMethod);
+    link.SetServedUrls(std::move(urls));
+}
+
+} // namespace video

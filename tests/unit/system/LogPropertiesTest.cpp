@@ -1,0 +1,103 @@
+#include "Base/FileUtil.h"
+#include "Base/Log.h"
+#include "Base/ProcessUtil.h"
+#include "CommonMethodLib/UserDataPath.h"
+#include "support/TestDataRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <regex>
+
+namespace {
+
+class LogProperties : public testing::Test
+{
+protected:
+    LogProperties() : m_umask(::umask(022))
+    {
+        const std::string installed = Base::FileUtil::GetCurExeDir() + "../";
+        EXPECT_TRUE(m_paths.init(installed, "Video.C", -1, -1));
+        EXPECT_TRUE(Base::CLog::Instance().InitLog(m_paths.logPropertiesPath()));
+    }
+    ~LogProperties() override
+    {
+        Base::CLog::Instance().UninitLog();
+        ::umask(m_umask);
+    }
+
+    std::string Written()
+    {
+        Base::CLog::Instance().UninitLog();
+        std::string text;
+        EXPECT_TRUE(Base::FileUtil::ReadFile(m_paths.logPath() + "Video.C.log", text, 64 * 1024 * 1024));
+        return text;
+    }
+
+    TestDataRoot m_data;
+    comm_methodlib::CUserDataPath m_paths;
+
+private:
+    mode_t m_umask;
+};
+
+TEST_F(LogProperties, LineShowsTimeLevelThreadLoggerPlaceAndFunction)
+{
+    Base::ProcessUtil::NameThisThread("test-thread");
+    BASE_WARN_TO("VideoLogger", "link lost, %d tries left", 3);
+    const int line = __LINE__ - 1;
+
+    const std::regex form(
+        R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3} (Z|[+-]\d{4}) WARN  \[test-thread\] VideoLogger )"
+        R"((?:\S*/)?LogPropertiesTest\.cpp:(\d+) \(TestBody\) link lost, 3 tries left\n)");
+    const std::string text = Written();
+    std::smatch match;
+    ASSERT_TRUE(std::regex_match(text, match, form)) << text;
+    EXPECT_EQ(match[2], std::to_string(line));
+}
+
+TEST_F(LogProperties, LevelsFromInfoUpwardAreWrittenOnceEach)
+{
+    BASE_DEBUG("not kept");
+    BASE_INFO("to the root");
+    BASE_ERROR_TO("VideoLogger", "to the link");
+    BASE_FATAL("worst");
+
+    const std::string text = Written();
+    const std::regex line(R"((INFO |ERROR|FATAL) \[[^\n]*\) ([^\n]*)\n)");
+    std::vector<std::string> found;
+    for (std::sregex_iterator i(text.begin(), text.end(), line), end; i != end; ++i)
+        found.push_back(i->str(1) + " " + i->str(2));
+    EXPECT_EQ(found, (std::vector<std::string>{"INFO  to the root", "ERROR to the link", "FATAL worst"}))
+        << text;
+    EXPECT_EQ(std::count(text.begin(), text.end(), '\n'), 3);
+}
+
+TEST_F(LogProperties, FullFileRollsOverAndFewOldOnesAreKept)
+{
+    const std::string filler(16 * 1000, 'x');
+    for (int megabytes = 0; megabytes < 50; ++megabytes)
+        for (int i = 0; i < 64; ++i)
+            BASE_INFO("%s", filler.c_str());
+
+    const std::uintmax_t size = Written().size();
+    EXPECT_LE(size, 8u * 1024 * 1024 + 20000);
+    std::size_t files = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(m_paths.logPath()))
+        files += entry.is_regular_file() ? 1 : 0;
+    EXPECT_EQ(files, 5u);
+}
+
+TEST_F(LogProperties, OnlyTheUserMayReadTheLog)
+{
+    BASE_INFO("one line");
+    Written();
+    struct stat found
+    {};
+    ASSERT_EQ(::stat((m_paths.logPath() + "Video.C.log").c_str(), &found), 0);
+    EXPECT_EQ(found.st_mode & 0777, 0600u);
+}
+
+} // namespace

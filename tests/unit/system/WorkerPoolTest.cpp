@@ -1,0 +1,50 @@
+#include "CommonMethodLib/WorkerPool.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <future>
+
+namespace {
+
+using comm_methodlib::CWorkerPool;
+constexpr auto kLimit = std::chrono::seconds(10);
+
+TEST(WorkerPool, OneSlowTaskDoesNotHoldUpTheNext)
+{
+    CWorkerPool pool;
+    std::promise<void> release, second;
+    ASSERT_TRUE(pool.PostTask([wait = release.get_future().share()] { wait.wait(); }));
+    ASSERT_TRUE(pool.PostTask([&second] { second.set_value(); }));
+    EXPECT_EQ(second.get_future().wait_for(kLimit), std::future_status::ready);
+    release.set_value();
+    pool.Stop();
+}
+
+TEST(WorkerPool, StopRunsWhatIsQueuedAndRefusesWhatComesLater)
+{
+    CWorkerPool pool;
+    std::atomic<int> done{0};
+    for (int i = 0; i < 1000; ++i)
+        ASSERT_TRUE(pool.PostTask([&done] { ++done; }));
+    pool.Stop();
+    EXPECT_EQ(done, 1000);
+    EXPECT_FALSE(pool.PostTask([&done] { ++done; }));
+    pool.Stop();
+    EXPECT_EQ(done, 1000);
+}
+
+TEST(WorkerPool, TaskMayStopThePoolItRunsOn)
+{
+    CWorkerPool pool;
+    std::promise<void> stopped;
+    ASSERT_TRUE(pool.PostTask([&] {
+        pool.Stop();
+        stopped.set_value();
+    }));
+    EXPECT_EQ(stopped.get_future().wait_for(kLimit), std::future_status::ready);
+    EXPECT_FALSE(pool.PostTask([] {}));
+}
+
+} // namespace
