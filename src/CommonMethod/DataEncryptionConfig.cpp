@@ -98,7 +98,8 @@ bool TakeLine(std::string_view& text, std::string_view name, std::string& value)
 std::optional<DataEncryption> FromPlainText(std::string_view text)
 {
     DataEncryption encryption;
-    const bool complete = TakeLine(text, "id=", encryption.id) && TakeLine(text, "key=", encryption.databaseKey) &&
+    const bool complete = TakeLine(text, "id=", encryption.id) &&
+                          TakeLine(text, "key=", encryption.databaseKey) &&
                           TakeLine(text, "data=", encryption.dataKey);
     if (!complete || !text.empty() || !IsHexKey(encryption.databaseKey) || !IsHexKey(encryption.dataKey))
         return std::nullopt;
@@ -134,8 +135,7 @@ Encrypt::AESParams DataEncryption::Params() const
 
 CDataEncryptionConfig::CDataEncryptionConfig(const std::string& file)
     : m_file(file), m_keyFile(fs::path(file).replace_extension(".key").string())
-{
-}
+{}
 
 DataEncryption CDataEncryptionConfig::Generate()
 {
@@ -146,7 +146,8 @@ DataEncryption CDataEncryptionConfig::Generate()
     return encryption;
 }
 
-// A file that cannot be looked at counts as there: taking it for missing would mean to go on without encryption.
+// A file that cannot be looked at counts as there: taking it for missing would mean to go on without
+// encryption.
 bool CDataEncryptionConfig::Exists() const
 {
     std::error_code error;
@@ -228,8 +229,8 @@ bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
     std::string plain = PlainText(encryption);
     const std::string sealed = Encrypt::Seal(*sealing, plain); // base64 needs no escaping
     Encrypt::Wipe(plain);
-    const std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<DESetup version=\"1\"><Sealed>" + sealed +
-                            "</Sealed></DESetup>\n";
+    const std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<DESetup version=\"1\"><Sealed>" +
+                            sealed + "</Sealed></DESetup>\n";
     if (Base::FileUtil::WriteFileAtomically(m_file, xml))
         return true;
     BASE_ERROR("Failed to write the file [%s].", m_file.c_str());

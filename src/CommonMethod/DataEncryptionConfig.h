@@ -27,10 +27,10 @@ struct DataEncryption
 
 /// The data-encryption setup file and the sealing key beside it.
 ///
-/// "DESetup.xml" is `<DESetup version="1"><Sealed>TEXT</Sealed></DESetup>` of at most 64 KiB. TEXT is what Base::Encrypt::Seal
-/// gives for the lines "id=...", "key=...", "data=..." (keys as 64 hexadecimal digits) under the sealing key, with the label
-/// "Vantor.DESetup.1". The sealing key is 32 bytes, in "DESetup.key" (the same name with ".key") as 64 hexadecimal digits,
-/// in a file of mode 0600.
+/// "DESetup.xml" is `<DESetup version="1"><Sealed>TEXT</Sealed></DESetup>` of at most 64 KiB. TEXT is what
+/// Base::Encrypt::Seal gives for the lines "id=...", "key=...", "data=..." (keys as 64 hexadecimal digits)
+/// under the sealing key, with the label "Vantor.DESetup.1". The sealing key is 32 bytes, in "DESetup.key"
+/// (the same name with ".key") as 64 hexadecimal digits, in a file of mode 0600.
 ///
 /// One thread at a time. Paths are in the local code page.
 class CDataEncryptionConfig
@@ -48,8 +48,8 @@ public:
     /// The setup; nothing after one line that says why not.
     std::optional<DataEncryption> Read() const;
 
-    /// Writes the setup file anew, in one step; the folder and the sealing key are made when they are missing. False after
-    /// one line.
+    /// Writes the setup file anew, in one step; the folder and the sealing key are made when they are
+    /// missing. False after one line.
     [[nodiscard]] bool Write(const DataEncryption& encryption) const;
 
     /// Deletes the setup file and its sealing key.

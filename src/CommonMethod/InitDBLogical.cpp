@@ -6,6 +6,9 @@
 #include "DatabaseUpdate/DataEncryptionMgr.h"
 #include "Sqlite3DO/SQLite3Conn.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace comm_method {
 namespace {
 
@@ -23,6 +26,31 @@ void Install(const DataEncryption& encryption)
 void LogMissing(const std::string& file)
 {
     BASE_FATAL("[%s] is not exist.", file.c_str());
+}
+
+std::vector<std::string> PresentSetups(const std::string& root, const std::string& frameworkSetup)
+{
+    std::vector<std::string> files{frameworkSetup};
+    for (const char* older : kOlderSetups)
+        files.push_back(root + older);
+    const auto missing = [](const std::string& file) { return !CDataEncryptionConfig(file).Exists(); };
+    files.erase(std::remove_if(files.begin(), files.end(), missing), files.end());
+    return files;
+}
+
+struct ReadSetup
+{
+    std::string file;
+    DataEncryption encryption;
+};
+
+std::optional<ReadSetup> FirstReadable(const std::vector<std::string>& files)
+{
+    for (const std::string& file : files) {
+        if (const auto encryption = CDataEncryptionConfig(file).Read())
+            return ReadSetup{file, *encryption};
+    }
+    return std::nullopt;
 }
 
 CComponentDBInit& ThisProcess()
@@ -72,13 +100,60 @@ bool CComponentDBInit::CheckDatabases(const std::vector<std::string>& databases,
     return false;
 }
 
-std::vector<CDataEncryptionConfig> CComponentDBInit::PresentSetups() const
+bool CComponentDBInit::InitEx(const std::vector<std::string>& databases,
+                              const std::vector<ComponentRecord>& components)
 {
-    std::vector<CDataEncryptionConfig> setups;
-    setups.emplace_back(FrameworkSetup());
-    for (const char* older : kOlderSetups)
-        setups.emplace_back(m_paths.rootPath + older);
-    return setups;
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_installed)
+        return CheckDatabases(databases, components);
+    const auto files = PresentSetups(m_paths.rootPath, FrameworkSetup());
+    if (files.empty()) {
+        LogMissing(FrameworkSetup());
+        return CheckDatabases(databases, components);
+    }
+    const auto setup = FirstReadable(files);
+    if (!setup)
+        return false;
+    Install(setup->encryption);
+    m_installed = true;
+    if (!CheckDatabases(databases, components))
+        return false;
+    if (setup->file == FrameworkSetup() || MoveToFramework(setup->encryption))
+        RemoveOlder();
+    return true;
+}
+
+// A setup that could not be read may still open something else; it is kept.
+bool CComponentDBInit::MoveToFramework(const DataEncryption& encryption) const
+{
+    const CDataEncryptionConfig setup(FrameworkSetup());
+    if (setup.Exists())
+        setup.SetAside();
+    if (!setup.Write(encryption))
+        return false;
+    const auto written = setup.Read();
+    return written && *written == encryption;
+}
+
+void CComponentDBInit::RemoveOlder() const
+{
+    for (const char* older : kOlderSetups) {
+        const CDataEncryptionConfig setup(m_paths.rootPath + older);
+        if (setup.Exists())
+            setup.Remove();
+    }
+}
+
+bool initComponentDBLogical(const std::vector<std::string>& databases,
+                            const std::vector<ComponentRecord>& components)
+{
+    return ThisProcess().Init(databases, components);
+}
+
+bool initComponentDBLogicalEx(const std::vector<std::string>& databases,
+                              const std::vector<ComponentRecord>& components)
+{
+    return ThisProcess().InitEx(databases, components);
 }
 
 } // namespace comm_method

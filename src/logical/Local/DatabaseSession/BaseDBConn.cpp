@@ -5,7 +5,10 @@
 #include "CommonMethodLib/UserDataPath.h"
 
 #define DB_LOCATION                                                                                          \
-    Base::LogLocation { __FILE__, __LINE__, BASE_LOG_FUNCTION }
+    Base::LogLocation                                                                                        \
+    {                                                                                                        \
+        __FILE__, __LINE__, BASE_LOG_FUNCTION                                                                \
+    }
 
 namespace video {
 namespace {
@@ -34,8 +37,7 @@ bool Guarded(const Base::LogLocation& location, Call call)
 
 CBaseDBConn::CBaseDBConn(const std::string& dbName)
     : CBaseDBConn(comm_methodlib::CUserDataPath::Instance().componentPath(), dbName)
-{
-}
+{}
 
 CBaseDBConn::CBaseDBConn(const std::string& folder, const std::string& dbName)
 {

@@ -7,11 +7,11 @@
 
 namespace video {
 
-/// The shared connection to one of the component's databases. Any thread; see Sqlite3DO::CSQLite3Conn for how statements
-/// and transactions of several threads take turns.
+/// The shared connection to one of the component's databases. Any thread; see Sqlite3DO::CSQLite3Conn for how
+/// statements and transactions of several threads take turns.
 ///
-/// Every call is guarded: a database error gives one fatal line with its code and text and the result false, and goes
-/// no further. A database that did not open fails every later call the same way.
+/// Every call is guarded: a database error gives one fatal line with its code and text and the result false,
+/// and goes no further. A database that did not open fails every later call the same way.
 class CBaseDBConn : Base::CNoncopyable
 {
 public:
@@ -27,8 +27,8 @@ public:
     /// Runs a query; rows is empty when it fails.
     bool Execute(const std::string& sql, Sqlite3DO::CSQLite3Recordset& rows);
 
-    /// Gives the connection to the calling thread until Commit; not reentrant. After a Begin that failed the statements
-    /// stand for themselves. CBaseDBTransaction ends the transaction on every path.
+    /// Gives the connection to the calling thread until Commit; not reentrant. After a Begin that failed the
+    /// statements stand for themselves. CBaseDBTransaction ends the transaction on every path.
     bool Begin();
 
     /// False when a statement since Begin failed; everything since then is taken back.
@@ -48,7 +48,9 @@ private:
 class CBaseDBTransaction : Base::CNoncopyable
 {
 public:
-    explicit CBaseDBTransaction(CBaseDBConn& connection) : m_connection(connection), m_begun(connection.Begin()) {}
+    explicit CBaseDBTransaction(CBaseDBConn& connection)
+        : m_connection(connection), m_begun(connection.Begin())
+    {}
     ~CBaseDBTransaction()
     {
         if (m_begun)

@@ -8,8 +8,8 @@ namespace video {
 class VideoSystemDB
 {
 public:
-    /// Opens the database on first use; any thread. The object lives as long as the process. The file is closed at exit,
-    /// unless a worker is still in it.
+    /// Opens the database on first use; any thread. The object lives as long as the process. The file is
+    /// closed at exit, unless a worker is still in it.
     static CBaseDBConn& Instance();
 };
 
