@@ -8,7 +8,7 @@
 #include "Protocol/JSONStruct/HTTP/SystemJSONStruct.h"
 #include "Protocol/JSONStruct/HTTP/ToolJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
-#include "Protocol/JSONStruct/LPC/WindowJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/WndJSONStruct.h"
 #include "Protocol/JSONStruct/WebSocket/WebSocketCommonJSONStruct.h"
 
 namespace protocol {

@@ -162,14 +162,13 @@ TEST(LPCEnvelope, RefusesWithOneLineWhatIsNoEnvelope)
     }
 }
 
-TEST(LPCEnvelope, IsWrittenWithAndWithoutPayload)
+TEST(LPCEnvelope, IsWrittenUnderThePayloadsMethod)
 {
     GetWndHandleResponseData response;
     response.wndId = 0x7FFFFFFF01;
-    EXPECT_EQ(LPCRequestData::Envelope("getWndHandle", response),
-              R"({"method":"getWndHandle","data":{"wndId":549755813633}})");
-    EXPECT_EQ(LPCRequestData::Envelope("initFinish"), R"({"method":"initFinish"})");
-    EXPECT_EQ(WriteJSONStr(LPCRequestData(response)), LPCRequestData::Envelope("getWndHandle", response));
+    EXPECT_EQ(WriteLPCStr(response), R"({"method":"getWndHandle","data":{"wndId":549755813633}})");
+    EXPECT_EQ(WriteLPCStr(std::string("initFinish")), R"({"method":"initFinish"})");
+    EXPECT_EQ(WriteJSONStr(LPCRequestData(response)), WriteLPCStr(response));
 }
 
 TEST(WebSocketNotification, KeepsItsDataForALaterReader)

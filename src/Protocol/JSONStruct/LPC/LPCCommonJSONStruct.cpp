@@ -52,14 +52,14 @@ void LPCRequestData::ToJSON(cJSON* parent, const char* key) const
     json::Attach(parent, key, NewEnvelope(method, m_payload));
 }
 
-std::string LPCRequestData::Envelope(const std::string& method)
+std::string WriteLPCStr(const IJSONStruct& payload)
 {
-    return json::PrintText(NewEnvelope(method, nullptr).get());
+    return json::PrintText(NewEnvelope(payload.Key(), &payload).get());
 }
 
-std::string LPCRequestData::Envelope(const std::string& method, const IJSONStruct& payload)
+std::string WriteLPCStr(const std::string& method)
 {
-    return json::PrintText(NewEnvelope(method, &payload).get());
+    return json::PrintText(NewEnvelope(method, nullptr).get());
 }
 
 } // namespace protocol

@@ -23,10 +23,6 @@ public:
     /// is no envelope or its data does not fit the payload; see ParseJSONUtil.h for the log lines.
     [[nodiscard]] bool Parse(const std::string& body);
 
-    /// The body of a method's request, reply or notification, without payload and with one.
-    static std::string Envelope(const std::string& method);
-    static std::string Envelope(const std::string& method, const IJSONStruct& payload);
-
     [[nodiscard]] bool FromJSON(const cJSON* item) override;
     void ToJSON(cJSON* parent, const char* key) const override;
     const char* Key() const override { return ""; }
@@ -34,5 +30,12 @@ public:
 private:
     IJSONStruct* m_payload = nullptr;
 };
+
+/// The body of a method's request, reply or notification: the envelope with the payload, under the payload's
+/// key.
+std::string WriteLPCStr(const IJSONStruct& payload);
+
+/// The body of a method without payload: {"method": "..."}.
+std::string WriteLPCStr(const std::string& method);
 
 } // namespace protocol

@@ -52,16 +52,16 @@ struct GetAuxiliaryScreenAppRequestData : CMessage<GetAuxiliaryScreenAppRequestD
 struct GetAuxiliaryScreenAppResponseData : CMessage<GetAuxiliaryScreenAppResponseData, ILPCData>
 {
     static constexpr const char* kKey = "getAuxiliaryScreenApp";
-    std::string view;         ///< the view asked for
-    std::string application;  ///< for example "MainView2"
+    std::string type;         ///< the view asked for
+    std::string appName;      ///< for example "MainView2"
     std::string icon;         ///< path below the component's resources
     std::string selectedIcon; ///< the same for the selected state
 
     static constexpr auto Fields()
     {
         using T = GetAuxiliaryScreenAppResponseData;
-        return std::make_tuple(Must("view", &T::view), Must("application", &T::application),
-                               May("icon", &T::icon), May("selectedIcon", &T::selectedIcon));
+        return std::make_tuple(Must("type", &T::type), Must("appName", &T::appName), May("icon", &T::icon),
+                               May("selectedIcon", &T::selectedIcon));
     }
 };
 
