@@ -259,8 +259,7 @@ void CSQLite3Engine::CopyTo(const std::string& path, const std::string& key)
 
 void CSQLite3Engine::ExportEncrypted(const std::string& path, const std::string& key)
 {
-    if (!IsKeyText(key))
-        throw CSQLite3Exception(kErrorMisuse, "the database key is not of 64 hexadecimal digits");
+    CSQLite3Engine(path, Mode::CreateCopy, key); // attaching a file makes none
     const char* position = "ATTACH DATABASE ?1 AS target KEY ?2";
     const StatementHandle attach = PrepareNext(m_db, position, position + std::strlen(position));
     const RawKey raw(key);
