@@ -2,8 +2,8 @@
 #
 #   vantor_library(Base FLOOR 0 LINKS PkgConfig::LOG4CXX)
 #
-# takes every *.cpp of the folder and of its posix/ or win32/ folder. FLOOR is a number; the fraction gives the order
-# within floor 0. DIR names another folder than the current one.
+# takes every *.cpp of the folder and of its posix/ or win32/ folder, or only SOURCES where these are given. FLOOR is a
+# number; the fraction gives the order within floor 0.
 
 set(VANTOR_SOURCE_ROOTS platform src)
 
@@ -17,12 +17,20 @@ function(vantor_sources out dir)
     set(${out} ${found} ${system} PARENT_SCOPE)
 endfunction()
 
-function(vantor_register target floor dir)
+# Reads the arguments of a target, notes it for the check of floors, and gives its sources.
+macro(vantor_begin target)
+    cmake_parse_arguments(ARG "" "FLOOR;OUTPUT" "LINKS;SOURCES" ${ARGN})
+    if(ARG_SOURCES)
+        list(TRANSFORM ARG_SOURCES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/" OUTPUT_VARIABLE sources)
+    else()
+        vantor_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
+    endif()
     set_property(GLOBAL APPEND PROPERTY VANTOR_TARGETS ${target})
-    set_property(GLOBAL PROPERTY VANTOR_FLOOR_${target} ${floor})
-    set_property(GLOBAL PROPERTY VANTOR_DIR_${target} ${dir})
-    set_property(GLOBAL PROPERTY VANTOR_LINKS_${target} ${ARGN})
-endfunction()
+    set_property(GLOBAL PROPERTY VANTOR_FLOOR_${target} ${ARG_FLOOR})
+    set_property(GLOBAL PROPERTY VANTOR_DIR_${target} "${CMAKE_CURRENT_SOURCE_DIR}")
+    set_property(GLOBAL PROPERTY VANTOR_FILES_${target} ${ARG_SOURCES})
+    set_property(GLOBAL PROPERTY VANTOR_LINKS_${target} ${ARG_LINKS})
+endmacro()
 
 function(vantor_configure target)
     target_include_directories(${target} PUBLIC "${CMAKE_SOURCE_DIR}/platform" "${CMAKE_SOURCE_DIR}/src")
@@ -36,12 +44,7 @@ function(vantor_configure target)
 endfunction()
 
 function(vantor_library target)
-    cmake_parse_arguments(ARG "" "FLOOR;DIR" "LINKS" ${ARGN})
-    if(NOT ARG_DIR)
-        set(ARG_DIR "${CMAKE_CURRENT_SOURCE_DIR}")
-    endif()
-    vantor_sources(sources "${ARG_DIR}")
-    vantor_register(${target} ${ARG_FLOOR} "${ARG_DIR}" ${ARG_LINKS})
+    vantor_begin(${target} ${ARGN})
     if(sources MATCHES "\\.cpp")
         add_library(${target} STATIC ${sources})
         target_link_libraries(${target} PUBLIC ${ARG_LINKS})
@@ -55,12 +58,7 @@ endfunction()
 
 # A program of one folder. OUTPUT names the file when it differs from the target.
 function(vantor_program target)
-    cmake_parse_arguments(ARG "" "FLOOR;DIR;OUTPUT" "LINKS" ${ARGN})
-    if(NOT ARG_DIR)
-        set(ARG_DIR "${CMAKE_CURRENT_SOURCE_DIR}")
-    endif()
-    vantor_sources(sources "${ARG_DIR}")
-    vantor_register(${target} ${ARG_FLOOR} "${ARG_DIR}" ${ARG_LINKS})
+    vantor_begin(${target} ${ARGN})
     add_executable(${target} ${sources})
     target_link_libraries(${target} PRIVATE ${ARG_LINKS})
     vantor_configure(${target} ${ARG_LINKS})
@@ -115,11 +113,20 @@ function(vantor_reach out target)
     set(${out} ${reach} PARENT_SCOPE)
 endfunction()
 
-# The target in whose folder (the nearest one above it) a file lies.
+# The target that names a file among its sources, or else in whose folder (the nearest one above it) the file lies.
 function(vantor_owner out file)
     set(${out} "" PARENT_SCOPE)
     get_filename_component(dir "${file}" DIRECTORY)
+    get_filename_component(name "${file}" NAME)
     get_property(targets GLOBAL PROPERTY VANTOR_TARGETS)
+    foreach(target IN LISTS targets)
+        get_property(folder GLOBAL PROPERTY VANTOR_DIR_${target})
+        get_property(files GLOBAL PROPERTY VANTOR_FILES_${target})
+        if(folder STREQUAL dir AND name IN_LIST files)
+            set(${out} ${target} PARENT_SCOPE)
+            return()
+        endif()
+    endforeach()
     while(NOT dir STREQUAL CMAKE_SOURCE_DIR AND NOT dir STREQUAL "/")
         foreach(target IN LISTS targets)
             get_property(folder GLOBAL PROPERTY VANTOR_DIR_${target})

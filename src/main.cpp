@@ -4,6 +4,7 @@
 #include "Base/StringUtil.h"
 #include "CommonMethodLib/UserDataPath.h"
 #include "CrashAPI/CrashAPI.h"
+#include "SignalTransmit.h"
 #include "UiDataController/HighDPIMgr.h"
 #include "ui/Application/CrashSetup.h"
 #include "ui/Application/VantorApplication.h"
@@ -49,13 +50,15 @@ int FailedInit(std::unique_ptr<video::CVantorApplication> application, std::futu
 int main(int argc, char* argv[])
 {
     std::setlocale(LC_CTYPE, "");
-    Base::ProcessUtil::EndWithParent();
+    Base::ProcessUtil::HoldEndRequests();
     PreparePaths();
     Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    CrashAPI_PrepareThread();
     std::future<void> crashSetup = std::async(std::launch::async, video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
     auto application = std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
+    Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
     AddPluginPath();
     if (!application->Init())
         return FailedInit(std::move(application), crashSetup);

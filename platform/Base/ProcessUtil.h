@@ -1,13 +1,18 @@
 #pragma once
 
 #include <cstdint>
-
+#include <functional>
 #include <string>
 
 namespace Base::ProcessUtil {
 
-/// Ends this process with the one that started it, however that one ends. Call from the main thread at start.
-void EndWithParent();
+/// From here on a request to end waits until OnEndRequest names who serves it: the system's termination
+/// signals, and the end of the process (POSIX: of its thread) that started this one. Call from the main
+/// thread, before any other thread starts.
+void HoldEndRequests();
+
+/// Calls serve, once and on a thread of its own, when the process is asked to end or was asked already.
+void OnEndRequest(std::function<void()> serve);
 
 /// Shows the calling thread under this name (at most 15 bytes are kept) in debuggers and crash reports.
 void NameThisThread(const std::string& name);

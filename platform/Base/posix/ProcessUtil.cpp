@@ -6,16 +6,43 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <thread>
 
 namespace Base::ProcessUtil {
 
-void EndWithParent()
+namespace {
+
+sigset_t EndSignals()
 {
+    sigset_t signals;
+    ::sigemptyset(&signals);
+    ::sigaddset(&signals, SIGTERM);
+    ::sigaddset(&signals, SIGINT);
+    return signals;
+}
+
+} // namespace
+
+void HoldEndRequests()
+{
+    const sigset_t signals = EndSignals();
+    ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
     const pid_t parent = ::getppid();
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
-    // The parent may have ended before the request was made; the new parent's end means nothing to us.
+    // The parent may have ended before the signal was asked for; its successor's end means nothing to us.
     if (::getppid() != parent)
-        std::raise(SIGTERM);
+        ::kill(::getpid(), SIGTERM);
+}
+
+void OnEndRequest(std::function<void()> serve)
+{
+    std::thread([serve = std::move(serve)] {
+        NameThisThread("end-request");
+        const sigset_t signals = EndSignals();
+        int received = 0;
+        ::sigwait(&signals, &received);
+        serve();
+    }).detach();
 }
 
 void NameThisThread(const std::string& name)

@@ -26,16 +26,19 @@ DWORD ParentProcessId()
 
 } // namespace
 
-// A parent that uses a job object with "kill on close" needs nothing from us; this watch serves those that
-// don't.
-void EndWithParent()
+// Windows has no signal to hold back: a console or session end closes the process, and the parent is watched
+// below.
+void HoldEndRequests() {}
+
+void OnEndRequest(std::function<void()> serve)
 {
     const HANDLE parent = ::OpenProcess(SYNCHRONIZE, FALSE, ParentProcessId());
     if (!parent)
         return;
-    std::thread([parent] {
+    std::thread([parent, serve = std::move(serve)] {
         ::WaitForSingleObject(parent, INFINITE);
-        ::TerminateProcess(::GetCurrentProcess(), 1);
+        ::CloseHandle(parent);
+        serve();
     }).detach();
 }
 

@@ -1,0 +1,180 @@
+#include "CrashAPI/CrashAPI.h"
+
+#include <pthread.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <future>
+#include <stdexcept>
+#include <string>
+#include <thread>
+
+/// crash_child WAY FOLDER [OPTION...]: sets up as the component does and crashes. The functions that crash
+/// are exported, so that reports name them.
+
+#define CRASH_FUNCTION                                                                                       \
+    extern "C" __attribute__((visibility("default"), noinline, no_sanitize("address", "undefined")))
+
+namespace {
+
+volatile int g_zero = 0;
+volatile int g_sum = 0;
+
+} // namespace
+
+CRASH_FUNCTION void WriteToNull()
+{
+    *reinterpret_cast<volatile int*>(static_cast<std::uintptr_t>(g_zero)) = 1;
+}
+
+CRASH_FUNCTION void WriteToConstant()
+{
+    void* page = ::mmap(nullptr, 4096, PROT_READ, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    *static_cast<volatile char*>(page) = 1;
+}
+
+CRASH_FUNCTION void CallAbort()
+{
+    std::abort();
+}
+
+CRASH_FUNCTION void ThrowUncaught()
+{
+    throw std::runtime_error("nobody catches this");
+}
+
+CRASH_FUNCTION void DivideByZero()
+{
+    g_sum = 1 / g_zero;
+}
+
+CRASH_FUNCTION void RunIllegalInstruction()
+{
+    __builtin_trap();
+}
+
+CRASH_FUNCTION int OverflowStack(int depth)
+{
+    volatile char frame[4096];
+    if (g_zero != 0)
+        return 0;
+    frame[0] = static_cast<char>(depth);
+    g_sum = g_sum + OverflowStack(depth + 1) + frame[0];
+    return g_sum;
+}
+
+CRASH_FUNCTION void SendTrap()
+{
+    std::raise(SIGTRAP);
+}
+
+namespace {
+
+void OverflowStackHere()
+{
+    OverflowStack(0);
+}
+
+struct Way
+{
+    const char* name;
+    void (*crash)();
+};
+constexpr Way kWays[] = {
+    {"null-write", WriteToNull},
+    {"constant-write", WriteToConstant},
+    {"abort", CallAbort},
+    {"throw", ThrowUncaught},
+    {"divide", DivideByZero},
+    {"illegal", RunIllegalInstruction},
+    {"overflow", OverflowStackHere},
+    {"trap", SendTrap},
+};
+
+void RunOn(const char* name, bool prepared, void (*crash)())
+{
+    std::thread([&] {
+        ::pthread_setname_np(::pthread_self(), name);
+        if (prepared && !CrashAPI_PrepareThread())
+            std::_Exit(2);
+        crash();
+    }).join();
+}
+
+/// Both threads crash as nearly at once as can be.
+void CrashTwice(void (*crash)())
+{
+    std::atomic<int> ready{0};
+    const auto together = [&] {
+        ++ready;
+        while (ready < 2)
+            ;
+        crash();
+    };
+    std::thread first(together), second(together);
+    first.join();
+    second.join();
+}
+
+bool Has(int argc, char** argv, const char* option)
+{
+    for (int i = 3; i < argc; ++i)
+        if (std::strcmp(argv[i], option) == 0)
+            return true;
+    return false;
+}
+
+/// As the component does it: on a thread that ends soon.
+bool SetUp(const std::string& folder, bool full)
+{
+    return std::async(std::launch::async,
+                      [&] {
+                          const bool pathTaken = folder.empty() || CrashAPI_SetDumpPath(folder.c_str());
+                          return CrashAPI_Init() && pathTaken && CrashAPI_SetDumpType(full ? 0x9B67 : 0) &&
+                                 CrashAPI_SetDumpMaxCount(1);
+                      })
+        .get();
+}
+
+extern "C" void SayGoodbye(int)
+{
+    (void)!::write(STDOUT_FILENO, "goodbye\n", 8);
+    std::_Exit(7);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc < 3)
+        return 2;
+    void (*crash)() = nullptr;
+    for (const Way& way : kWays)
+        if (std::strcmp(way.name, argv[1]) == 0)
+            crash = way.crash;
+    if (Has(argc, argv, "own-handler"))
+        std::signal(SIGSEGV, SayGoodbye);
+    if (!crash || !SetUp(argv[2], Has(argc, argv, "full")) || !CrashAPI_PrepareThread())
+        return 2;
+    if (Has(argc, argv, "twice-on"))
+        CrashAPI_Init();
+    if (Has(argc, argv, "uninit") && !(CrashAPI_Uninit() && CrashAPI_Uninit()))
+        return 2;
+    if (Has(argc, argv, "again") && !CrashAPI_Init())
+        return 2;
+
+    if (Has(argc, argv, "in-worker"))
+        RunOn("worker-7", true, crash);
+    else if (Has(argc, argv, "in-plain-thread"))
+        RunOn("plain", false, crash);
+    else if (Has(argc, argv, "in-two-threads"))
+        CrashTwice(crash);
+    else
+        crash();
+    return 0;
+}

@@ -1,0 +1,129 @@
+#include "system/ComponentRun.h"
+
+#include "Base/FileUtil.h"
+#include "Base/StringUtil.h"
+
+#include <sys/wait.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+namespace {
+
+constexpr auto kLookAgain = std::chrono::milliseconds(20);
+
+std::string Content(const std::string& path)
+{
+    std::string text;
+    Base::FileUtil::ReadFile(path, text, 64 * 1024 * 1024);
+    return text;
+}
+
+/// Asks again and again until the condition holds or the time is over.
+template<typename Condition>
+bool WaitUntil(Condition condition, int seconds)
+{
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
+    while (!condition()) {
+        if (std::chrono::steady_clock::now() > end)
+            return false;
+        std::this_thread::sleep_for(kLookAgain);
+    }
+    return true;
+}
+
+} // namespace
+
+ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir())
+{
+    // The log holds the message alone, so that it can be compared word for word.
+    std::filesystem::create_directories(DataPath());
+    std::ofstream(DataPath() + "log.properties")
+        << "log4j.rootLogger=DEBUG, file\n"
+           "log4j.appender.file=org.apache.log4j.FileAppender\n"
+           "log4j.appender.file.File=${VANTOR_LOG_DIR}/Video.C.log\n"
+           "log4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
+           "log4j.appender.file.layout.ConversionPattern=%m%n\n";
+    if (!std::getenv("DISPLAY"))
+        setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+int ComponentRun::Play(const std::string& script)
+{
+    const std::string path = Path() + "script.jsonl";
+    std::ofstream(path) << script;
+    return Shell(HostCommand(path));
+}
+
+int ComponentRun::PlayFile(const std::string& name)
+{
+    return Shell(HostCommand(std::string(VANTOR_SCRIPTS) + "/" + name));
+}
+
+int ComponentRun::Shell(const std::string& command) const
+{
+    const std::string logged = "( " + command + " ) >" + Path() + "output 2>&1";
+    const int status = std::system(logged.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
+
+std::string ComponentRun::Component() const
+{
+    return m_bin + "Vantor.Video.C 1 2 'BlackRedSkin 1 0 0 0 0'";
+}
+
+std::string ComponentRun::HostCommand(const std::string& scriptPath) const
+{
+    return m_bin + "vantor-lpc host --script " + scriptPath + " --spawn " + m_bin + "Vantor.Video.C";
+}
+
+std::vector<std::string> ComponentRun::LogMessages() const
+{
+    return Base::StringUtil::Split(Content(DataPath() + "log/Video.C.log"), '\n');
+}
+
+std::vector<std::string> ComponentRun::MissingInOrder(const std::vector<std::string>& wanted) const
+{
+    std::vector<std::string> missing;
+    const auto messages = LogMessages();
+    auto from = messages.begin();
+    for (const std::string& text : wanted) {
+        const auto found = std::find(from, messages.end(), text);
+        if (found == messages.end())
+            missing.push_back(text);
+        else
+            from = found + 1;
+    }
+    return missing;
+}
+
+bool ComponentRun::WaitForLog(const std::string& message, int seconds) const
+{
+    return WaitUntil([&] { return MissingInOrder({message}).empty(); }, seconds);
+}
+
+bool ComponentRun::IsRunning() const
+{
+    for (const auto& process : std::filesystem::directory_iterator("/proc")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(process.path() / "exe", ignored) != m_bin + "Vantor.Video.C")
+            continue;
+        if (Content(process.path() / "environ")
+                .find("VANTOR_USER_DATA=" + Path().substr(0, Path().size() - 1)) != std::string::npos)
+            return true;
+    }
+    return false;
+}
+
+bool ComponentRun::WaitUntilEnded(int seconds) const
+{
+    return WaitUntil([&] { return !IsRunning(); }, seconds);
+}
+
+std::string ComponentRun::Output() const
+{
+    return Content(Path() + "output");
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "support/TestDataRoot.h"
+
+#include <string>
+#include <vector>
+
+/// Runs of the real programs in a data root of their own.
+class ComponentRun
+{
+public:
+    ComponentRun();
+
+    /// Plays a script with vantor-lpc host, which starts the component; the exit code. The text is written to
+    /// a file; see PlayFile for the scripts that lie beside these tests.
+    int Play(const std::string& script);
+    int PlayFile(const std::string& name);
+
+    /// Runs a shell command with the data root in its environment; the exit code, 128 + signal for a killed
+    /// one.
+    int Shell(const std::string& command) const;
+
+    /// The command that starts the component with the usual arguments.
+    std::string Component() const;
+    std::string HostCommand(const std::string& scriptPath) const;
+
+    /// The messages of the component's log, in order.
+    std::vector<std::string> LogMessages() const;
+
+    /// The texts that are missing in the log, or not in this order.
+    std::vector<std::string> MissingInOrder(const std::vector<std::string>& wanted) const;
+
+    /// Waits until the log has a message; false after the time.
+    bool WaitForLog(const std::string& message, int seconds) const;
+
+    /// True while a component runs on this data root.
+    bool IsRunning() const;
+    bool WaitUntilEnded(int seconds) const;
+
+    std::string Path() const { return m_root.Path(); }
+    std::string DataPath() const { return Path() + "Video.C/"; }
+    /// What the last run printed.
+    std::string Output() const;
+
+private:
+    TestDataRoot m_root;
+    std::string m_bin;
+};

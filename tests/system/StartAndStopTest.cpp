@@ -1,0 +1,165 @@
+#include "system/ComponentRun.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <signal.h>
+
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+using testing::Contains;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+namespace {
+
+const std::vector<std::string> kParameters = {
+    "InitSysParameter:in0", "InitSysParameter:in1", "InitSysParameter:in2", "fInitReportManager async start",
+    "InitSysParameter:list-BlackRedSkin 1 0 0 0 0,skin-BlackRedSkin,lan-1,vers-0"};
+
+const std::vector<std::string> kStagesBeforeDatabase = {"fInitDatabase async start.",
+                                                        "RemoteConfigController CreateInstance",
+                                                        "RemoteConfigController InitRemoteConfig",
+                                                        "LoadConfigFile Success.",
+                                                        "LoadFont Success.",
+                                                        "LoadSkin Success.",
+                                                        "LoadStyle Success.",
+                                                        "InitGuiToolKit Success."};
+
+const std::vector<std::string> kStagesAfterDatabase = {
+    "m_fInitWinIDAndSystemManager async start.", "InitManager Success.", "fInitMultimediaComm async start.",
+    "fInitCloudP2PManager async start."};
+
+const std::vector<std::string> kReady = {"InitLogical Success.", "initDateTimeFormat Success.",
+                                         "APP Init Success"};
+
+const std::vector<std::string> kUnInit = {"CLPCClientPackage un.",
+                                          "CLPCClientPackage un1.",
+                                          "UNInit Preview Success.",
+                                          "UNInit Playback Success.",
+                                          "UninitGui Success.",
+                                          "UninitBase Success.",
+                                          "UnititLogical Success.",
+                                          "UninitRemoteConfig Success.",
+                                          "UninitVideoSystemManager Success.",
+                                          "UninitSystemconfigUIManager Success.",
+                                          "CReportManager releaseManager Success."};
+
+const std::vector<std::string> kEnd = {"UNInitVantorApplication success", "Wait CrashAPIInit success"};
+
+std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> lists)
+{
+    std::vector<std::string> all;
+    for (const auto& list : lists)
+        all.insert(all.end(), list.begin(), list.end());
+    return all;
+}
+
+const std::string kUntilReady = R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})"
+                                "\n";
+const std::string kQuit = R"({"invoke": {"method": "componentUninit", "body": ""}, "no_reply_ms": 0})"
+                          "\n"
+                          R"({"expect_exit": 0, "within_ms": 15000})"
+                          "\n";
+
+TEST(TheComponent, StartsAndEndsInItsOrder)
+{
+    ComponentRun run;
+    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    EXPECT_THAT(run.MissingInOrder(Join({kParameters,
+                                         kStagesBeforeDatabase,
+                                         kStagesAfterDatabase,
+                                         {"alarmRegisteredRet async start."},
+                                         kReady,
+                                         {"Start UnInit Video.C"},
+                                         kUnInit,
+                                         kEnd})),
+                IsEmpty());
+    EXPECT_THAT(run.MissingInOrder({"fInitDatabase async start.", "InitDatabase Success.",
+                                    "m_fInitWinIDAndSystemManager async start.", "CWndIdManager init end",
+                                    "CVideoSystemManager init end"}),
+                IsEmpty());
+    EXPECT_THAT(run.MissingInOrder({"fInitMultimediaComm async start.", "InitMultimediaComm Success.",
+                                    "alarmRegisteredRet async start.", "Register alarm success."}),
+                IsEmpty());
+    EXPECT_THAT(run.MissingInOrder({"fInitCloudP2PManager async start.", "enableP2P(true)",
+                                    "Init CCloudP2PManager Success.", "alarmRegisteredRet async start."}),
+                IsEmpty());
+    // Written after the logger was shut down, as everything behind it.
+    EXPECT_THAT(run.LogMessages(), Not(Contains("CrashAPI UnInit success")));
+    EXPECT_THAT(run.LogMessages(), Not(Contains("UninitLibxml2 Success.")));
+    EXPECT_TRUE(std::filesystem::exists(run.DataPath() + "VideoSystem"));
+}
+
+TEST(TheComponent, EndsWithMinusOneWhenItsDatabaseIsNotSound)
+{
+    ComponentRun run;
+    std::ofstream(run.DataPath() + "VideoSystem") << std::string(8192, 'x');
+    ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();
+    EXPECT_THAT(run.MissingInOrder(Join({kParameters,
+                                         kStagesBeforeDatabase,
+                                         kUnInit,
+                                         {"UnititLogical Success.", "UninitLibxml2 Success."}})),
+                IsEmpty());
+    EXPECT_THAT(run.MissingInOrder({"fInitDatabase async start.", "InitDatabase Failed."}), IsEmpty());
+    EXPECT_THAT(run.LogMessages(), Contains(StartsWith("Failed to checkAndUpdateDB. [msg-")));
+    for (const char* never : {"InitManager Success.", "APP Init Success", "Start UnInit Video.C",
+                              "UNInitVantorApplication success"})
+        EXPECT_THAT(run.LogMessages(), Not(Contains(never)));
+    EXPECT_EQ(std::filesystem::file_size(run.DataPath() + "VideoSystem"), 8192u);
+}
+
+TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
+{
+    ComponentRun run;
+    const std::string parentFile = run.Path() + "parent";
+    std::ofstream(run.Path() + "start.sh")
+        << "echo $$ >" << parentFile << "; " << run.Component() << " & wait\n";
+    std::thread parent([&] { run.Shell("sh " + run.Path() + "start.sh"); });
+    EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
+    EXPECT_THAT(run.LogMessages(), Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
+    EXPECT_THAT(run.LogMessages(), Contains("Failed to send. LastError: [1005]."));
+
+    pid_t pid = 0;
+    std::ifstream(parentFile) >> pid;
+    ASSERT_GT(pid, 1);
+    ::kill(pid, SIGKILL);
+    parent.join();
+    EXPECT_TRUE(run.WaitUntilEnded(10));
+    EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
+                IsEmpty());
+}
+
+TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
+{
+    ComponentRun run;
+    std::ofstream(run.Path() + "script.jsonl") << kUntilReady << R"({"sleep_ms": 60000})";
+    std::thread framework(
+        [&] { run.Shell("timeout -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl")); });
+    EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
+    framework.join();
+    EXPECT_TRUE(run.WaitUntilEnded(10));
+    EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
+                IsEmpty());
+    const auto messages = run.LogMessages();
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), "Start UnInit Video.C"), 1);
+}
+
+TEST(ASecondStart, EndsWithZeroBeforeAnyInitialisation)
+{
+    ComponentRun run;
+    const std::string second = run.Component() + " >/dev/null 2>&1";
+    std::thread first([&] { run.Play(kUntilReady + R"({"sleep_ms": 3000})" + "\n" + kQuit); });
+    ASSERT_TRUE(run.WaitForLog("APP Init Success", 20));
+    EXPECT_EQ(std::system(second.c_str()), 0);
+    first.join();
+    const auto messages = run.LogMessages();
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in0"), 2);
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in1"), 1);
+    EXPECT_THAT(run.MissingInOrder(kEnd), IsEmpty());
+}
+
+} // namespace
