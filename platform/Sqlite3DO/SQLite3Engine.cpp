@@ -55,7 +55,8 @@ int OpenFlags(CSQLite3Engine::Mode mode)
 {
     using Mode = CSQLite3Engine::Mode;
     const int create = mode == Mode::Create || mode == Mode::CreateCopy ? SQLITE_OPEN_CREATE : 0;
-    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_FULLMUTEX | create;
+    // One thread at a time is this class's rule; the engine's own lock at every column would only cost time.
+    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | create;
 }
 
 [[noreturn]] void Fail(sqlite3* db, int code)
