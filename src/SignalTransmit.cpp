@@ -2,7 +2,7 @@
 
 #include "Base/Log.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
-#include "Protocol/JSONStruct/LPC/WindowJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/WndJSONStruct.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
@@ -98,9 +98,8 @@ CSignalTransmit::CSignalTransmit(CWndIdManager& windows, ReplyMethod reply)
 CSignalTransmit& CSignalTransmit::Instance()
 {
     static CSignalTransmit* const transmitter = new CSignalTransmit(
-        CWndIdManager::Instance(),
-        [](const LPCCallBackData& call, const std::string& method, protocol::ILPCData& payload) {
-            return CLPCClientPackage::Instance().ReplyMethod(call, method, payload);
+        CWndIdManager::Instance(), [](const LPCCallBackData& call, const protocol::ILPCData& payload) {
+            return CLPCClientPackage::Instance().ReplyMethod(call, payload);
         });
     return *transmitter;
 }
@@ -146,7 +145,7 @@ void CSignalTransmit::OnSignalGetWnd(const LPCCallBackData& data)
     BASE_INFO("Get wnd Success id:[%d].", wid);
     protocol::GetWndHandleResponseData response;
     response.wndId = wid;
-    m_reply(data, envelope.method, response);
+    m_reply(data, response);
 }
 
 void CSignalTransmit::OnSignalShowWnd(const LPCCallBackData& data)
@@ -172,12 +171,12 @@ void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
     bool replied = false;
     if (const AuxiliaryScreenRow* screen = AuxiliaryScreenOf(request.type)) {
         protocol::GetAuxiliaryScreenAppResponseData response;
-        response.view = screen->view;
-        response.application = screen->application;
+        response.type = screen->view;
+        response.appName = screen->application;
         response.icon = kAuxiliaryIcon;
         response.selectedIcon = kAuxiliarySelectedIcon;
         BASE_INFO("Return AuxiliaryScreenApp APP-[%s]", view);
-        replied = m_reply(data, request.Key(), response);
+        replied = m_reply(data, response);
     }
     if (replied)
         BASE_INFO("Return AuxiliaryScreenApp finished! APP-[%s]", view);

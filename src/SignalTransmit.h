@@ -27,8 +27,8 @@ class CSignalTransmit : public QObject
 
 public:
     /// Answers a method call with a payload; see CLPCClientPackage::ReplyMethod.
-    using ReplyMethod = std::function<bool(const lpcclient::LPCCallBackData& call, const std::string& method,
-                                           protocol::ILPCData& payload)>;
+    using ReplyMethod =
+        std::function<bool(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload)>;
 
     /// Both must outlive this object. Registers the calls' meta-type and connects the signals.
     CSignalTransmit(CWndIdManager& windows, ReplyMethod reply);

@@ -56,8 +56,7 @@ bool CWndIdManager::Finit()
 
 bool CWndIdManager::GetWID(const std::string& name, int& wid)
 {
-    if (m_waitReady)
-        m_waitReady();
+    WaitReady();
     const auto window = std::find_if(m_windows.begin(), m_windows.end(),
                                      [&](const auto& each) { return each.first == name; });
     return window != m_windows.end() && window->second(*this, wid);
@@ -91,8 +90,15 @@ std::vector<std::string> CWndIdManager::Names() const
     return names;
 }
 
+void CWndIdManager::WaitReady() const
+{
+    if (m_waitReady)
+        m_waitReady();
+}
+
 bool CWndIdManager::PageWID(const std::string& name, int& wid)
 {
+    WaitReady();
     QWidget* page = PageOf(name);
     if (!page)
         return false;

@@ -64,6 +64,7 @@ public:
 private:
     using Getter = std::function<bool(CWndIdManager&, int&)>;
 
+    void WaitReady() const;
     bool PageWID(const std::string& name, int& wid);
     QWidget* PageOf(const std::string& name);
     void ReleaseLiveViews();

@@ -53,6 +53,7 @@ int main(int argc, char* argv[])
     Base::ProcessUtil::HoldEndRequests();
     PreparePaths();
     Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    CrashAPI_PrepareThread();
     std::future<void> crashSetup = std::async(std::launch::async, video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);

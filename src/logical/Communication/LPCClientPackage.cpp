@@ -113,7 +113,7 @@ bool CLPCClientPackage::SendEx(lpcclient::tag_LPCResponseData& response,
 
 bool CLPCClientPackage::NotifyMethod(const std::string& method)
 {
-    return Notify({{{kMethodHeader, method}}, protocol::LPCRequestData::Envelope(method)});
+    return Notify({{{kMethodHeader, method}}, protocol::WriteLPCStr(method)});
 }
 
 bool CLPCClientPackage::ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body)
@@ -121,10 +121,9 @@ bool CLPCClientPackage::ReplyBody(const lpcclient::LPCCallBackData& call, const 
     return Reply({call.requestId, call.headers, body});
 }
 
-bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, const std::string& method,
-                                    protocol::ILPCData& payload)
+bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload)
 {
-    return ReplyBody(call, protocol::LPCRequestData::Envelope(method, payload));
+    return ReplyBody(call, protocol::WriteLPCStr(payload));
 }
 
 void CLPCClientPackage::RegisterAlarm()

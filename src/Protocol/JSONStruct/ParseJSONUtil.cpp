@@ -1,0 +1,48 @@
+#include "Protocol/JSONStruct/ParseJSONUtil.h"
+
+#include "Protocol/JSONStruct/LoggableText.h"
+
+namespace protocol {
+
+json::Tree ParseBody(const std::string& body, const Base::LogLocation& place)
+{
+    if (body.empty())
+        return nullptr;
+    std::string error;
+    json::Tree root = json::ParseText(body, error);
+    if (!root)
+        Base::CLog::Instance().Write(Base::LogLevel::Error, "", place,
+                                     "Failed to cJSON_Parse( [%s] ). Error info: [%s].",
+                                     LoggableText(body).c_str(), error.c_str());
+    return root;
+}
+
+bool ParseJSONStr(IJSONStruct& message, const std::string& body)
+{
+    const json::Tree root = ParseBody(body, PROTOCOL_PLACE);
+    if (!root)
+        return false;
+    const std::string key = message.Key();
+    const cJSON* const item = key.empty() ? root.get() : json::Member(root.get(), key.c_str());
+    if (!item) {
+        BASE_ERROR("Failed to cJSON_GetObjectItem([%s]). Error info: [%s].", key.c_str(),
+                   LoggableText(body).c_str());
+        return false;
+    }
+    return message.FromJSON(item);
+}
+
+bool ParseJSONValue(IJSONStruct& message, const std::string& value)
+{
+    const json::Tree root = ParseBody(value, PROTOCOL_PLACE);
+    return root && message.FromJSON(root.get());
+}
+
+std::string WriteJSONStr(const IJSONStruct& message)
+{
+    const json::Tree holder = json::NewObject();
+    message.ToJSON(holder.get(), message.Key());
+    return json::PrintText(*message.Key() ? holder.get() : holder->child);
+}
+
+} // namespace protocol

@@ -1,0 +1,223 @@
+#include "Base/ThreadPool.h"
+#include "CommonMethod/HTTPOverLPCClient.h"
+#include "CommunicationLayer/CommunicationLayer.h"
+#include "LPC_Server/LPC_Server.h"
+#include "logical/Communication/LPCClientPackage.h"
+#include "logical/Communication/LPCNames.h"
+#include "support/CapturedLog.h"
+#include "support/TestDataRoot.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+
+using lpcclient::LPCCallBackData;
+using testing::Contains;
+
+namespace {
+
+constexpr auto kPatience = std::chrono::seconds(20);
+
+/// A list that threads fill and a test waits for.
+class Seen
+{
+public:
+    void Add(const std::string& text)
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_texts.push_back(text);
+        m_changed.notify_all();
+    }
+
+    /// The texts, once there are that many (or the patience is over).
+    std::vector<std::string> WaitFor(std::size_t count)
+    {
+        std::unique_lock<std::mutex> lock(m_mutex);
+        m_changed.wait_for(lock, kPatience, [&] { return m_texts.size() >= count; });
+        return m_texts;
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<std::string> m_texts;
+};
+
+/// A framework that writes down what arrives and answers requests, except for those to one url.
+class Framework : public lpcserver::IServerEvents
+{
+public:
+    Framework() : server(*this) { EXPECT_EQ(server.Start(video::kLPCServerName), lpc::kNoError); }
+    ~Framework() override { server.Stop(); }
+
+    void OnClientConnected(lpcserver::ClientId id, const std::string& name) override
+    {
+        component = id;
+        clients.Add(name);
+    }
+    void OnClientDisconnected(lpcserver::ClientId) override {}
+
+    void OnData(lpcserver::ClientId client, const lpc::CallBackData& data) override
+    {
+        if (data.requestId == 0) {
+            notifications.Add(data.Header("method"));
+            return;
+        }
+        requests.Add(data.Header("url") + " " + data.body);
+        if (data.Header("url") != silentUrl)
+            EXPECT_EQ(server.Reply(client, {data.requestId, {{"status", "200"}}, "{}"}), lpc::kNoError);
+    }
+
+    void Invoke(const lpc::HeaderMap& headers)
+    {
+        EXPECT_EQ(server.Notify(component, {headers, ""}), lpc::kNoError);
+    }
+
+    std::string silentUrl;
+    std::atomic<lpcserver::ClientId> component{0};
+    Seen clients;
+    Seen requests;
+    Seen notifications;
+    lpcserver::CLPCServer server;
+};
+
+/// The component's side: a link on a pool of its own, with the transport installed.
+struct Component
+{
+    Component() : pool("test", 4), link([this](Base::Task task) { return pool.PostTask(std::move(task)); })
+    {
+        commlayer::CommunicationLayerInit(std::make_shared<comm_method::CHTTPOverLPCClient>());
+    }
+    ~Component()
+    {
+        commlayer::CommunicationLayerUnInit();
+        pool.Stop();
+    }
+
+    Base::CThreadPool pool;
+    video::CLPCClientPackage link;
+};
+
+class ALink : public testing::Test
+{
+protected:
+    TestDataRoot root;
+    CapturedLog log;
+};
+
+TEST_F(ALink, RegistersItsUrlsThenForAlarmsAndTellsThatItIsReady)
+{
+    Framework framework;
+    Component component;
+    component.link.SetServedUrls({"/b", "/a", "operateDownload"});
+    component.link.Init();
+    component.link.NotifyMethod("initFinish");
+
+    EXPECT_EQ(framework.clients.WaitFor(1), std::vector<std::string>{video::kLPCClientName});
+    const auto requests = framework.requests.WaitFor(2);
+    ASSERT_EQ(requests.size(), 2u);
+    EXPECT_EQ(requests[0], "/vantor/v1/internal/framework/register "
+                           R"({"componentRegisterInfo":{"supportUrlList":["/b","/a","operateDownload"]}})");
+    EXPECT_EQ(requests[1].rfind("/vantor/v1/internal/alarmCenter/register", 0), 0u) << requests[1];
+    EXPECT_EQ(framework.notifications.WaitFor(1), std::vector<std::string>{"initFinish"});
+    component.link.UnInit();
+    EXPECT_TRUE(log.Has("Register alarm success."));
+}
+
+TEST_F(ALink, WithoutAFrameworkLogsWhereItStoppedAndGoesOn)
+{
+    Component component;
+    component.link.Init();
+    EXPECT_FALSE(component.link.NotifyMethod("initFinish"));
+    EXPECT_THAT(log.Messages(Base::LogLevel::Error),
+                Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
+    EXPECT_THAT(log.Messages(Base::LogLevel::Error), Contains("Failed to send. LastError: [1005]."));
+    component.link.UnInit();
+}
+
+TEST_F(ALink, ThatWasNeverOpenedLogsEveryStepOfItsEnd)
+{
+    Component component;
+    component.link.UnInit();
+    EXPECT_THAT(log.Messages(Base::LogLevel::Error),
+                Contains("Failed to lpcserver::Uninit. LastError: [1001]."));
+}
+
+TEST_F(ALink, KeepsTheOrderOfMethodsWhileARouteIsBusy)
+{
+    Framework framework;
+    Component component;
+    Seen served;
+    std::promise<void> release;
+    std::shared_future<void> released = release.get_future().share();
+    component.link.Dispatcher().Http().Bind("/slow", [&, released](const LPCCallBackData&) {
+        served.Add("slow");
+        released.wait_for(kPatience);
+    });
+    for (int i = 0; i < 200; ++i)
+        component.link.Dispatcher().Methods().Bind(
+            "m" + std::to_string(i),
+            [&served](const LPCCallBackData& data) { served.Add(data.Header("method")); });
+    component.link.Init();
+    framework.clients.WaitFor(1);
+
+    framework.Invoke({{"protocol", "http"}, {"url", "/slow"}});
+    EXPECT_EQ(served.WaitFor(1), std::vector<std::string>{"slow"});
+    std::vector<std::string> wanted{"slow"};
+    for (int i = 0; i < 200; ++i) {
+        wanted.push_back("m" + std::to_string(i));
+        framework.Invoke({{"method", wanted.back()}});
+    }
+    EXPECT_EQ(served.WaitFor(201), wanted);
+    release.set_value();
+    component.link.UnInit();
+}
+
+TEST_F(ALink, EndsAtOnceWhileTheAlarmRegistrationWaits)
+{
+    Framework framework;
+    framework.silentUrl = "/vantor/v1/internal/alarmCenter/register";
+    Component component;
+    component.link.Init();
+    framework.requests.WaitFor(2);
+    const auto start = std::chrono::steady_clock::now();
+    component.link.UnInit();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(2));
+    EXPECT_TRUE(log.Has("Failed to register alarm."));
+}
+
+TEST_F(ALink, DeliversTheLossOfItsFramework)
+{
+    auto framework = std::make_unique<Framework>();
+    Component component;
+    Seen served;
+    component.link.Dispatcher().Methods().Bind("clientDisconnected",
+                                               [&](const LPCCallBackData&) { served.Add("lost"); });
+    component.link.Init();
+    framework.reset();
+    EXPECT_EQ(served.WaitFor(1), std::vector<std::string>{"lost"});
+    component.link.UnInit();
+}
+
+TEST_F(ALink, AnswersUnderTheIdentifierAndHeadersOfTheCall)
+{
+    Framework framework;
+    Component component;
+    component.link.Dispatcher().Http().Bind(
+        "/echo", [&](const LPCCallBackData& call) { component.link.ReplyBody(call, "[" + call.body + "]"); });
+    component.link.Init();
+    framework.clients.WaitFor(1);
+    lpc::Message answer;
+    ASSERT_EQ(framework.server.SendEx(framework.component,
+                                      {{{"protocol", "http"}, {"url", "/echo"}, {"x", "y"}}, "body"}, 20000,
+                                      answer),
+              lpc::kNoError);
+    EXPECT_EQ(answer.body, "[body]");
+    EXPECT_EQ(answer.headers["x"], "y");
+    component.link.UnInit();
+}
+
+} // namespace

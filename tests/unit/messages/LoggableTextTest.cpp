@@ -1,0 +1,74 @@
+#include "Protocol/JSONStruct/LoggableText.h"
+
+#include <gtest/gtest.h>
+
+using protocol::LoggableText;
+
+namespace {
+
+struct Row
+{
+    const char* name;
+    std::string text;
+    std::string shown;
+};
+
+class CredentialsInText : public ::testing::TestWithParam<Row>
+{};
+
+TEST_P(CredentialsInText, AreMaskedAndTheRestIsShown)
+{
+    EXPECT_EQ(LoggableText(GetParam().text), GetParam().shown);
+}
+
+const Row kRows[] = {
+    {"PlainText", R"({"name":"gate","port":8000})", R"({"name":"gate","port":8000})"},
+    {"Password", R"({"password":"abc","port":1})", R"({"password":***,"port":1})"},
+    {"LetterCase", R"({"PassWord" : "abc"})", R"({"PassWord" : ***})"},
+    {"PartOfAKey", R"({"devicePwd":"a","accessToken":"b","x":1})",
+     R"({"devicePwd":***,"accessToken":***,"x":1})"},
+    {"UserName", R"({"userName":"admin","user":"x"})", R"({"userName":***,"user":"x"})"},
+    {"EndOfAKey", R"({"aesKey":"k","keyboard":"b"})", R"({"aesKey":***,"keyboard":"b"})"},
+    {"WholeWordsOnly", R"({"pin":"1","pinned":true,"passage":2})",
+     R"({"pin":***,"pinned":true,"passage":2})"},
+    {"QuotesInTheValue", R"({"pwd":"a\"b\\","x":1})", R"({"pwd":***,"x":1})"},
+    {"NumberAsValue", R"({"pwd":1234,"x":1})", R"({"pwd":***,"x":1})"},
+    {"ListAsValue", R"({"pwd":["a","]b"],"x":1})", R"({"pwd":***,"x":1})"},
+    {"ObjectAsValue", R"({"secret":{"a":{"b":"}"}},"x":1})", R"({"secret":***,"x":1})"},
+    {"CutInTheValue", R"({"x":1,"pwd":"ab)", R"({"x":1,"pwd":***)"},
+    {"CutBeforeTheValue", R"({"x":1,"pwd": )", R"({"x":1,"pwd": )"},
+    {"NoJsonAtAll", "password=abc def&host=x", "password=***&host=x"},
+    {"HeaderLine", "Authorization: Basic YTpi\nHost: x", "Authorization: *** Host: x"},
+    {"JsonInsideAText", R"({"data":"{\"pwd\":\"a\\\"b\",\"x\":1}"})", R"({"data":"{\"pwd\":***,\"x\":1}"})"},
+    {"KeyWrittenWithEscapes", R"({"pass\u0077ord":"abc","x":1})", R"({"pass\u0077ord":***,"x":1})"},
+    {"NoQuotesAroundTheKey", "{pwd: 'abc', x: 1}", "{pwd: ***, x: 1}"},
+    {"SeveralLines", "{\n\t\"a\" : 1\r\n}", "{  \"a\" : 1  }"},
+    {"BytesOutsideUtf8", std::string("a\xFF\x01\0b", 5), "a?  b"},
+    {"BrokenSequence", "\xC3\"x\"", "?\"x\""},
+};
+INSTANTIATE_TEST_SUITE_P(Rows, CredentialsInText, ::testing::ValuesIn(kRows),
+                         [](const auto& info) { return info.param.name; });
+
+TEST(TextInALine, IsCutAtTheLimitInsideNoCharacter)
+{
+    const std::string text(protocol::kLoggedTextLimit - 1, 'a');
+    EXPECT_EQ(LoggableText(text + "bcd"), text + "b");
+    EXPECT_LE(LoggableText(text + "\xC3\xA9").size(), protocol::kLoggedTextLimit);
+    EXPECT_EQ(LoggableText(text + "\xC3\xA9").substr(0, text.size()), text);
+}
+
+TEST(TextInALine, StaysBelowTheLimitWhenMasksAreLongerThanTheValues)
+{
+    std::string text;
+    while (text.size() < 3 * protocol::kLoggedTextLimit)
+        text += "pwd=;";
+    EXPECT_LE(LoggableText(text).size(), protocol::kLoggedTextLimit);
+}
+
+TEST(TextInALine, HidesACredentialThatTheCutDivides)
+{
+    const std::string before(protocol::kLoggedTextLimit - 20, ' ');
+    EXPECT_EQ(LoggableText(before + R"({"password":"hunter2hunter2"})").find("hunter"), std::string::npos);
+}
+
+} // namespace

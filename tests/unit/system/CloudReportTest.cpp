@@ -1,0 +1,77 @@
+#include "CloudP2PReport/CloudP2PManager.h"
+#include "CloudP2PReport/ReportManager.h"
+#include "support/CapturedLog.h"
+#include "support/TestDataRoot.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+namespace {
+
+using cloudreport::CCloudP2PManager;
+using cloudreport::CReportManager;
+using cloudreport::OpenSDKInfo;
+
+TEST(CloudP2P, SaysOnceWhyThereIsNoCloud)
+{
+    TestDataRoot data;
+    const std::string file = data.Path() + "cloud.json";
+    struct Row
+    {
+        bool configured;
+        Base::LogLevel level;
+        std::string line;
+    };
+    const Row rows[] = {
+        {false, Base::LogLevel::Info,
+         "Cloud service: none is configured, reports and peer-to-peer connections are off."},
+        {true, Base::LogLevel::Warn,
+         "Cloud service: [" + file + "] is not used, this edition has no cloud client."},
+    };
+    for (const Row& row : rows) {
+        if (row.configured)
+            std::ofstream(file) << "{}";
+        CCloudP2PManager cloud;
+        CapturedLog log;
+        EXPECT_EQ(cloud.loadConfig(data.Path()), row.configured);
+        EXPECT_EQ(cloud.loadConfig(data.Path()), row.configured);
+        ASSERT_EQ(log.Lines().size(), 1u);
+        EXPECT_EQ(log.Lines().front().level, row.level);
+        EXPECT_EQ(log.Lines().front().message, row.line);
+    }
+}
+
+TEST(CloudP2P, NothingIsClaimedWithoutAClient)
+{
+    CCloudP2PManager cloud;
+    EXPECT_FALSE(cloud.init());
+    EXPECT_FALSE(cloud.enableP2P(true));
+    EXPECT_TRUE(cloud.enableP2P(false));
+    EXPECT_FALSE(cloud.isLoggedIn());
+    EXPECT_FALSE(cloud.setLoginInfo());
+    EXPECT_FALSE(cloud.startFetchDeviceList());
+    EXPECT_TRUE(cloud.openSDKInfo().session.empty());
+}
+
+TEST(CloudReport, ReportsOnlyBetweenInitAndReleaseAndWhileASessionIsKnown)
+{
+    const OpenSDKInfo session{"cloud", "user", "session"};
+    CReportManager reports;
+    EXPECT_FALSE(reports.setOpenSDKInfo(session));
+    EXPECT_FALSE(reports.init({}));
+    EXPECT_TRUE(reports.init({"BlackRedSkin", "1", "2"}));
+    EXPECT_FALSE(reports.isReporting());
+    EXPECT_TRUE(reports.setOpenSDKInfo(session));
+    EXPECT_TRUE(reports.isReporting());
+    EXPECT_TRUE(reports.setOpenSDKInfo({}));
+    EXPECT_FALSE(reports.isReporting());
+
+    EXPECT_TRUE(reports.setOpenSDKInfo(session));
+    reports.releaseManager();
+    reports.releaseManager();
+    EXPECT_TRUE(reports.init({"BlackRedSkin"}));
+    EXPECT_FALSE(reports.isReporting());
+}
+
+} // namespace

@@ -1,0 +1,64 @@
+#include "MultimediaComm/MultimediaComm.h"
+#include "support/CapturedLog.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <future>
+#include <set>
+
+namespace {
+
+using multimediacomm::HardwareDecoder;
+
+class MultimediaComm : public testing::Test
+{
+protected:
+    ~MultimediaComm() override { multimediacomm::UnInit(); }
+};
+
+TEST_F(MultimediaComm, EachKindOfDeviceIsListedOnceAndTheLogSumsThemUp)
+{
+    CapturedLog log;
+    EXPECT_TRUE(multimediacomm::HardwareDecoders().empty());
+    ASSERT_TRUE(multimediacomm::Init());
+
+    std::set<std::string> names;
+    const auto lines = log.Messages(Base::LogLevel::Info);
+    ASSERT_EQ(lines.size(), 1u);
+    const std::size_t border = lines[0].find("; no device: ");
+    for (const HardwareDecoder& decoder : multimediacomm::HardwareDecoders()) {
+        EXPECT_TRUE(names.insert(decoder.name).second) << decoder.name;
+        EXPECT_EQ(lines[0].find(decoder.name) < border, decoder.usable) << lines[0];
+    }
+    EXPECT_THAT(names, testing::Contains("vaapi"));
+}
+
+TEST_F(MultimediaComm, SecondInitLooksForNothingAndUnInitForgets)
+{
+    ASSERT_TRUE(multimediacomm::Init());
+    CapturedLog log;
+    EXPECT_TRUE(multimediacomm::Init());
+    EXPECT_TRUE(log.Lines().empty());
+    multimediacomm::UnInit();
+    multimediacomm::UnInit();
+    EXPECT_TRUE(multimediacomm::HardwareDecoders().empty());
+    EXPECT_TRUE(multimediacomm::Init());
+    EXPECT_EQ(log.Lines().size(), 1u);
+}
+
+TEST_F(MultimediaComm, ThreadsThatAskDuringInitGetAllOrNothing)
+{
+    multimediacomm::Init();
+    const std::size_t all = multimediacomm::HardwareDecoders().size();
+    multimediacomm::UnInit();
+    auto probing = std::async(std::launch::async, multimediacomm::Init);
+    for (int i = 0; i < 100; ++i) {
+        const std::size_t seen = multimediacomm::HardwareDecoders().size();
+        EXPECT_TRUE(seen == 0 || seen == all) << seen;
+    }
+    EXPECT_TRUE(probing.get());
+    EXPECT_EQ(multimediacomm::HardwareDecoders().size(), all);
+}
+
+} // namespace
