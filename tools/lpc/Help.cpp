@@ -36,7 +36,8 @@ A script has one JSON object a line. "#" starts a comment, "## " a comment that 
   {"invoke": {"protocol": "", "url": "", "method": "", "body": {}}, "reply": {}, "within_ms": 2000}
                                      send a request, demand a reply ("reply_headers": {} too)
   {"invoke": {...}, "no_reply_ms": 300}                     demand silence
-  {"notify": {"method": "", "body": {}}}                    send a notification
+  {"notify": {"method": "", "body": {}}}                    send a notification; "may_miss": true: to
+                                     a component that may be gone already
   {"expect_notify": {"method": "", "body": {}}, "within_ms": N}
   {"expect_request": {"url": "", "body": {}}, "within_ms": N}   of those since the last match
   {"serve": {"url": "", "method": ""}, "answer": {}, "status": 200, "error_code": 0}

@@ -37,18 +37,32 @@ std::string Within(std::uint32_t ms)
     return " within " + std::to_string(ms) + " ms";
 }
 
+/// True when the message has the address that the pattern names.
+bool HasAddress(const cJSON& pattern, const cJSON& message, Variables variables)
+{
+    for (const char* name : {"protocol", "url", "method"}) {
+        const cJSON* wanted = Member(&pattern, name);
+        const cJSON* got = Member(&message, name);
+        if (wanted && (!got || Match(*wanted, *got, variables)))
+            return false;
+    }
+    return true;
+}
+
 /// What came while another message was awaited: the nearest miss, and the addresses of the rest.
 class CMisses
 {
 public:
-    void Add(const Mismatch& mismatch, const cJSON& message)
+    void AddNear(const Mismatch& mismatch, const cJSON& message)
     {
-        if (mismatch.path == "$.url" || mismatch.path == "$.method" || mismatch.path == "$.protocol") {
-            AddAddress(message);
-            return;
-        }
         m_nearest = mismatch;
         m_whole = MaskedText(message);
+    }
+
+    void AddOther(const cJSON& message)
+    {
+        const std::string url = TextMember(&message, "url");
+        m_others += " " + (url.empty() ? TextMember(&message, "method") : url);
     }
 
     Failure Explain(Failure failure) const
@@ -61,12 +75,6 @@ public:
     }
 
 private:
-    void AddAddress(const cJSON& message)
-    {
-        const std::string url = TextMember(&message, "url");
-        m_others += " " + (url.empty() ? TextMember(&message, "method") : url);
-    }
-
     std::optional<Mismatch> m_nearest;
     std::string m_whole;
     std::string m_others;
@@ -131,10 +139,12 @@ Result CPlayer::CheckReply(const Invoke& step, const lpc::Message& answer)
 Result CPlayer::operator()(const SendNotify& step)
 {
     Outgoing outgoing;
+    if (step.mayMiss && m_inbox.Client() == 0)
+        return std::nullopt;
     if (const Result failure = Prepare(step.headers, step.body, m_timeoutMs, outgoing))
         return failure;
     const int error = m_host.Notify(outgoing.component, outgoing.message);
-    return error == lpc::kNoError ? Result() : LinkFailure(error, "sending", m_timeoutMs);
+    return error == lpc::kNoError || step.mayMiss ? Result() : LinkFailure(error, "sending", m_timeoutMs);
 }
 
 Result CPlayer::Prepare(const lpc::HeaderMap& headers, const JsonValue& body, std::uint32_t timeoutMs,
@@ -157,8 +167,10 @@ Result CPlayer::operator()(const ExpectMessage& step)
     CMisses misses;
     const Outcome outcome = m_inbox.WaitForMessage(kind, In(withinMs), [&](const cJSON& message) {
         const auto mismatch = Match(*step.pattern, message, m_variables);
-        if (mismatch)
-            misses.Add(*mismatch, message);
+        if (mismatch && HasAddress(*step.pattern, message, m_variables))
+            misses.AddNear(*mismatch, message);
+        else if (mismatch)
+            misses.AddOther(message);
         return !mismatch;
     });
     if (outcome == Outcome::Found)

@@ -122,10 +122,10 @@ Step ReadInvoke(const CObjectReader& line)
 
 Step ReadNotify(const CObjectReader& line)
 {
-    line.Allow({"notify"});
+    line.Allow({"notify", "may_miss"});
     const CObjectReader message(line.Get("notify"), "notify");
     message.Allow({"protocol", "url", "method", "body"});
-    return SendNotify{ReadHeaders(message), message.Value("body")};
+    return SendNotify{ReadHeaders(message), message.Value("body"), line.Flag("may_miss").value_or(false)};
 }
 
 Step ReadExpectMessage(const CObjectReader& line, const char* kind)

@@ -33,6 +33,7 @@ struct SendNotify
 {
     lpc::HeaderMap headers;
     JsonValue body;
+    bool mayMiss = false; ///< it does not matter whether the component is still there
 };
 
 /// Demands a notification or request of the component: the headers as members of the pattern, the body as
