@@ -43,6 +43,12 @@ log4cxx::LoggerPtr Logger(const char* name)
     return *name ? log4cxx::Logger::getLogger(name) : log4cxx::Logger::getRootLogger();
 }
 
+log4cxx::spi::LocationInfo Place(const LogLocation& location)
+{
+    using log4cxx::spi::LocationInfo;
+    return {location.file, LocationInfo::calcShortFileName(location.file), location.function, location.line};
+}
+
 /// Most lines fit the buffer on the stack; only long ones are formatted a second time.
 std::string FormatMessage(const char* format, std::va_list arguments)
 {
@@ -104,9 +110,7 @@ void CLog::Write(LogLevel level, const char* logger, const LogLocation& location
     if (observer)
         observer(level, logger, message);
     if (wanted)
-        target->forcedLog(
-            Level(level), message,
-            log4cxx::spi::LocationInfo(location.file, location.file, location.function, location.line));
+        target->forcedLog(Level(level), message, Place(location));
 }
 
 void SetLogObserver(LogObserver observer)

@@ -9,7 +9,7 @@ namespace comm_methodlib {
 
 namespace {
 
-constexpr std::size_t kFewest = 2;
+constexpr std::size_t kFewest = 4;
 constexpr std::size_t kMost = 8;
 
 } // namespace

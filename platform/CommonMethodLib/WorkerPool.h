@@ -5,7 +5,7 @@
 namespace comm_methodlib {
 
 /// The component's threads for short work that must not hold up the thread it comes from: dispatch of
-/// requests above all. One thread for each processor, at least 2 and at most 8, so that one slow request
+/// requests above all. One thread for each processor, at least 4 and at most 8, so that one slow request
 /// never blocks the others.
 ///
 /// PostTask and Stop are the pool's: tasks run in no particular order; Stop drains, may be called twice and

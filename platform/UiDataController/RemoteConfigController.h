@@ -2,8 +2,9 @@
 
 #include "VantorGUIToolkit/UiSingleton.h"
 
-#include <QMutex>
 #include <QString>
+
+#include <mutex>
 
 namespace UiDataController {
 
@@ -38,7 +39,7 @@ private:
         QString skinType;
     };
 
-    mutable QMutex m_mutex;
+    mutable std::mutex m_mutex;
     Values m_values;
 };
 

@@ -158,6 +158,8 @@ int DataElement::IntAttribute(const std::string& key, int fallback) const
 bool CGenericDataSet::load(const QString& path)
 {
     m_root = {};
+    if (path.isEmpty())
+        return Refuse(path, "no name");
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Refuse(path, file.errorString().toStdString());

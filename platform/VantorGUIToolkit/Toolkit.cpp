@@ -60,12 +60,13 @@ bool CToolkit::loadSkinPackage(const QString& path)
     const QString package = file.absoluteFilePath();
     if (m_packages.contains(package))
         return true;
-    if (QResource::registerResource(package)) {
+    const bool exists = file.isFile() && file.size() > 0;
+    if (exists && QResource::registerResource(package)) {
         m_packages.append(package);
         return true;
     }
     BASE_WARN("Failed to load the resource package [%s]: %s.", package.toUtf8().constData(),
-              file.isFile() ? "not a package of this version" : "no such file");
+              exists ? "not a package of this version" : "missing or empty");
     return false;
 }
 

@@ -53,7 +53,7 @@ bool CTranslations::Load(const QString& dir, int language)
     if (tag != english)
         (void)ReadAll(dir, english, loaded);
     const bool complete = ReadAll(dir, tag, loaded);
-    Unload();
+    // A translator that goes takes itself out of the application.
     m_translators = std::move(loaded.translators);
     m_files = loaded.files;
     for (const auto& translator : m_translators)
@@ -63,7 +63,7 @@ bool CTranslations::Load(const QString& dir, int language)
 
 void CTranslations::Unload()
 {
-    m_translators.clear(); // a translator takes itself out of the application
+    m_translators.clear();
     m_files.clear();
 }
 

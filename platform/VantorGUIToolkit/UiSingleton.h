@@ -7,7 +7,9 @@
 #include <QThread>
 
 #include <atomic>
+#include <mutex>
 #include <type_traits>
+#include <utility>
 
 namespace VantorGUIToolkit {
 
@@ -25,7 +27,7 @@ public:
             return *object;
         static QMutex mutex;
         QMutexLocker lock(&mutex);
-        object = instance.load(std::memory_order_relaxed);
+        object = instance.load(std::memory_order_acquire);
         if (!object) {
             object = new T();
             instance.store(object, std::memory_order_release);
@@ -46,7 +48,7 @@ public:
     /// The reference holds until DeleteInstance.
     static T& Instance()
     {
-        QMutexLocker lock(&Mutex());
+        std::lock_guard<std::mutex> lock(Mutex());
         if (!Object()) {
             Object() = new T();
             if (const QCoreApplication* application = QCoreApplication::instance())
@@ -60,16 +62,16 @@ public:
     {
         T* object = nullptr;
         {
-            QMutexLocker lock(&Mutex());
+            std::lock_guard<std::mutex> lock(Mutex());
             std::swap(object, Object());
         }
         delete object;
     }
 
 private:
-    static QMutex& Mutex()
+    static std::mutex& Mutex()
     {
-        static QMutex mutex;
+        static std::mutex mutex;
         return mutex;
     }
     static T*& Object()

@@ -1,4 +1,5 @@
 #include "UiDataController/HighDPIMgr.h"
+#include "support/QtLeaks.h"
 
 #include <gtest/gtest.h>
 

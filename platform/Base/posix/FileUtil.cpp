@@ -144,7 +144,8 @@ bool MakeDirs(const std::string& path)
         if (end == std::string::npos || end + 1 == path.size())
             break;
     }
-    return std::filesystem::is_directory(path);
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored);
 }
 
 } // namespace Base::FileUtil

@@ -70,7 +70,7 @@ bool MakeDirs(const std::string& path)
 {
     std::error_code ignored;
     std::filesystem::create_directories(path, ignored);
-    return std::filesystem::is_directory(path);
+    return std::filesystem::is_directory(path, ignored);
 }
 
 } // namespace Base::FileUtil

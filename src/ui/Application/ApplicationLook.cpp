@@ -44,7 +44,17 @@ QString JoinedSheets()
 
 CApplicationLook::CApplicationLook(VantorGUIToolkit::CToolkit& toolkit, QString skin, int language)
     : m_toolkit(toolkit), m_skin(std::move(skin)), m_language(language)
-{}
+{
+    TellLanguage();
+}
+
+// The style sheets are filled with the language's font and direction, so the toolkit knows it from the start.
+void CApplicationLook::TellLanguage()
+{
+    m_toolkit.setLocale(m_language);
+    m_toolkit.setLayoutDirection(VantorGUIToolkit::isRightToLeft(m_language) ? Qt::RightToLeft
+                                                                             : Qt::LeftToRight);
+}
 
 void CApplicationLook::LoadFont()
 {

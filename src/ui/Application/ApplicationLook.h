@@ -31,6 +31,7 @@ public:
     void InitGuiToolKit(const QString& configuredSkin);
 
 private:
+    void TellLanguage();
     bool LoadPackage(const QString& name);
 
     VantorGUIToolkit::CToolkit& m_toolkit;

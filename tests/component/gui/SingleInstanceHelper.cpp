@@ -1,5 +1,6 @@
 #include "Base/Log.h"
 #include "SingleApplication/SingleApplication.h"
+#include "support/QtLeaks.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string>
+
+namespace DatabaseUpdate {
+
+/// Puts the file from in the place of the file to in one step that has reached the disk when the call
+/// returns; to need not exist. Paths in UTF-8. False when the system refuses; both files are then as they
+/// were.
+bool ReplaceFile(const std::string& from, const std::string& to);
+
+/// Removes a database file that was never put in place, with its journals, as far as they exist.
+void RemoveDatabaseFile(const std::string& path);
+
+} // namespace DatabaseUpdate

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdarg>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+/// How statement texts are formed: values are placed by one bounded formatter, text values after Quoted.
+///
+///     FormatStatement<500>("DELETE FROM VideoFile WHERE FilePath = '%s'", Quoted(path).c_str())
+namespace Sqlite3DO {
+
+/// The text with every "'" doubled, to stand between two "'". A zero byte, which no statement can hold,
+/// becomes U+FFFD.
+std::string Quoted(std::string_view text);
+
+/// FormatStatement with the size as an argument.
+std::optional<std::string> FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
+    __attribute__((format(printf, 2, 0)));
+
+/// printf into a buffer of Size bytes, the closing zero byte included. A statement that does not fit gives
+/// one error line and nothing, so that a statement cut short is never executed.
+template<std::size_t Size>
+__attribute__((format(printf, 1, 2))) std::optional<std::string> FormatStatement(const char* format, ...)
+{
+    std::va_list arguments;
+    va_start(arguments, format);
+    auto statement = FormatStatementV(Size, format, arguments);
+    va_end(arguments);
+    return statement;
+}
+
+} // namespace Sqlite3DO

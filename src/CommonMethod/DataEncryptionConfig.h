@@ -1,0 +1,71 @@
+#pragma once
+
+#include "Base/Encrypt.h"
+
+#include <optional>
+#include <string>
+
+namespace comm_method {
+
+/// What a data-encryption setup holds. The secrets are wiped with the object.
+struct DataEncryption
+{
+    std::string id;          ///< names the setup, for messages
+    std::string databaseKey; ///< the databases' raw key, 64 hexadecimal digits
+    std::string dataKey;     ///< the key of other data that lies enciphered on disk, 64 hexadecimal digits
+
+    DataEncryption() = default;
+    DataEncryption(const DataEncryption&) = default;
+    DataEncryption& operator=(const DataEncryption&) = default;
+    ~DataEncryption();
+
+    bool operator==(const DataEncryption& other) const;
+
+    /// The parameters of Base::Encrypt made of the data key, labelled with the id.
+    Base::Encrypt::AESParams Params() const;
+};
+
+/// The data-encryption setup file and the sealing key beside it.
+///
+/// "DESetup.xml" is `<DESetup version="1"><Sealed>TEXT</Sealed></DESetup>` of at most 64 KiB. TEXT is what
+/// Base::Encrypt::Seal gives for the lines "id=...", "key=...", "data=..." (keys as 64 hexadecimal digits)
+/// under the sealing key, with the label "Vantor.DESetup.1". The sealing key is 32 bytes, in "DESetup.key"
+/// (the same name with ".key") as 64 hexadecimal digits, in a file of mode 0600.
+///
+/// One thread at a time. Paths are in the local code page.
+class CDataEncryptionConfig
+{
+public:
+    /// file: the path of the setup file; it ends in ".xml".
+    explicit CDataEncryptionConfig(const std::string& file);
+
+    /// New random keys under a new id.
+    static DataEncryption Generate();
+
+    const std::string& File() const { return m_file; }
+    bool Exists() const;
+
+    /// The setup; nothing after one line that says why not.
+    std::optional<DataEncryption> Read() const;
+
+    /// Writes the setup file anew, in one step; the folder and the sealing key are made when they are
+    /// missing. False after one line.
+    [[nodiscard]] bool Write(const DataEncryption& encryption) const;
+
+    /// Deletes the setup file and its sealing key.
+    void Remove() const;
+
+    /// Puts a setup file that cannot be read aside, as "<file>.damaged".
+    void SetAside() const;
+
+private:
+    std::optional<std::string> ReadSealed() const;
+    std::optional<DataEncryption> Unseal(const std::string& sealed) const;
+    std::optional<Base::Encrypt::AESParams> ReadSealingKey() const;
+    std::optional<Base::Encrypt::AESParams> MakeSealingKey() const;
+
+    const std::string m_file;
+    const std::string m_keyFile;
+};
+
+} // namespace comm_method
