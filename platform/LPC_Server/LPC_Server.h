@@ -2,6 +2,8 @@
 
 #include "LPC_Wire/Records.h"
 
+#include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -33,12 +35,21 @@ public:
 /// Takes the answer to a request on the server's thread; error is lpc::kNoError, or why there is none.
 using AnswerCallBack = std::function<void(int error, const lpc::Message& answer)>;
 
+/// What a server bears. The defaults are those that docs/lpc-protocol.md states.
+struct ServerLimits
+{
+    std::size_t clients = 64; ///< connections at a time; more are refused with lpc::kTryAgain
+    std::size_t sendQueueBytes = 16 * 1024 * 1024; ///< for each client; a full queue gives lpc::kTryAgain
+    std::chrono::milliseconds helloTimeout{5000};  ///< for a new connection to say hello
+    std::chrono::milliseconds stallTimeout{30000}; ///< for a client to read something of what waits for it
+};
+
 /// A listening socket with its clients and the thread that serves them. All functions may be called from any
 /// thread, also from within events; results are lpc::Error numbers.
 class CLPCServer
 {
 public:
-    explicit CLPCServer(IServerEvents& events);
+    explicit CLPCServer(IServerEvents& events, const ServerLimits& limits = {});
     /// Stops; must not run inside an event.
     ~CLPCServer();
 
@@ -49,14 +60,19 @@ public:
     /// that of a living one gives lpc::kCannotListen.
     [[nodiscard]] int Start(const std::string& serverName);
 
-    /// Closes all connections and ends the thread. May be called again.
+    /// Closes all connections and ends the thread; waiting requests fail with lpc::kConnectionLost. May be
+    /// called again. From within an event the thread ends after that event.
     void Stop();
 
     /// While not accepting, connected clients' requests are refused with lpc::kTryAgain. Accepting at the
     /// start.
     void SetAccepting(bool accepting);
 
+    /// Sends a notification. lpc::kTryAgain: the client's send queue is full; lpc::kNotConnected: there is no
+    /// such client.
     [[nodiscard]] int Notify(ClientId client, const lpc::Message& notification);
+
+    /// Answers a request of that client; errors as for Notify.
     [[nodiscard]] int Reply(ClientId client, const lpc::ReplyData& reply);
 
     /// Sends a request. onAnswer is called exactly once when the result is lpc::kNoError, after timeoutMs

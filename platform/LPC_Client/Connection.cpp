@@ -1,0 +1,403 @@
+#include "LPC_Client/Connection.h"
+
+#include "LPC_Wire/Limits.h"
+
+#include "Base/Log.h"
+
+#include <algorithm>
+
+namespace lpcclient {
+namespace {
+
+bool HasPassed(lpc::TimePoint deadline)
+{
+    return deadline != lpc::kForever && std::chrono::steady_clock::now() >= deadline;
+}
+
+InboundItem LossNotification()
+{
+    InboundItem item;
+    item.data.headers = {{"method", "clientDisconnected"}};
+    return item;
+}
+
+} // namespace
+
+bool& OnLibraryThread()
+{
+    thread_local bool isLibraryThread = false;
+    return isLibraryThread;
+}
+
+CConnection::CConnection(lpc::CLocalSocket socket, lpc::CFrameReader reader, CInbound& inbound,
+                         lpc::CPoller& poller, std::uint64_t key, const std::atomic<RequestId>& lastId)
+    : m_socket(std::move(socket)), m_reader(std::move(reader)), m_inbound(inbound), m_poller(poller),
+      m_lastId(lastId), m_watch(poller, m_socket.Handle(), key),
+      m_outbound(m_socket, lpc::kSendQueueBytes, [this](bool watch) { m_watch.Write(watch); })
+{}
+
+void CConnection::Start()
+{
+    HandOut();
+    m_watch.Start();
+    std::lock_guard<std::mutex> lock(m_mutex);
+    PassRole();
+}
+
+bool CConnection::IsOpen() const
+{
+    return !m_ended;
+}
+
+// ---- sending
+// ----------------------------------------------------------------------------------------------------
+
+int CConnection::Post(lpc::Kind kind, RequestId id, const HeaderMap& headers, const std::string& body)
+{
+    return m_outbound.Post(lpc::CFrameSet(kind, id, headers, body));
+}
+
+int CConnection::Ask(RequestId id, const lpc::Message& request, AnswerCallBack onAnswer)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_ended)
+            return lpc::kConnectionLost;
+        if (m_pending.size() >= lpc::kMaxPendingAnswers)
+            return lpc::kTryAgain;
+        m_pending.emplace(id, std::move(onAnswer));
+    }
+    const int error = Post(lpc::Kind::Request, id, request.headers, request.body);
+    if (error == lpc::kNoError)
+        return error;
+    // When the connection ended in between, its end already told the callback.
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return m_pending.erase(id) == 0 ? lpc::kNoError : error;
+}
+
+int CConnection::Exchange(RequestId id, const lpc::Message& request, std::uint32_t timeoutMs,
+                          lpc::Message& answer)
+{
+    const lpc::TimePoint deadline = lpc::DeadlineAfter(timeoutMs);
+    const lpc::CFrameSet frames(lpc::Kind::Request, id, request.headers, request.body);
+    if (frames.Error() != lpc::kNoError)
+        return frames.Error();
+
+    Waiter self;
+    self.id = id;
+    Enter(self);
+    bool waited = false;
+    int error = WriteRequest(frames, self, deadline, waited);
+    if (error == lpc::kNoError)
+        error = AwaitAnswer(self, waited ? 0 : timeoutMs, deadline);
+    if (error == lpc::kNoError) {
+        answer.headers = std::move(self.answer.headers);
+        answer.body.swap(self.answer.body);
+    }
+    Leave(self, std::move(self.answer.body));
+    return error;
+}
+
+/// The caller takes the role before it writes, so that its answer wakes no other thread.
+void CConnection::Enter(Waiter& self)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_ended) {
+        self.done = true;
+        self.error = lpc::kConnectionLost;
+        return;
+    }
+    m_waiters.emplace(self.id, &self);
+    TakeRole(self);
+}
+
+void CConnection::Leave(Waiter& self, std::string&& spareBody)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_waiters.erase(self.id);
+    if (m_holder != &self)
+        return;
+    m_reader.Recycle(std::move(spareBody));
+    PassRole();
+}
+
+/// Stays until the request is written, reading meanwhile if it has the role: two ends that only write would
+/// wait for each other.
+int CConnection::WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::TimePoint deadline,
+                              bool& waited)
+{
+    lpc::COutbound::Ticket ticket = 0;
+    int error = m_outbound.PostShared(frames, ticket);
+    if (ticket == 0)
+        return error;
+    waited = true;
+    const bool reads = Holds(self);
+    while (error == lpc::kNoError && m_outbound.IsWaiting(ticket)) {
+        const bool read = reads && !m_inbound.IsFull();
+        const unsigned ready = m_socket.Wait(lpc::kWritable | (read ? lpc::kReadable : 0U), deadline);
+        if (read && (ready & lpc::kReadable))
+            ReadNow();
+        if (ready & lpc::kWritable)
+            m_outbound.Flush();
+        if (HasPassed(deadline))
+            error = lpc::kTimedOut;
+    }
+    m_outbound.Finish(ticket);
+    return m_outbound.IsBroken() ? lpc::kConnectionLost : error;
+}
+
+// ---- the reader's role
+// ------------------------------------------------------------------------------------------
+
+int CConnection::AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimePoint deadline)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    bool first = firstWaitMs != 0 || deadline == lpc::kForever;
+    while (!self.done) {
+        if (!TakeRole(self)) {
+            Park(self, lock, deadline);
+        } else if (m_inbound.IsFull()) {
+            // On the library's own thread nobody would ever make room.
+            if (OnLibraryThread())
+                return lpc::kTryAgain;
+            Stall();
+        } else {
+            lock.unlock();
+            if (first)
+                ReadWaiting(firstWaitMs);
+            else if (m_socket.Wait(lpc::kReadable, deadline) != 0)
+                ReadNow();
+            lock.lock();
+        }
+        first = false;
+        if (!self.done && HasPassed(deadline))
+            return lpc::kTimedOut;
+    }
+    return self.error;
+}
+
+void CConnection::Park(Waiter& self, std::unique_lock<std::mutex>& lock, lpc::TimePoint deadline)
+{
+    self.parked = true;
+    if (deadline == lpc::kForever)
+        self.turn.wait(lock);
+    else
+        self.turn.wait_until(lock, deadline);
+    self.parked = false;
+}
+
+bool CConnection::Holds(const Waiter& self) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return m_holder == &self;
+}
+
+bool CConnection::TakeRole(Waiter& self)
+{
+    if (m_holder == &self)
+        return true;
+    if (m_role != Role::Free)
+        return false;
+    m_role = Role::Caller;
+    m_holder = &self;
+    m_watch.Read(false);
+    return true;
+}
+
+/// Gives the role to a caller that waits, else back to the library's thread.
+void CConnection::PassRole()
+{
+    m_holder = nullptr;
+    const auto next = std::find_if(m_waiters.begin(), m_waiters.end(),
+                                   [](const auto& entry) { return entry.second->parked; });
+    if (next == m_waiters.end()) {
+        m_role = Role::Free;
+        m_watch.Read(true);
+        return;
+    }
+    m_role = Role::Caller;
+    m_holder = next->second;
+    m_watch.Read(false);
+    m_holder->turn.notify_one();
+}
+
+/// The library's thread is woken because it may have made room just before.
+void CConnection::Stall()
+{
+    m_role = Role::Stalled;
+    m_holder = nullptr;
+    m_watch.Read(false);
+    m_poller.Wake();
+}
+
+void CConnection::ResumeReading()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_role == Role::Stalled && m_inbound.HasRoom())
+        PassRole();
+}
+
+void CConnection::OnReady(unsigned ready)
+{
+    if (ready & lpc::kWritable)
+        m_outbound.Flush();
+    if (ready & lpc::kReadable)
+        ReadAsLibrary();
+}
+
+void CConnection::ReadAsLibrary()
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_role != Role::Free)
+            return;
+        if (m_inbound.IsFull()) {
+            Stall();
+            return;
+        }
+        m_role = Role::Library;
+    }
+    ReadNow();
+    std::lock_guard<std::mutex> lock(m_mutex);
+    PassRole();
+}
+
+// ---- reading
+// ----------------------------------------------------------------------------------------------------
+
+void CConnection::ReadNow()
+{
+    const auto room = m_reader.Room();
+    TakeIn(m_socket.Read(room.data(), room.size()));
+}
+
+/// One call into the system instead of two; the system counts the time itself.
+void CConnection::ReadWaiting(std::uint32_t timeoutMs)
+{
+    const auto room = m_reader.Room();
+    TakeIn(m_socket.ReadWaiting(room.data(), room.size(), timeoutMs));
+}
+
+void CConnection::TakeIn(const lpc::IoResult& result)
+{
+    if (result.state == lpc::IoState::Closed)
+        End(true);
+    if (result.state != lpc::IoState::Done)
+        return;
+    m_reader.Commit(result.bytes);
+    HandOut();
+}
+
+void CConnection::HandOut()
+{
+    lpc::WireMessage message;
+    bool good = true;
+    while (good && m_reader.Next(message))
+        good = Dispatch(message);
+    if (good && m_reader.GetFault() == lpc::Fault::None)
+        return;
+    LogFault(good ? m_reader.GetFault() : lpc::Fault::Order);
+    End(true);
+}
+
+bool CConnection::Dispatch(lpc::WireMessage& message)
+{
+    switch (message.kind) {
+    case lpc::Kind::Request:
+    case lpc::Kind::Notification:
+        TakeMessage(message);
+        return true;
+    case lpc::Kind::Answer:
+        TakeAnswer(lpc::kNoError, message);
+        return true;
+    case lpc::Kind::Refusal:
+        TakeAnswer(lpc::RefusalError(message.headers), message);
+        return message.id != 0;
+    default:
+        return false;
+    }
+}
+
+void CConnection::TakeMessage(lpc::WireMessage& message)
+{
+    InboundItem item;
+    item.data = {message.id, std::move(message.headers), std::move(message.body)};
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_ended)
+            return;
+        m_inbound.Push(std::move(item));
+    }
+    if (!OnLibraryThread())
+        m_poller.Wake();
+}
+
+void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (const auto waiting = m_waiters.find(message.id); waiting != m_waiters.end()) {
+        Waiter& waiter = *waiting->second;
+        m_waiters.erase(waiting);
+        waiter.answer = {std::move(message.headers), std::move(message.body)};
+        waiter.error = error;
+        waiter.done = true;
+        if (m_holder != &waiter)
+            waiter.turn.notify_one();
+        return;
+    }
+    if (const auto pending = m_pending.find(message.id); pending != m_pending.end()) {
+        InboundItem item{
+            {0, std::move(message.headers), std::move(message.body)}, std::move(pending->second), error};
+        m_pending.erase(pending);
+        m_inbound.Push(std::move(item));
+        lock.unlock();
+        if (!OnLibraryThread())
+            m_poller.Wake();
+        return;
+    }
+    unsigned skipped = 0;
+    if (message.id > m_lastId && m_strayAnswers.Allows(0, skipped))
+        BASE_WARN_TO("VideoLogger", "LPC: dropped an answer to a request that was never sent. [skipped-%u]",
+                     skipped);
+}
+
+// ---- the end
+// ----------------------------------------------------------------------------------------------------
+
+void CConnection::Close()
+{
+    m_outbound.Flush();
+    End(false);
+}
+
+void CConnection::End(bool lost)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_ended.exchange(true))
+            return;
+        for (auto& [id, waiter] : m_waiters) {
+            waiter->done = true;
+            waiter->error = lpc::kConnectionLost;
+            waiter->turn.notify_one();
+        }
+        m_waiters.clear();
+        for (auto& [id, onAnswer] : m_pending)
+            m_inbound.Push({{}, std::move(onAnswer), lpc::kConnectionLost});
+        m_pending.clear();
+        if (lost)
+            m_inbound.Push(LossNotification());
+    }
+    m_watch.Stop();
+    m_outbound.Break();
+    m_poller.Wake();
+    if (lost)
+        BASE_WARN_TO("VideoLogger", "LPC: the connection to the server was lost.");
+}
+
+void CConnection::LogFault(lpc::Fault fault)
+{
+    BASE_ERROR_TO("VideoLogger", "LPC: the server sent what is not understood: %s.", lpc::FaultText(fault));
+}
+
+} // namespace lpcclient

@@ -1,0 +1,385 @@
+#include "LPC_Server/ServerLoop.h"
+
+#include "LPC_Wire/Hello.h"
+#include "LPC_Wire/SocketName.h"
+
+#include "Base/Log.h"
+#include "Base/ProcessUtil.h"
+
+#include <algorithm>
+
+namespace lpcserver {
+namespace {
+
+constexpr std::uint64_t kListenerKey = 0;
+constexpr std::size_t kEvents = 16;
+
+/// How long no connection is taken after the system gave none, for example because all descriptors are in
+/// use.
+constexpr std::chrono::seconds kAcceptPause{1};
+
+} // namespace
+
+// ---- start and stop
+// ---------------------------------------------------------------------------------------------
+
+int CServerLoop::Start(const std::string& serverName)
+{
+    std::lock_guard<std::mutex> starting(m_starting);
+    if (m_thread.joinable()) {
+        if (!m_stop || OnOwnThread())
+            return lpc::kInvalidArgument;
+        m_thread.join();
+    }
+    std::string why;
+    const std::string path = lpc::SocketPath(serverName, why);
+    if (path.empty() || !m_listener.Listen(path, why)) {
+        BASE_ERROR_TO("VideoLogger", "LPC: cannot listen for [%s]: %s.", serverName.c_str(), why.c_str());
+        return lpc::kCannotListen;
+    }
+    m_poller.Add(m_listener.Handle(), kListenerKey, lpc::kReadable);
+    m_stop = false;
+    m_thread = std::thread([this] { Run(); });
+    return lpc::kNoError;
+}
+
+void CServerLoop::Stop()
+{
+    m_stop = true;
+    m_poller.Wake();
+    if (OnOwnThread())
+        return;
+    std::lock_guard<std::mutex> starting(m_starting);
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void CServerLoop::Run()
+{
+    Base::ProcessUtil::NameThisThread("lpc-server");
+    m_threadId = std::this_thread::get_id();
+    lpc::CPoller::Event events[kEvents];
+    while (!m_stop) {
+        const std::size_t count = m_poller.Wait(events, kEvents, Sleep());
+        for (std::size_t i = 0; i < count && !m_stop; ++i)
+            OnEvent(events[i]);
+        HandleDeadlines();
+    }
+    m_poller.Remove(m_listener.Handle());
+    m_listener.Close();
+    CloseAll();
+    m_threadId = std::thread::id();
+}
+
+void CServerLoop::CloseAll()
+{
+    for (const ClientPtr& client : Clients())
+        Close(client);
+}
+
+void CServerLoop::OnEvent(const lpc::CPoller::Event& event)
+{
+    if (event.key == kListenerKey) {
+        AcceptAll();
+        return;
+    }
+    if (const ClientPtr client = Find(event.key))
+        OnReady(client, event.ready);
+}
+
+// ---- new connections
+// --------------------------------------------------------------------------------------------
+
+void CServerLoop::AcceptAll()
+{
+    for (;;) {
+        lpc::CLocalSocket socket;
+        const lpc::IoState state = m_listener.Accept(socket);
+        if (state == lpc::IoState::Done) {
+            Welcome(std::move(socket));
+            continue;
+        }
+        if (state == lpc::IoState::Closed) {
+            Log(Kind(Misfortune::CannotAccept), "", "the system gives no more connections");
+            m_poller.Modify(m_listener.Handle(), kListenerKey, 0);
+            m_acceptAgain = std::chrono::steady_clock::now() + kAcceptPause;
+        }
+        return;
+    }
+}
+
+void CServerLoop::Welcome(lpc::CLocalSocket socket)
+{
+    const ClientId id = ++m_lastClient;
+    const lpc::SocketHandle handle = socket.Handle();
+    const bool isThisUser = socket.PeerIsThisUser();
+    const auto client = std::make_shared<CServerClient>(id, std::move(socket), m_limits.sendQueueBytes,
+                                                        [=](bool watch) { WatchRoom(handle, id, watch); });
+    std::size_t others = 0;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        others = m_clients.size();
+        m_clients.emplace(id, client);
+    }
+    ++m_newcomers;
+    client->helloDeadline = std::chrono::steady_clock::now() + m_limits.helloTimeout;
+    m_poller.Add(handle, id, lpc::kReadable);
+    if (!isThisUser) {
+        Drop(client, Misfortune::OtherUser);
+    } else if (others >= m_limits.clients) {
+        client->Refuse(0, lpc::kTryAgain);
+        Drop(client, Misfortune::TooMany);
+    }
+}
+
+/// The thread may sleep without a limit; it has to learn that a queue must move within some time.
+void CServerLoop::WatchRoom(lpc::SocketHandle handle, ClientId id, bool watch)
+{
+    m_congested += watch ? 1 : -1;
+    m_poller.Modify(handle, id, watch ? lpc::kReadable | lpc::kWritable : lpc::kReadable);
+    if (watch && !OnOwnThread())
+        m_poller.Wake();
+}
+
+// ---- reading
+// ----------------------------------------------------------------------------------------------------
+
+void CServerLoop::OnReady(const ClientPtr& client, unsigned ready)
+{
+    if (ready & lpc::kWritable)
+        client->Outbound().Flush();
+    if (ready & lpc::kReadable)
+        Read(client);
+}
+
+void CServerLoop::Read(const ClientPtr& client)
+{
+    const bool open = client->Read();
+    lpc::WireMessage message;
+    while (!m_stop && client->Reader().Next(message)) {
+        if (!Dispatch(client, message))
+            return;
+        client->Reader().Recycle(std::move(message.body));
+    }
+    if (client->Reader().GetFault() != lpc::Fault::None)
+        CloseFaulty(client, client->Reader().GetFault());
+    else if (!open && client->Reader().InsideMessage())
+        Drop(client, Misfortune::CutOff);
+    else if (!open)
+        Close(client);
+}
+
+/// False when the connection was closed over the message.
+bool CServerLoop::Dispatch(const ClientPtr& client, lpc::WireMessage& message)
+{
+    if (client->name.empty())
+        return Greet(client, message);
+    switch (message.kind) {
+    case lpc::Kind::Request:
+    case lpc::Kind::Notification:
+        return TakeMessage(client, message);
+    case lpc::Kind::Answer:
+        return TakeAnswer(client, lpc::kNoError, message);
+    case lpc::Kind::Refusal:
+        return TakeAnswer(client, lpc::RefusalError(message.headers), message);
+    default:
+        CloseFaulty(client, lpc::Fault::Order);
+        return false;
+    }
+}
+
+bool CServerLoop::Greet(const ClientPtr& client, const lpc::WireMessage& message)
+{
+    if (message.kind != lpc::Kind::Hello) {
+        CloseFaulty(client, lpc::Fault::Order);
+        return false;
+    }
+    if (lpc::CheckHello(message.headers) != lpc::kNoError) {
+        client->Refuse(0, lpc::kRefused);
+        CloseFaulty(client, lpc::Fault::Hello);
+        return false;
+    }
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        client->name = lpc::HelloName(message.headers);
+    }
+    --m_newcomers;
+    client->helloDeadline = lpc::kForever;
+    client->Post(lpc::Kind::HelloAnswer, 0, lpc::HelloAnswerHeaders(), {});
+    m_events.OnClientConnected(client->Id(), client->name);
+    return true;
+}
+
+bool CServerLoop::TakeMessage(const ClientPtr& client, lpc::WireMessage& message)
+{
+    if (message.id != 0 && !m_accepting) {
+        if (client->Refuse(message.id, lpc::kTryAgain) != lpc::kTryAgain)
+            return true;
+        Drop(client, Misfortune::DoesNotRead);
+        return false;
+    }
+    lpc::CallBackData data{message.id, std::move(message.headers), std::move(message.body)};
+    m_events.OnData(client->Id(), data);
+    message.body = std::move(data.body);
+    return true;
+}
+
+bool CServerLoop::TakeAnswer(const ClientPtr& client, int error, lpc::WireMessage& message)
+{
+    if (auto onAnswer = m_pending.Take(client->Id(), message.id)) {
+        (*onAnswer)(error, {std::move(message.headers), std::move(message.body)});
+        return true;
+    }
+    if (!m_pending.WasUsed(message.id))
+        Log(Kind(Misfortune::StrayAnswer), client->name, "answered a request that was never sent");
+    return true;
+}
+
+// ---- closing
+// ----------------------------------------------------------------------------------------------------
+
+void CServerLoop::Close(const ClientPtr& client)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_clients.erase(client->Id()) == 0)
+            return;
+    }
+    client->Outbound().Break();
+    m_poller.Remove(client->Handle());
+    for (const AnswerCallBack& onAnswer : m_pending.TakeAllOf(client->Id()))
+        onAnswer(lpc::kConnectionLost, {});
+    if (client->name.empty())
+        --m_newcomers;
+    else
+        m_events.OnClientDisconnected(client->Id());
+}
+
+void CServerLoop::CloseFaulty(const ClientPtr& client, lpc::Fault fault)
+{
+    if (fault == lpc::Fault::Version && client->name.empty())
+        client->Refuse(0, lpc::kRefused);
+    Log(static_cast<std::size_t>(fault), client->name, lpc::FaultText(fault));
+    Close(client);
+}
+
+void CServerLoop::Drop(const ClientPtr& client, Misfortune misfortune)
+{
+    static constexpr const char* kTexts[] = {
+        "ended inside a message",  "said no hello in time",          "does not read what it is sent",
+        "belongs to another user", "there are too many connections",
+    };
+    Log(Kind(misfortune), client->name, kTexts[static_cast<std::size_t>(misfortune)]);
+    Close(client);
+}
+
+void CServerLoop::Log(std::size_t kind, const std::string& client, const char* what)
+{
+    unsigned skipped = 0;
+    if (m_rate.Allows(kind, skipped))
+        BASE_ERROR_TO("VideoLogger", "LPC: client [%s]: %s. [skipped-%u]", client.c_str(), what, skipped);
+}
+
+// ---- time
+// -------------------------------------------------------------------------------------------------------
+
+/// The moment until which to wait. It is announced before the deadlines are looked at, so that a request
+/// added meanwhile is either seen here or wakes the thread. An alarm that is no longer needed is kept:
+/// requests that follow one another then find it early enough and wake nobody.
+lpc::TimePoint CServerLoop::Sleep()
+{
+    m_sleepsUntil = lpc::kForever;
+    m_alarm = std::min(m_alarm, NextDeadline());
+    m_sleepsUntil = m_alarm;
+    return m_alarm;
+}
+
+lpc::TimePoint CServerLoop::DeadlineOf(CServerClient& client) const
+{
+    const lpc::TimePoint waiting = client.Outbound().WaitingSince();
+    const lpc::TimePoint stalled = waiting == lpc::kForever ? lpc::kForever : waiting + m_limits.stallTimeout;
+    return std::min(client.helloDeadline, stalled);
+}
+
+lpc::TimePoint CServerLoop::NextDeadline() const
+{
+    lpc::TimePoint next = std::min(m_acceptAgain, m_pending.NextDeadline());
+    if (m_newcomers > 0 || m_congested > 0)
+        for (const ClientPtr& client : Clients())
+            next = std::min(next, DeadlineOf(*client));
+    return next;
+}
+
+void CServerLoop::HandleDeadlines()
+{
+    if (m_alarm == lpc::kForever)
+        return;
+    const lpc::TimePoint now = std::chrono::steady_clock::now();
+    if (now < m_alarm)
+        return;
+    m_alarm = lpc::kForever;
+    for (const AnswerCallBack& onAnswer : m_pending.TakeExpired(now))
+        onAnswer(lpc::kTimedOut, {});
+    for (const ClientPtr& client : Clients())
+        if (DeadlineOf(*client) <= now)
+            Drop(client, client->helloDeadline <= now ? Misfortune::NoHello : Misfortune::DoesNotRead);
+    if (m_acceptAgain <= now) {
+        m_acceptAgain = lpc::kForever;
+        m_poller.Modify(m_listener.Handle(), kListenerKey, lpc::kReadable);
+    }
+}
+
+// ---- sending
+// ----------------------------------------------------------------------------------------------------
+
+int CServerLoop::Post(ClientId client, lpc::Kind kind, RequestId id, const HeaderMap& headers,
+                      const std::string& body)
+{
+    const ClientPtr found = FindGreeted(client);
+    return found ? found->Post(kind, id, headers, body) : lpc::kNotConnected;
+}
+
+int CServerLoop::Ask(ClientId client, const lpc::Message& request, std::uint32_t timeoutMs,
+                     AnswerCallBack onAnswer)
+{
+    const ClientPtr found = FindGreeted(client);
+    if (!found)
+        return lpc::kNotConnected;
+    const lpc::TimePoint deadline = lpc::DeadlineAfter(timeoutMs);
+    const RequestId id = m_pending.Add(client, deadline, std::move(onAnswer));
+    if (id == 0)
+        return lpc::kTryAgain;
+    const int error = found->Post(lpc::Kind::Request, id, request.headers, request.body);
+    if (error != lpc::kNoError)
+        // When the connection ended in between, its end already told the callback.
+        return m_pending.Take(client, id) ? error : lpc::kNoError;
+    if (deadline < m_sleepsUntil.load() && !OnOwnThread())
+        m_poller.Wake();
+    return lpc::kNoError;
+}
+
+std::vector<CServerLoop::ClientPtr> CServerLoop::Clients() const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    std::vector<ClientPtr> clients;
+    clients.reserve(m_clients.size());
+    for (const auto& [id, client] : m_clients)
+        clients.push_back(client);
+    return clients;
+}
+
+CServerLoop::ClientPtr CServerLoop::Find(ClientId id) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_clients.find(id);
+    return found == m_clients.end() ? nullptr : found->second;
+}
+
+CServerLoop::ClientPtr CServerLoop::FindGreeted(ClientId id) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_clients.find(id);
+    return found == m_clients.end() || found->second->name.empty() ? nullptr : found->second;
+}
+
+} // namespace lpcserver

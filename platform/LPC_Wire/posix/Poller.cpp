@@ -1,0 +1,108 @@
+#include "LPC_Wire/Poller.h"
+
+#include <algorithm>
+
+#include <sys/epoll.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+namespace lpc {
+namespace {
+
+constexpr std::uint64_t kWakeKey = ~std::uint64_t{0};
+constexpr std::size_t kMaxEvents = 64;
+
+/// With nothing wanted the end of a connection is still reported; edge-triggered, it is reported once.
+std::uint32_t EpollBits(unsigned wanted)
+{
+    if (wanted == 0)
+        return EPOLLET;
+    return ((wanted & kReadable) ? EPOLLIN : 0U) | ((wanted & kWritable) ? EPOLLOUT : 0U);
+}
+
+unsigned ReadyBits(std::uint32_t events)
+{
+    if ((events & (EPOLLERR | EPOLLHUP)) != 0)
+        return kReadable | kWritable;
+    return ((events & EPOLLIN) ? kReadable : 0U) | ((events & EPOLLOUT) ? kWritable : 0U);
+}
+
+/// Whole milliseconds, rounded up so that the deadline has come when the wait ends.
+int MillisecondsUntil(TimePoint deadline)
+{
+    using std::chrono::milliseconds;
+    if (deadline == kForever)
+        return -1;
+    const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
+    return static_cast<int>(std::clamp<long long>(left.count(), 0, 3600 * 1000));
+}
+
+} // namespace
+
+struct CPoller::System
+{
+    int epoll = epoll_create1(EPOLL_CLOEXEC);
+    int wake = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+
+    ~System()
+    {
+        close(wake);
+        close(epoll);
+    }
+
+    void Control(int operation, SocketHandle handle, std::uint64_t key, std::uint32_t bits) const
+    {
+        epoll_event event{};
+        event.events = bits;
+        event.data.u64 = key;
+        epoll_ctl(epoll, operation, static_cast<int>(handle), &event);
+    }
+};
+
+CPoller::CPoller() : m_system(std::make_unique<System>())
+{
+    m_system->Control(EPOLL_CTL_ADD, m_system->wake, kWakeKey, EPOLLIN);
+}
+
+CPoller::~CPoller() = default;
+
+void CPoller::Add(SocketHandle handle, std::uint64_t key, unsigned wanted)
+{
+    m_system->Control(EPOLL_CTL_ADD, handle, key, EpollBits(wanted));
+}
+
+void CPoller::Modify(SocketHandle handle, std::uint64_t key, unsigned wanted)
+{
+    m_system->Control(EPOLL_CTL_MOD, handle, key, EpollBits(wanted));
+}
+
+void CPoller::Remove(SocketHandle handle)
+{
+    m_system->Control(EPOLL_CTL_DEL, handle, 0, 0);
+}
+
+std::size_t CPoller::Wait(Event* events, std::size_t count, TimePoint deadline)
+{
+    epoll_event ready[kMaxEvents];
+    const int capacity = static_cast<int>(std::min(count, kMaxEvents));
+    const int found = epoll_wait(m_system->epoll, ready, capacity, MillisecondsUntil(deadline));
+    std::size_t used = 0;
+    for (int i = 0; i < found; ++i) {
+        if (ready[i].data.u64 != kWakeKey) {
+            events[used++] = {ready[i].data.u64, ReadyBits(ready[i].events)};
+            continue;
+        }
+        eventfd_t ignored = 0;
+        eventfd_read(m_system->wake, &ignored);
+        m_woken.store(false);
+    }
+    return used;
+}
+
+void CPoller::Wake()
+{
+    if (!m_woken.exchange(true))
+        eventfd_write(m_system->wake, 1);
+}
+
+} // namespace lpc

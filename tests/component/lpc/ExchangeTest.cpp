@@ -1,0 +1,235 @@
+#include "LpcWorld.h"
+
+#include <atomic>
+#include <thread>
+
+using namespace std::chrono_literals;
+
+namespace {
+
+class Exchange : public LpcTest
+{};
+
+TEST_F(Exchange, AnswersCarryHeadersAndBodiesOfAnyLength)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    for (const std::size_t size : {0U, 1U, 1023U, 65536U, 131072U, 1048576U, 1048577U, 5000000U, 20000000U}) {
+        lpc::Message request{{{"url", "/a"}, {"size", std::to_string(size)}, {"empty", ""}},
+                             std::string(size, 'x')};
+        for (std::size_t i = 0; i < size; i += 997)
+            request.body[i] = static_cast<char>(i);
+        lpc::Message answer;
+        lpc::RequestId id = 0;
+        ASSERT_TRUE(lpcclient::SendEx(answer, request, id, 20000))
+            << size << " " << lpcclient::GetLPCLastError();
+        EXPECT_EQ(request.headers, answer.headers);
+        EXPECT_TRUE(request.body == answer.body) << size;
+    }
+}
+
+TEST_F(Exchange, WhatIsOverALimitIsRefusedAndTheConnectionGoesOn)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    lpc::Message tooMany;
+    for (int i = 0; i < 257; ++i)
+        tooMany.headers["key" + std::to_string(i)] = "";
+    EXPECT_EQ(lpc::kTooLong, SendExError(tooMany, 1000));
+    EXPECT_EQ(lpc::kTooLong, SendExError({{{"key", std::string(65536, 'v')}}, ""}, 1000));
+    EXPECT_EQ(lpc::kTooLong, SendExError({{}, std::string(64 * 1024 * 1024 + 1, 'b')}, 1000));
+    EXPECT_EQ(0, SendExError({{}, "fits"}, 5000));
+}
+
+TEST_F(Exchange, TheServerKnowsTheClientsNameAndItsEnd)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    EXPECT_EQ(std::vector<std::string>{"client"}, server.connected.WaitFor(1));
+    ASSERT_TRUE(lpcclient::DisconnectToServer());
+    EXPECT_EQ(1U, server.disconnected.WaitFor(1).size());
+    EXPECT_EQ(lpc::kNotConnected, server.server.Notify(server.lastClient, {}));
+}
+
+TEST_F(Exchange, RequestsOfTheServerAreAnsweredByReplyFromAnyThread)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    std::vector<std::future<bool>> replies;
+    const Client client;
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData& data, void*) {
+            replies.push_back(std::async(std::launch::async, [data] {
+                return lpcclient::Reply({data.requestId, data.headers, "re: " + data.body});
+            }));
+            return true;
+        },
+        nullptr));
+    for (int i = 0; i < 20; ++i) {
+        lpc::Message answer;
+        ASSERT_EQ(lpc::kNoError,
+                  server.server.SendEx(server.Client(), Numbered(i, "question"), 5000, answer));
+        EXPECT_EQ("re: question", answer.body);
+        EXPECT_EQ(std::to_string(i), answer.headers["n"]);
+    }
+}
+
+TEST_F(Exchange, NotificationsArriveInOrderOnOneThread)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    CollectNumbers();
+    constexpr int kCount = 5000;
+    for (int i = 0; i < kCount; ++i)
+        ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), Numbered(i)));
+    EXPECT_EQ(Numbers(kCount), received.WaitFor(kCount));
+}
+
+/// The server sends two notifications around each answer, so that callers read what belongs to the library's
+/// thread.
+TEST_F(Exchange, ManyCallersGetTheirOwnAnswersWhileNotificationsKeepTheirOrder)
+{
+    EchoServer server;
+    int sent = 0;
+    server.onData = [&](lpcserver::ClientId client, const lpc::CallBackData& data) {
+        EXPECT_EQ(lpc::kNoError, server.server.Notify(client, Numbered(sent++)));
+        EXPECT_EQ(lpc::kNoError, server.server.Reply(client, {data.requestId, data.headers, data.body}));
+        EXPECT_EQ(lpc::kNoError, server.server.Notify(client, Numbered(sent++)));
+    };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    CollectNumbers();
+
+    constexpr int kThreads = 6;
+    constexpr int kCalls = 300;
+    std::atomic<int> wrong{0};
+    std::vector<std::future<void>> callers;
+    for (int t = 0; t < kThreads; ++t)
+        callers.push_back(std::async(std::launch::async, [&, t] {
+            for (int i = 0; i < kCalls; ++i) {
+                const std::string text = std::to_string(t) + "/" + std::to_string(i);
+                lpc::Message answer;
+                lpc::RequestId id = 0;
+                if (!lpcclient::SendEx(answer,
+                                       {{{"who", text}}, std::string(i % 50 == 0 ? 300000 : 10, 'b') + text},
+                                       id, 20000) ||
+                    answer.headers["who"] != text || answer.body.substr(answer.body.rfind('b') + 1) != text)
+                    ++wrong;
+            }
+        }));
+    for (auto& caller : callers)
+        ASSERT_EQ(std::future_status::ready, caller.wait_for(2 * kLimit));
+    EXPECT_EQ(0, wrong);
+    EXPECT_EQ(Numbers(2 * kThreads * kCalls), received.WaitFor(2 * kThreads * kCalls));
+}
+
+TEST_F(Exchange, TheCallbackMayCallSendExItself)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    Collected<std::string> answers;
+    const Client client;
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData& data, void*) {
+            lpc::Message answer;
+            lpc::RequestId id = 0;
+            EXPECT_TRUE(lpcclient::SendEx(answer, {{{"n", data.Header("n")}}, ""}, id, 10000));
+            answers.Add(answer.headers["n"]);
+            return true;
+        },
+        nullptr));
+    constexpr int kCount = 200;
+    for (int i = 0; i < kCount; ++i)
+        ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), Numbered(i)));
+    EXPECT_EQ(Numbers(kCount), answers.WaitFor(kCount));
+}
+
+TEST_F(Exchange, AsynchronousAnswersComeOnTheLibrarysThreadInOrderWithNotifications)
+{
+    EchoServer server;
+    server.onData = [&](lpcserver::ClientId client, const lpc::CallBackData& data) {
+        EXPECT_EQ(lpc::kNoError, server.server.Notify(client, {{{"n", "before " + data.body}}, ""}));
+        EXPECT_EQ(lpc::kNoError, server.server.Reply(client, {data.requestId, {}, data.body}));
+    };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    CollectNumbers();
+    const auto onAnswer = [&](int error, const lpc::Message& answer) {
+        EXPECT_EQ(lpc::kNoError, error);
+        received.Add("answer " + answer.body);
+    };
+    EXPECT_NE(0U, lpcclient::Send({{}, "1"}, onAnswer));
+    EXPECT_NE(0U, lpcclient::Send({{}, "2"}, onAnswer));
+    const std::vector<std::string> expected{"before 1", "answer 1", "before 2", "answer 2"};
+    EXPECT_EQ(expected, received.WaitFor(4));
+}
+
+TEST_F(Exchange, AnUnansweredRequestTimesOutAndItsLateAnswerMeetsNobody)
+{
+    EchoServer server;
+    lpc::RequestId first = 0;
+    server.onData = [&](lpcserver::ClientId client, const lpc::CallBackData& data) {
+        if (first == 0) {
+            first = data.requestId;
+            return;
+        }
+        EXPECT_EQ(lpc::kNoError, server.server.Reply(client, {first, {}, "late"}));
+        EXPECT_EQ(lpc::kNoError, server.server.Reply(client, {data.requestId, {}, "in time"}));
+    };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(lpc::kTimedOut, SendExError({}, 150));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, 150ms);
+    lpc::Message answer;
+    lpc::RequestId id = 0;
+    ASSERT_TRUE(lpcclient::SendEx(answer, {}, id, 10000));
+    EXPECT_EQ("in time", answer.body);
+}
+
+TEST_F(Exchange, AServerThatDoesNotAcceptSaysTryAgain)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    server.server.SetAccepting(false);
+    EXPECT_EQ(lpc::kTryAgain, SendExError({}, 10000));
+    server.server.SetAccepting(true);
+    EXPECT_EQ(0, SendExError({}, 10000));
+}
+
+TEST_F(Exchange, ServerRequestsTimeOutOrFailWithTheConnection)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    CollectNumbers(); // never replies
+    lpc::Message answer;
+    EXPECT_EQ(lpc::kTimedOut, server.server.SendEx(server.Client(), Numbered(1), 50, answer));
+    Collected<int> errors;
+    ASSERT_EQ(lpc::kNoError, server.server.Send(server.Client(), Numbered(2), 0,
+                                                [&](int error, const lpc::Message&) { errors.Add(error); }));
+    ASSERT_EQ(lpc::kNoError, server.server.Send(server.Client(), Numbered(3), 60000,
+                                                [&](int error, const lpc::Message&) { errors.Add(error); }));
+    EXPECT_EQ(3U, received.WaitFor(3).size());
+    server.server.Stop();
+    EXPECT_EQ((std::vector<int>{lpc::kConnectionLost, lpc::kConnectionLost}), errors.WaitFor(2));
+}
+
+TEST_F(Exchange, RequestsAfterTheReceiverWasClearedAreRefused)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    CollectNumbers();
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
+    lpc::Message answer;
+    EXPECT_EQ(lpc::kTryAgain, server.server.SendEx(server.Client(), Numbered(1), 10000, answer));
+    EXPECT_EQ(0U, received.Size());
+}
+
+} // namespace

@@ -1,0 +1,189 @@
+#include "LpcWorld.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+class Loss : public LpcTest
+{
+protected:
+    /// A server that lets requests wait, and tells of each.
+    void StartSilentServer()
+    {
+        server.onData = [this](lpcserver::ClientId, const lpc::CallBackData& data) {
+            requests.Add(data.requestId);
+        };
+        ASSERT_EQ(lpc::kNoError, server.Start());
+    }
+
+    std::vector<std::future<int>> WaitingCallers(int count)
+    {
+        std::vector<std::future<int>> callers;
+        for (int i = 0; i < count; ++i)
+            callers.push_back(std::async(std::launch::async, [] { return SendExError({}, 0); }));
+        requests.WaitFor(static_cast<std::size_t>(count));
+        return callers;
+    }
+
+    static void ExpectAll(int error, std::vector<std::future<int>>& callers)
+    {
+        for (auto& caller : callers) {
+            ASSERT_EQ(std::future_status::ready, caller.wait_for(kLimit));
+            EXPECT_EQ(error, caller.get());
+        }
+    }
+
+    EchoServer server;
+    Collected<lpc::RequestId> requests;
+};
+
+TEST_F(Loss, WaitingCallersFailAtOnceAndTheReceiverHearsOfItLast)
+{
+    StartSilentServer();
+    Collected<int> asynchronous;
+    const Client client;
+    CollectNumbers();
+    auto callers = WaitingCallers(4);
+    EXPECT_NE(0U, lpcclient::Send({}, [&](int error, const lpc::Message&) { asynchronous.Add(error); }));
+    requests.WaitFor(5);
+    for (int i = 0; i < 3; ++i)
+        ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), Numbered(i)));
+    server.server.Stop();
+    ExpectAll(lpc::kConnectionLost, callers);
+    EXPECT_EQ(std::vector<int>{lpc::kConnectionLost}, asynchronous.WaitFor(1));
+    EXPECT_EQ((std::vector<std::string>{"0", "1", "2", "clientDisconnected"}), received.WaitFor(4));
+    EXPECT_FALSE(lpcclient::Notify({}));
+    EXPECT_EQ(lpc::kNotConnected, lpcclient::GetLPCLastError());
+}
+
+TEST_F(Loss, BeforeTheReceiverIsSetItIsKeptForIt)
+{
+    StartSilentServer();
+    const Client client;
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), Numbered(0)));
+    auto callers = WaitingCallers(1);
+    server.server.Stop();
+    ExpectAll(lpc::kConnectionLost, callers); // so the loss is known
+    CollectNumbers();
+    EXPECT_EQ((std::vector<std::string>{"0", "clientDisconnected"}), received.WaitFor(2));
+}
+
+TEST_F(Loss, DisconnectingFailsWaitingCallersAndTellsTheReceiverNothing)
+{
+    StartSilentServer();
+    const Client client;
+    CollectNumbers();
+    auto callers = WaitingCallers(4);
+    ASSERT_TRUE(lpcclient::DisconnectToServer());
+    ExpectAll(lpc::kConnectionLost, callers);
+    ASSERT_TRUE(lpcclient::DisconnectToServer());
+    ASSERT_TRUE(lpcclient::Uninit());
+    EXPECT_FALSE(lpcclient::Uninit());
+    EXPECT_EQ(lpc::kNotInitialised, lpcclient::GetLPCLastError());
+    EXPECT_EQ(0U, received.Size());
+}
+
+TEST_F(Loss, EveryEndMayBeCalledTwiceFromWithinTheCallback)
+{
+    StartSilentServer();
+    Once done;
+    const Client client;
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData&, void*) {
+            EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
+            EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
+            EXPECT_TRUE(lpcclient::DisconnectToServer());
+            EXPECT_TRUE(lpcclient::DisconnectToServer());
+            EXPECT_TRUE(lpcclient::Uninit());
+            EXPECT_FALSE(lpcclient::Uninit());
+            done.Happens();
+            return true;
+        },
+        nullptr));
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), {}));
+    ASSERT_TRUE(done.Wait());
+    EXPECT_EQ(1U, server.disconnected.WaitFor(1).size());
+    const Client again; // and a new life is possible
+    EXPECT_EQ(2U, server.connected.WaitFor(2).size());
+}
+
+TEST_F(Loss, ClearingTheReceiverWaitsForTheCallUnderWay)
+{
+    StartSilentServer();
+    Once entered;
+    std::promise<void> go;
+    std::atomic<bool> left{false};
+    const Client client;
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData&, void*) {
+            entered.Happens();
+            go.get_future().wait_for(kLimit);
+            left = true;
+            return true;
+        },
+        nullptr));
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), {}));
+    ASSERT_TRUE(entered.Wait());
+    auto clearing =
+        std::async(std::launch::async, [&] { return lpcclient::SetInvokeCallBack({}, nullptr) && left; });
+    go.set_value();
+    ASSERT_EQ(std::future_status::ready, clearing.wait_for(kLimit));
+    EXPECT_TRUE(clearing.get());
+}
+
+TEST_F(Loss, TheServerMayBeStoppedFromWithinAnEventAndStartedAgain)
+{
+    server.onData = [this](lpcserver::ClientId, const lpc::CallBackData&) { server.server.Stop(); };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
+    EXPECT_EQ(lpc::kConnectionLost, SendExError({}, 20000));
+    server.server.Stop();
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    ASSERT_TRUE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_EQ(2U, server.connected.WaitFor(2).size());
+}
+
+TEST_F(Loss, NothingWorksWithoutInitOrConnection)
+{
+    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_EQ(lpc::kNotInitialised, lpcclient::GetLPCLastError());
+    EXPECT_FALSE(lpcclient::Init("", false));
+    EXPECT_EQ(lpc::kInvalidArgument, lpcclient::GetLPCLastError());
+    ASSERT_TRUE(lpcclient::Init("client", false));
+    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
+    EXPECT_EQ(lpc::kNotConnected, SendExError({}, 1000));
+    EXPECT_TRUE(lpcclient::Uninit());
+}
+
+TEST_F(Loss, ALivingServerKeepsItsNameADeadOnesSocketIsReplaced)
+{
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    EchoServer second;
+    EXPECT_EQ(lpc::kCannotListen, second.Start());
+    const Client client; // the first one still listens
+
+    const pid_t child = fork();
+    if (child == 0) {
+        EchoServer dying;
+        _exit(dying.server.Start("other") == lpc::kNoError ? 0 : 1); // leaves its socket behind
+    }
+    int status = 0;
+    ASSERT_EQ(child, waitpid(child, &status, 0));
+    ASSERT_EQ(0, WEXITSTATUS(status));
+    EchoServer heir;
+    EXPECT_EQ(lpc::kNoError, heir.server.Start("other"));
+}
+
+TEST_F(Loss, ServersOfAnotherDataRootAreNotMet)
+{
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    setenv("VANTOR_USER_DATA", (root.Path() + "other").c_str(), 1);
+    ASSERT_TRUE(lpcclient::Init("client", false));
+    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
+    EXPECT_TRUE(lpcclient::Uninit());
+}
+
+} // namespace
