@@ -76,6 +76,11 @@ bool CComponentInbox::Gone(Clock::time_point now) const
     return m_exitStatus && m_client == 0 && now >= m_exitTime + kAfterExit;
 }
 
+bool CComponentInbox::ExitIsSeen() const
+{
+    return m_exitStatus && (m_client == 0 || Clock::now() >= m_exitTime + kAfterExit);
+}
+
 CComponentInbox::Outcome CComponentInbox::Await(std::unique_lock<std::mutex>& lock,
                                                 Clock::time_point deadline, bool endsWithChild,
                                                 const std::function<bool()>& found)
@@ -90,8 +95,9 @@ CComponentInbox::Outcome CComponentInbox::Await(std::unique_lock<std::mutex>& lo
             return Outcome::Ended;
         if (now >= deadline)
             return Outcome::TimedOut;
-        const bool ending = endsWithChild && m_exitStatus && m_client == 0;
-        m_changed.wait_until(lock, ending ? std::min(deadline, m_exitTime + kAfterExit) : deadline);
+        const Clock::time_point settled = m_exitTime + kAfterExit;
+        const bool settling = m_exitStatus && now < settled;
+        m_changed.wait_until(lock, settling ? std::min(deadline, settled) : deadline);
     }
 }
 
@@ -107,9 +113,9 @@ CComponentInbox::Outcome CComponentInbox::WaitForConnection(Clock::time_point de
 CComponentInbox::Outcome CComponentInbox::WaitForExit(Clock::time_point deadline, int& status)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    const Outcome outcome = Await(lock, deadline, false, [this] { return m_exitStatus.has_value(); });
+    const Outcome outcome = Await(lock, deadline, false, [this] { return ExitIsSeen(); });
     status = m_exitStatus.value_or(0);
-    return outcome;
+    return outcome == Outcome::TimedOut && m_exitStatus ? Outcome::Found : outcome;
 }
 
 CComponentInbox::Outcome CComponentInbox::WaitForMessage(Kind kind, Clock::time_point deadline,

@@ -44,6 +44,7 @@ public:
     bool Interrupted() const;
 
     Outcome WaitForConnection(Clock::time_point deadline, lpcserver::ClientId& client);
+    /// Waits for the end of the process, and shortly for that of its connection.
     Outcome WaitForExit(Clock::time_point deadline, int& status);
 
     /// Waits for a message that the test accepts and takes it and all earlier ones of its kind out. The test
@@ -63,6 +64,7 @@ private:
 
     Queue& Of(Kind kind) { return kind == Kind::Request ? m_requests : m_notifications; }
     bool Gone(Clock::time_point now) const;
+    bool ExitIsSeen() const;
     Outcome Await(std::unique_lock<std::mutex>& lock, Clock::time_point deadline, bool endsWithChild,
                   const std::function<bool()>& found);
 

@@ -44,7 +44,7 @@ A script has one JSON object a line. "#" starts a comment, "## " a comment that 
                                      answer such requests so from now on; "silent": true: not at all
   {"sleep_ms": N}   {"kill": "SIGKILL"}
   {"expect_exit": 0, "within_ms": N}                        a signal as its negative number
-  {"set": {"timeout_ms": N, "accepting": true, "$name": 1}}
+  {"set": {"timeout_ms": N, "end_ms": N, "accepting": true, "$name": 1}}
 
 In what is demanded "*" matches anything, "$name" stores a value the first time and compares later,
 objects may have more members, arrays may not have more elements. In what is sent "$name" is filled in.

@@ -13,8 +13,7 @@ namespace {
 using Result = std::optional<Failure>;
 using Outcome = CComponentInbox::Outcome;
 
-/// How long a component may take to end in order, and to be gone after its connection was lost.
-constexpr std::uint32_t kEndMs = 10000;
+/// How long a component may take to be gone after its connection was lost.
 constexpr int kGoneMs = 1000;
 
 Clock::time_point In(std::uint32_t ms)
@@ -225,6 +224,7 @@ Result CPlayer::operator()(const SetOptions& step)
     for (const auto& [name, value] : step.variables)
         m_variables[name] = value;
     m_timeoutMs = step.timeoutMs.value_or(m_timeoutMs);
+    m_endMs = step.endMs.value_or(m_endMs);
     if (step.accepting)
         m_host.SetAccepting(*step.accepting);
     return std::nullopt;
@@ -270,7 +270,7 @@ bool CPlayer::EndChild()
     }
     const Clock::time_point begin = Clock::now();
     const bool asked = AskToEnd();
-    const auto status = m_child->WaitForExit(asked ? static_cast<int>(std::max(kEndMs, m_timeoutMs)) : 0);
+    const auto status = m_child->WaitForExit(asked ? static_cast<int>(m_endMs) : 0);
     if (!status) {
         m_child->Signal(*CChildProcess::SignalNumber("SIGKILL"));
         m_child->WaitForExit(kGoneMs);

@@ -59,6 +59,7 @@ private:
     CReport& m_report;
     Variables m_variables;
     std::uint32_t m_timeoutMs = 5000;
+    std::uint32_t m_endMs = 10000;
     bool m_endDemanded = false;
 };
 

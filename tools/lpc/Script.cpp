@@ -199,11 +199,13 @@ Step ReadSet(const CObjectReader& line)
             step.variables.emplace_back(*variable, options.Value(member->string));
         else if (name == "timeout_ms")
             step.timeoutMs = options.Milliseconds("timeout_ms");
+        else if (name == "end_ms")
+            step.endMs = options.Milliseconds("end_ms");
         else if (name == "accepting")
             step.accepting = options.Flag("accepting");
         else
             throw ScriptError("unknown option " + Quoted(name) +
-                              "; there are \"timeout_ms\", \"accepting\" and "
+                              "; there are \"timeout_ms\", \"end_ms\", \"accepting\" and "
                               "\"$name\"");
     }
     return step;

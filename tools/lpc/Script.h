@@ -78,6 +78,7 @@ struct SetOptions
 {
     std::vector<std::pair<std::string, JsonValue>> variables;
     std::optional<std::uint32_t> timeoutMs; ///< from then on the default of every within_ms
+    std::optional<std::uint32_t> endMs;     ///< how long the component may take to end after the script
     std::optional<bool> accepting;          ///< false: the host refuses requests with "try again"
 };
 

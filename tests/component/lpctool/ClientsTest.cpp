@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+
 using namespace lpctool;
 
 namespace {
@@ -50,7 +52,7 @@ TEST_F(Clients, ReachTheComponentThroughTheHost)
         {{"call", "--method", "ask", "--body", R"({"headers":{"url":"/other"}})"}, 0, "\"status\":\t\"404\""},
         {{"call", "--url", "/fake/other"}, 1, "the answer reports status 404"},
         {{"call", "--method", "getWndHandle"}, 1, "the answer reports status 404"},
-        {{"call", "--url", "/fake/silent", "--timeout", "100"}, 1, "(error 1007)"},
+        {{"call", "--url", "/fake/silent", "--timeout", "100"}, 1, "error 1007"},
     };
     for (const auto& row : rows) {
         const auto call = m_run.Tool(row.arguments);
@@ -92,6 +94,18 @@ TEST_F(Clients, StopWatchingWhenTheHostEnds)
     Finish();
     EXPECT_EQ(watch->Status(), 0) << watch->Output();
     EXPECT_NE(watch->Output().find(R"("token":"***")"), std::string::npos) << watch->Output();
+}
+
+TEST(AHostWithoutScript, ServesUntilItIsInterrupted)
+{
+    const CHostRun run;
+    setenv("FAKE_COMPONENT_WAY", "", 1);
+    const auto host = run.Tool({"host", "--spawn", FAKE_COMPONENT});
+    ASSERT_TRUE(host->WaitForOutput("serving")) << host->Output();
+    EXPECT_TRUE(WaitUntil([&] { return run.Tool({"call", "--url", "/fake/echo"})->Status() == 0; }));
+    host->Process().Signal(SIGTERM);
+    EXPECT_EQ(host->Status(), 0) << host->Output();
+    EXPECT_NE(host->Output().find("end the component"), std::string::npos) << host->Output();
 }
 
 TEST(ClientsAlone, SayThatThereIsNoFramework)

@@ -19,11 +19,12 @@ struct EndRow
 
 const EndRow kRows[] = {
     {"asked and ended", "", kUntilReady, 0, "end the component"},
-    {"not ended", "stubborn", kUntilReady, 1, "end: it did not end and was killed"},
+    {"not ended", "stubborn", "{\"set\":{\"end_ms\":200}}\n{\"expect_notify\":{\"method\":\"initFinish\"}}",
+     1, "end: it did not end and was killed"},
     {"never connected", "unconnected", "{\"set\":{\"timeout_ms\":50}}\n", 1,
      "end: it could not be asked and was killed"},
     {"awaited and never connected", "unconnected",
-     "{\"invoke\":{\"method\":\"m\"},\"reply\":\"*\",\"within_ms\":50}", 1,
+     "{\"set\":{\"timeout_ms\":50}}\n{\"invoke\":{\"method\":\"m\"},\"reply\":\"*\"}", 1,
      "no connection of the component within 50 ms"},
     {"broken from the start", "broken", "{\"sleep_ms\":300}", 1,
      "the component ended before with exit code 3"},
