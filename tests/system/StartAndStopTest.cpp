@@ -5,6 +5,7 @@
 
 #include <signal.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <thread>
@@ -138,7 +139,7 @@ TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
     ComponentRun run;
     std::ofstream(run.Path() + "script.jsonl") << kUntilReady << R"({"sleep_ms": 60000})";
     std::thread framework(
-        [&] { run.Shell("timeout -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl")); });
+        [&] { run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl")); });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
     framework.join();
     EXPECT_TRUE(run.WaitUntilEnded(10));

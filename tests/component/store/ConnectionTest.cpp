@@ -84,7 +84,7 @@ TEST_F(Connection, OpensAPathOutsideAscii)
 TEST_F(Connection, TakesNoTransactionOrOtherFileFromStatements)
 {
     for (const char* sql :
-         {"BEGIN", "COMMIT", "ROLLBACK", "SAVEPOINT a", "RELEASE a", "ATTACH DATABASE 'other' AS o"})
+         {"BEGIN", "COMMIT", "ROLLBACK", "SAVEPOINT a", "RELEASE a", "ATTACH DATABASE ':memory:' AS o"})
         EXPECT_EQ(ErrorOf([&] { m_conn.Execute(sql); }), kErrorAuth) << sql;
     EXPECT_TRUE(m_conn.Execute("INSERT INTO T (n) VALUES (1)"));
 }

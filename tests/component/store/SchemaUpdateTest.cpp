@@ -171,7 +171,7 @@ TEST_P(SchemaUpdate, ChangesNothingWhenAScriptFails)
         "BEGIN; CREATE TABLE U (n);",
         "CREATE TABLE U (n); SAVEPOINT s;",
         "PRAGMA user_version = 9; nonsense;",
-        "CREATE TABLE U (n); ATTACH DATABASE 'other' AS other;",
+        "CREATE TABLE U (n); ATTACH DATABASE ':memory:' AS other;",
         "CREATE TABLE U (n); CREATE TABLE V (n",
         "CREATE TABLE U (n UNIQUE ON CONFLICT ROLLBACK); INSERT INTO U VALUES (1); INSERT INTO U VALUES (1);",
     };
@@ -183,7 +183,6 @@ TEST_P(SchemaUpdate, ChangesNothingWhenAScriptFails)
         EXPECT_EQ(Query("SELECT n FROM T"), "1") << script;
         EXPECT_EQ(Query("PRAGMA user_version"), "1") << script;
     }
-    EXPECT_FALSE(store::Exists("other"));
     Script("0002_second.sql", kSecond);
     EXPECT_TRUE(Update()) << "the repaired script must run: " << m_message;
 }
