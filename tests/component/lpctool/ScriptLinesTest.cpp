@@ -37,6 +37,9 @@ const LineRow kRows[] = {
 {"invoke":{"url":"/fake/silent"},"reply":"*","within_ms":50})",
      1, "no reply within 50 ms"},
     {"silence", R"({"invoke":{"url":"/fake/silent"},"no_reply_ms":50})", 0, "silence for 50 ms"},
+    {"an end without a reply", R"({"invoke":{"method":"componentUninit"},"no_reply_ms":20000}
+{"expect_exit":0})",
+     0, "expect the end with exit code 0"},
     {"a reply instead of silence", R"({"invoke":{"url":"/fake/echo","body":[7]},"no_reply_ms":20000})", 1,
      "a reply came where silence was demanded\n        whole   [7]"},
     {"variables from one reply to the next",
