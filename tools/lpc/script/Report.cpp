@@ -1,4 +1,4 @@
-#include "lpc/Report.h"
+#include "lpc/script/Report.h"
 
 #include "Base/StringUtil.h"
 

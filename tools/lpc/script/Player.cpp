@@ -1,8 +1,8 @@
-#include "lpc/Player.h"
+#include "lpc/script/Player.h"
 
 #include "lpc/Errors.h"
-#include "lpc/Masking.h"
 #include "lpc/Names.h"
+#include "lpc/json/Masking.h"
 
 #include <algorithm>
 
