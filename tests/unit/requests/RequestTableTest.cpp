@@ -57,9 +57,10 @@ std::function<bool(commlayer::ITransport&)> OfDevice(bool (*request)(const std::
 
 bool ModifyGroups(commlayer::ITransport& transport)
 {
-    ModifyAllGroupsData groups;
-    groups.groups.push_back({"g", "", "Gates", {"c1", "c2"}});
-    return commlayer::CModifyAllGroups::request(groups, transport);
+    ModifyGroupCondition condition;
+    condition.allSmartRule = 1;
+    GroupListData groups;
+    return commlayer::CModifyAllGroupsComm::request(groups, condition, transport);
 }
 
 bool ResizeFrame(commlayer::ITransport& transport)
@@ -144,8 +145,7 @@ const Row kRows[] = {
     {"FrameResize", &ResizeFrame, "PUT", "/vantor/v1/internal/framework/system/frameResize",
      R"({"frameResize":{"type":"MainView","width":800,"height":600}})", "", nullptr},
     {"ModifyAllGroups", &ModifyGroups, "PUT", "/vantor/v1/deviceManagement/groups",
-     R"({"groupList":[{"guid":"g","parentGuid":"","name":"Gates","channelGuids":["c1","c2"]}]})", kGood,
-     nullptr},
+     R"({"modifyGroupCondition":{"allSmartRule":1}})", R"({"groupList":[]})", nullptr},
     {"Devices", Query(&commlayer::CGetDevices::request), "GET", "/vantor/v1/deviceManagement/devices", "",
      R"({"deviceList":[]})", nullptr},
     {"Device", OfDevice(&commlayer::CGetDevice::request), "GET",
