@@ -240,6 +240,8 @@ TEST(EveryCommand, FailsWithTheErrorNumberOfTheCommonResponse)
               (Lines{"Failed to request [url-/vantor/v1/deviceManagement/devices/d/alarmOutputs/o/controls]. "
                      "[error-11-22].",
                      "Failed to LPCSendData. msg:[ requestAlarmControl ]"}));
+    for (const CapturedLog::Line& line : log.Lines())
+        EXPECT_EQ(line.logger, "VideoLogger");
 }
 
 TEST(EveryCommand, ForgetsTheResultOfAnEarlierCall)
@@ -279,10 +281,12 @@ TEST(DeviceRequests, GiveNoCredentialsThatDoNotOpen)
     FakeTransport transport(
         R"({"device":{"guid":"d","name":"n","typeCode":1,"address":"a","port":80,"userName":"x","password":"y"}})");
     DeviceResponseData device;
+    Base::Error::SetLastError(0);
     const CapturedLog log;
     EXPECT_FALSE(video::CDeviceComm(transport).RequestDevice("d", device));
     EXPECT_EQ(device.guid, "d");
     EXPECT_EQ(device.userName + device.password, "");
+    EXPECT_EQ(Base::Error::GetLastError(), commlayer::kBadAnswer);
     EXPECT_TRUE(log.Has("CDecryptionComm failed!"));
 }
 
