@@ -1,11 +1,11 @@
 #include "Protocol/JSONStruct/LoggableText.h"
 
+#include "Base/CredentialName.h"
 #include "Base/StringUtil.h"
 
 #include <boost/locale/utf.hpp>
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <string_view>
 
@@ -14,39 +14,18 @@ namespace protocol {
 namespace {
 
 constexpr const char* kMask = "***";
-constexpr std::array kCredentialParts{"password",   "passwd",        "pwd",      "secret", "token",
-                                      "credential", "authorization", "username", "cookie", "session"};
-constexpr std::array kCredentialWords{"pass", "pin", "auth"};
-constexpr std::string_view kCredentialEnd = "key";
 constexpr std::string_view kBlanks = " \t\r\n";
-
-char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 bool IsWordCharacter(char c)
 {
     const bool isAscii = static_cast<unsigned char>(c) < 0x80;
-    return !isAscii || (Lower(c) >= 'a' && Lower(c) <= 'z') || (c >= '0' && c <= '9') || c == '_' ||
-           c == '-' || c == '.';
+    return !isAscii || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           c == '_' || c == '-' || c == '.';
 }
 
 bool IsOneOf(char c, std::string_view set)
 {
     return set.find(c) != std::string_view::npos;
-}
-
-bool IsCredentialWord(std::string_view written)
-{
-    std::string word(written);
-    std::transform(word.begin(), word.end(), word.begin(), Lower);
-    const auto contains = [&](const char* part) { return word.find(part) != std::string::npos; };
-    const bool endsInKey =
-        word.size() >= kCredentialEnd.size() &&
-        word.compare(word.size() - kCredentialEnd.size(), std::string::npos, kCredentialEnd) == 0;
-    return endsInKey || std::any_of(kCredentialParts.begin(), kCredentialParts.end(), contains) ||
-           std::find(kCredentialWords.begin(), kCredentialWords.end(), word) != kCredentialWords.end();
 }
 
 /// The key at the end of the text: all between its quotes, or the last word. Backslashes belong to it, those
@@ -70,7 +49,7 @@ std::string_view LastKey(std::string_view text)
 bool IsCredentialKeyBefore(std::string_view text, std::size_t separator)
 {
     const std::string_view key = LastKey(text.substr(0, separator));
-    return IsOneOf('\\', key) || IsCredentialWord(key);
+    return IsOneOf('\\', key) || Base::IsCredentialName(key);
 }
 
 /// The place after the quoted text that opens here. depth is the number of backslashes before its opening

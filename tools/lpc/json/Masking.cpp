@@ -1,25 +1,10 @@
 #include "lpc/json/Masking.h"
 
-#include <algorithm>
-#include <cctype>
-#include <string_view>
+#include "Base/CredentialName.h"
 
 namespace lpctool {
 
 namespace {
-
-constexpr std::string_view kCredentialWords[] = {
-    "password", "passwd",  "pwd",        "token",     "secret",    "credential", "authorization",
-    "cookie",   "session", "privatekey", "secretkey", "accesskey", "apikey",     "dbkey"};
-
-std::string LowerLetters(const std::string& name)
-{
-    std::string letters;
-    for (const char letter : name)
-        if (letter != '-' && letter != '_')
-            letters += static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-    return letters;
-}
 
 void MaskMembers(cJSON* item);
 
@@ -33,7 +18,7 @@ void MaskText(cJSON* item)
 
 cJSON* MaskItem(cJSON* parent, cJSON* item)
 {
-    if (item->string && IsCredentialName(item->string)) {
+    if (item->string && Base::IsCredentialName(item->string)) {
         cJSON* mask = cJSON_CreateString(kMask);
         ReplaceItem(parent, item, mask);
         return mask;
@@ -52,13 +37,6 @@ void MaskMembers(cJSON* item)
 }
 
 } // namespace
-
-bool IsCredentialName(const std::string& name)
-{
-    const std::string letters = LowerLetters(name);
-    return std::any_of(std::begin(kCredentialWords), std::end(kCredentialWords),
-                       [&](std::string_view word) { return letters.find(word) != std::string::npos; });
-}
 
 JsonValue Masked(const cJSON& value)
 {
@@ -89,7 +67,7 @@ lpc::HeaderMap MaskedHeaders(const lpc::HeaderMap& headers)
 {
     lpc::HeaderMap masked = headers;
     for (auto& [name, value] : masked)
-        if (IsCredentialName(name))
+        if (Base::IsCredentialName(name))
             value = kMask;
     return masked;
 }

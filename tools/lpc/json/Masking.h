@@ -10,9 +10,6 @@ namespace lpctool {
 /// What is shown in place of a secret.
 constexpr const char* kMask = "***";
 
-/// True for names of members and headers that hold a secret: passwords, tokens, keys, cookies and the like.
-bool IsCredentialName(const std::string& name);
-
 /// A copy in which the values of all members with such names are masked, also within texts that are JSON
 /// themselves.
 JsonValue Masked(const cJSON& value);

@@ -1,5 +1,6 @@
 #include "lpc/json/Matcher.h"
 
+#include "Base/CredentialName.h"
 #include "Base/StringUtil.h"
 #include "lpc/json/Masking.h"
 
@@ -89,7 +90,7 @@ private:
 
     static std::string Shown(const cJSON& value, const std::string& path)
     {
-        if (IsCredentialName(path.substr(path.find_last_of('.') + 1)))
+        if (Base::IsCredentialName(path.substr(path.find_last_of('.') + 1)))
             return kMask;
         const std::string text = MaskedText(value);
         return text.size() <= kShownBytes ? text : Base::StringUtil::CutUtf8(text, kShownBytes) + "...";

@@ -35,7 +35,7 @@ constexpr struct
      R"({"dateTimeFormat":{"dateFormat":"yyyy-MM-dd","timeFormat":"HH:mm:ss"}})"},
     {"/vantor/v1/internal/framework/system/frameResize", kDone},
     {"/vantor/v1/internal/alarmCenter/register", kDone},
-    {"/vantor/v1/deviceManagement/groups", kDone},
+    {"/vantor/v1/deviceManagement/groups", R"({"groupList": []})"},
     {"/vantor/v1/deviceManagement/batchTimeSynchronization", R"({"timeSyncResultList":"$results"})"},
     {"/vantor/v1/deviceManagement/wipers", R"({"wiperControlResultList":"$results"})"},
     {"/vantor/v1/deviceManagement/devices", R"({"deviceList":["$deviceRecord"]})"},
