@@ -9,6 +9,11 @@
 namespace lpcclient {
 namespace {
 
+/// So many calls with no longer gap between them are a run, and how often it is looked after.
+constexpr std::uint64_t kRunLength = 16;
+constexpr std::chrono::microseconds kRunGap{200};
+constexpr std::chrono::milliseconds kRunCheck{1};
+
 bool HasPassed(lpc::TimePoint deadline)
 {
     return deadline != lpc::kForever && std::chrono::steady_clock::now() >= deadline;
@@ -107,18 +112,30 @@ void CConnection::Enter(Waiter& self)
         self.error = lpc::kConnectionLost;
         return;
     }
-    m_waiters.emplace(self.id, &self);
+    m_waiters.push_back(&self);
     TakeRole(self);
 }
 
 void CConnection::Leave(Waiter& self, std::string&& spareBody)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_waiters.erase(self.id);
+    TakeWaiter(self.id);
     if (m_holder != &self)
         return;
     m_reader.Recycle(std::move(spareBody));
     PassRole();
+}
+
+/// The caller that waits for that answer, who is then no longer on the list.
+CConnection::Waiter* CConnection::TakeWaiter(RequestId id)
+{
+    const auto found = std::find_if(m_waiters.begin(), m_waiters.end(),
+                                    [id](const Waiter* waiter) { return waiter->id == id; });
+    if (found == m_waiters.end())
+        return nullptr;
+    Waiter* const waiter = *found;
+    m_waiters.erase(found);
+    return waiter;
 }
 
 /// Stays until the request is written, reading meanwhile if it has the role: two ends that only write would
@@ -208,17 +225,55 @@ bool CConnection::TakeRole(Waiter& self)
 void CConnection::PassRole()
 {
     m_holder = nullptr;
-    const auto next = std::find_if(m_waiters.begin(), m_waiters.end(),
-                                   [](const auto& entry) { return entry.second->parked; });
+    const auto next =
+        std::find_if(m_waiters.begin(), m_waiters.end(), [](const Waiter* waiter) { return waiter->parked; });
     if (next == m_waiters.end()) {
-        m_role = Role::Free;
-        m_watch.Read(true);
+        FreeRole();
         return;
     }
     m_role = Role::Caller;
-    m_holder = next->second;
+    m_holder = *next;
     m_watch.Read(false);
     m_holder->turn.notify_one();
+}
+
+void CConnection::FreeRole()
+{
+    const bool afterCall = m_role == Role::Caller;
+    m_role = Role::Free;
+    if (!afterCall) {
+        m_watch.Read(true);
+        return;
+    }
+    const lpc::TimePoint now = std::chrono::steady_clock::now();
+    m_run.length = now - m_run.last < kRunGap ? m_run.length + 1 : 0;
+    m_run.last = now;
+    if (m_run.active)
+        return;
+    m_watch.Read(true);
+    if (m_run.length < kRunLength)
+        return;
+    m_run.active = true;
+    m_poller.Wake();
+}
+
+lpc::TimePoint CConnection::CheckRun()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_run.active)
+        return lpc::kForever;
+    const lpc::TimePoint now = std::chrono::steady_clock::now();
+    if (now < m_run.nextCheck)
+        return m_run.nextCheck;
+    if (m_run.length != m_run.lengthSeen) {
+        m_run.lengthSeen = m_run.length;
+        m_run.nextCheck = now + kRunCheck;
+        return m_run.nextCheck;
+    }
+    m_run.active = false;
+    if (m_role == Role::Free)
+        m_watch.Read(true);
+    return lpc::kForever;
 }
 
 /// The library's thread is woken because it may have made room just before.
@@ -335,14 +390,12 @@ void CConnection::TakeMessage(lpc::WireMessage& message)
 void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    if (const auto waiting = m_waiters.find(message.id); waiting != m_waiters.end()) {
-        Waiter& waiter = *waiting->second;
-        m_waiters.erase(waiting);
-        waiter.answer = {std::move(message.headers), std::move(message.body)};
-        waiter.error = error;
-        waiter.done = true;
-        if (m_holder != &waiter)
-            waiter.turn.notify_one();
+    if (Waiter* const waiter = TakeWaiter(message.id)) {
+        waiter->answer = {std::move(message.headers), std::move(message.body)};
+        waiter->error = error;
+        waiter->done = true;
+        if (m_holder != waiter)
+            waiter->turn.notify_one();
         return;
     }
     if (const auto pending = m_pending.find(message.id); pending != m_pending.end()) {
@@ -376,7 +429,7 @@ void CConnection::End(bool lost)
         std::lock_guard<std::mutex> lock(m_mutex);
         if (m_ended.exchange(true))
             return;
-        for (auto& [id, waiter] : m_waiters) {
+        for (Waiter* const waiter : m_waiters) {
             waiter->done = true;
             waiter->error = lpc::kConnectionLost;
             waiter->turn.notify_one();

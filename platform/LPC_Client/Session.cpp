@@ -7,6 +7,8 @@
 #include "Base/Log.h"
 #include "Base/ProcessUtil.h"
 
+#include <algorithm>
+
 namespace lpcclient {
 namespace {
 
@@ -51,11 +53,12 @@ void CSession::Run()
     OnLibraryThread() = true;
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
-        const bool more = DeliverSome();
-        const std::shared_ptr<CConnection> connection = Connection();
-        if (connection)
+        lpc::TimePoint deadline = DeliverSome() ? lpc::TimePoint() : lpc::kForever;
+        if (const auto connection = Connection()) {
             connection->ResumeReading();
-        const std::size_t count = m_poller.Wait(events, kEvents, more ? lpc::TimePoint() : lpc::kForever);
+            deadline = std::min(deadline, connection->CheckRun());
+        }
+        const std::size_t count = m_poller.Wait(events, kEvents, deadline);
         for (std::size_t i = 0; i < count; ++i)
             OnEvent(events[i]);
     }
