@@ -147,8 +147,9 @@ int CSession::ExchangeHello(lpc::CLocalSocket& socket, lpc::CFrameReader& reader
 {
     const std::string noBody;
     const lpc::CFrameSet hello(lpc::Kind::Hello, 0, lpc::HelloHeaders(m_name), noBody);
-    if (socket.Write(hello.Spans().data(), hello.Spans().size()).bytes != hello.Size())
-        return lpc::kConnectionLost;
+    // A server that has no room for another client may have refused and closed already; its refusal is still
+    // to be read.
+    socket.Write(hello.Spans().data(), hello.Spans().size());
     lpc::WireMessage answer;
     while (!reader.Next(answer)) {
         if (reader.GetFault() != lpc::Fault::None)
