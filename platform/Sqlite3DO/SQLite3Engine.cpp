@@ -55,7 +55,8 @@ int OpenFlags(CSQLite3Engine::Mode mode)
 {
     using Mode = CSQLite3Engine::Mode;
     const int create = mode == Mode::Create || mode == Mode::CreateCopy ? SQLITE_OPEN_CREATE : 0;
-    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_FULLMUTEX | create;
+    // One thread at a time is this class's rule; the engine's own lock at every column would only cost time.
+    return SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | create;
 }
 
 [[noreturn]] void Fail(sqlite3* db, int code)
@@ -259,8 +260,7 @@ void CSQLite3Engine::CopyTo(const std::string& path, const std::string& key)
 
 void CSQLite3Engine::ExportEncrypted(const std::string& path, const std::string& key)
 {
-    if (!IsKeyText(key))
-        throw CSQLite3Exception(kErrorMisuse, "the database key is not of 64 hexadecimal digits");
+    CSQLite3Engine(path, Mode::CreateCopy, key); // attaching a file makes none
     const char* position = "ATTACH DATABASE ?1 AS target KEY ?2";
     const StatementHandle attach = PrepareNext(m_db, position, position + std::strlen(position));
     const RawKey raw(key);

@@ -7,7 +7,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
 #include <iterator>
 #include <new>
 #include <utility>
@@ -19,7 +18,7 @@ namespace {
 
 using Utf8 = boost::locale::utf::utf_traits<char>;
 constexpr boost::locale::utf::code_point kReplacement = 0xFFFD;
-constexpr unsigned long long kLargestExact = (1ULL << 53) - 1;
+constexpr long long kLargestExact = (1LL << 53) - 1;
 
 bool IsCharacter(boost::locale::utf::code_point point)
 {
@@ -154,14 +153,14 @@ Tree NewText(const std::string& value)
 
 Tree NewInteger(long long value)
 {
-    const bool exact = static_cast<unsigned long long>(std::llabs(value)) <= kLargestExact;
+    const bool exact = value >= -kLargestExact && value <= kLargestExact;
     return Checked(exact ? cJSON_CreateRaw(Digits(value).c_str())
                          : cJSON_CreateString(Digits(value).c_str()));
 }
 
 Tree NewInteger(unsigned long long value)
 {
-    const bool exact = value <= kLargestExact;
+    const bool exact = value <= static_cast<unsigned long long>(kLargestExact);
     return Checked(exact ? cJSON_CreateRaw(Digits(value).c_str())
                          : cJSON_CreateString(Digits(value).c_str()));
 }

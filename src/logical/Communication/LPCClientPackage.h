@@ -51,9 +51,8 @@ public:
     /// Answers a call with the body, under the call's request identifier and header map.
     bool ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body);
 
-    /// Answers a method call with a payload in the envelope of its method.
-    bool ReplyMethod(const lpcclient::LPCCallBackData& call, const std::string& method,
-                     protocol::ILPCData& payload);
+    /// Answers a method call with the payload, in the envelope of the payload's method.
+    bool ReplyMethod(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload);
 
     /// Registers for the framework's alarms; waits for the answer.
     void RegisterAlarm();

@@ -1,7 +1,7 @@
 #include "logical/System/VideoSystemManager.h"
 
 #include "Base/Singleton.h"
-#include "logical/Local/DatabaseSession/BaseDBConn.h"
+#include "logical/Local/DatabaseSession/VideoSystemDB.h"
 
 namespace video {
 

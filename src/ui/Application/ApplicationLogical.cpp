@@ -5,6 +5,7 @@
 #include "Base/MessageLoop.h"
 #include "Base/Singleton.h"
 #include "ClientCommonLogical/NotifyCenterManager.h"
+#include "ClientCommonLogical/NotifyTypes.h"
 #include "CloudP2PReport/CloudP2PManager.h"
 #include "CloudP2PReport/CloudReportInfoManager.h"
 #include "CloudP2PReport/ReportManager.h"
@@ -82,7 +83,17 @@ void CVantorApplication::InitManager()
         return std::make_unique<CUnavailablePage>(QString::fromStdString(name));
     });
     ServeAllRoutes(CLPCClientPackage::Instance(), CSignalTransmit::Instance());
+    RegisterForNotifications();
     BASE_INFO("InitManager Success.");
+}
+
+void CVantorApplication::RegisterForNotifications()
+{
+    for (const char* type : clientcommon::kResourceNotifyTypes)
+        clientcommon::CNotifyCenterManager::Instance().RegisterHandler(
+            type, m_anchor.Ref(), [](const protocol::WebSocketNotifyData& notification) {
+                BASE_INFO("Notification [%s] of [%s].", notification.type.c_str(), notification.guid.c_str());
+            });
 }
 
 bool CVantorApplication::InitLogical()

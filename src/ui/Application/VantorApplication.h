@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/WeakAnchor.h"
 #include "SingleApplication/SingleApplication.h"
 #include "ui/Application/ApplicationLook.h"
 #include "ui/Application/VantorEventFilter.h"
@@ -45,10 +46,9 @@ private:
     void LoadLook();
     void StartWinIDAndSystemManager();
     void InitManager();
+    void RegisterForNotifications();
     [[nodiscard]] bool InitLogical();
     void initDateTimeFormat();
-    void AnnounceReady();
-
     void UnInitLink();
     void UnInitGui();
     void UnInitBase();
@@ -59,6 +59,7 @@ private:
     std::shared_future<void> m_fInitWinIDAndSystemManager;
     std::unique_ptr<CVantorEventFilter> m_eventFilter;
     bool m_quitting = false;
+    Base::details::CWeakPtrBase m_anchor; ///< of the handlers of notifications
 };
 
 } // namespace video

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "CommunicationLayer/TypedRequest.h"
+#include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
+#include "Protocol/JSONStruct/HTTP/DeviceJSONStruct.h"
+
+/// Requests about devices. The credentials of CGetDevices and CGetDevice are still enciphered; the component
+/// asks through logical/Communication/LPCRequest/DeviceRequest.h, which opens them.
+namespace commlayer {
+
+using CGetDevices = CQuery<protocol::route::kDevices, protocol::DeviceResponseListData>;
+using CGetDevice = CDeviceQuery<protocol::route::kNothing, protocol::DeviceResponseData>;
+using CGetDeviceChannels = CDeviceQuery<protocol::route::kChannels, protocol::DeviceChannelListData>;
+using CGetDeviceAlarmInputs = CDeviceQuery<protocol::route::kAlarmInputs, protocol::AlarmInputInfoData>;
+using CModifyAllGroups = CCommand<kPut, protocol::route::kGroups, protocol::ModifyAllGroupsData>;
+
+} // namespace commlayer
