@@ -50,9 +50,6 @@ public:
     /// The library's thread: lets reading go on that had stopped because the receive queue was full.
     void ResumeReading();
 
-    /// The library's thread: when to look again whether a run of calls is over; kForever when there is none.
-    lpc::TimePoint CheckRun();
-
     /// Ends the connection from this side, without "clientDisconnected".
     void Close();
 
@@ -68,18 +65,6 @@ private:
     };
     enum class Role { Free, Library, Caller, Stalled };
 
-    /// Calls that follow closely on each other. To take the socket into the watch between them and out again
-    /// would cost a tenth of each call, so in such a run it stays out, and the library's thread looks every
-    /// millisecond whether the run is over.
-    struct CallRun
-    {
-        bool active = false;
-        std::uint64_t length = 0;
-        std::uint64_t lengthSeen = 0; ///< at the last check
-        lpc::TimePoint last{};
-        lpc::TimePoint nextCheck{};
-    };
-
     int WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::TimePoint deadline, bool& waited);
     int AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimePoint deadline);
     void Park(Waiter& self, std::unique_lock<std::mutex>& lock, lpc::TimePoint deadline);
@@ -90,7 +75,6 @@ private:
 
     bool TakeRole(Waiter& self);
     void PassRole();
-    void FreeRole();
     void Stall();
     void ReadAsLibrary();
 
@@ -114,8 +98,7 @@ private:
 
     mutable std::mutex m_mutex;
     Role m_role = Role::Library;
-    Waiter* m_holder = nullptr; ///< the caller that reads
-    CallRun m_run;
+    Waiter* m_holder = nullptr;     ///< the caller that reads
     std::vector<Waiter*> m_waiters; ///< those whose answer has not come
     std::unordered_map<RequestId, AnswerCallBack> m_pending;
     std::atomic<bool> m_ended{false};

@@ -7,8 +7,6 @@
 #include "Base/Log.h"
 #include "Base/ProcessUtil.h"
 
-#include <algorithm>
-
 namespace lpcclient {
 namespace {
 
@@ -44,8 +42,7 @@ void CSession::Stop()
         thread.join();
 }
 
-// ---- the library's thread
-// ---------------------------------------------------------------------------------------
+// ---- the library's thread ----
 
 void CSession::Run()
 {
@@ -53,11 +50,9 @@ void CSession::Run()
     OnLibraryThread() = true;
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
-        lpc::TimePoint deadline = DeliverSome() ? lpc::TimePoint() : lpc::kForever;
-        if (const auto connection = Connection()) {
+        const lpc::TimePoint deadline = DeliverSome() ? lpc::TimePoint() : lpc::kForever;
+        if (const auto connection = Connection())
             connection->ResumeReading();
-            deadline = std::min(deadline, connection->CheckRun());
-        }
         const std::size_t count = m_poller.Wait(events, kEvents, deadline);
         for (std::size_t i = 0; i < count; ++i)
             OnEvent(events[i]);
@@ -94,8 +89,7 @@ void CSession::Refuse(RequestId id)
         connection->Post(lpc::Kind::Refusal, id, lpc::RefusalHeaders(lpc::kTryAgain), {});
 }
 
-// ---- connecting
-// -------------------------------------------------------------------------------------------------
+// ---- connecting ----
 
 int CSession::Connect(const std::string& serverName)
 {
@@ -186,8 +180,7 @@ std::shared_ptr<CConnection> CSession::Connection() const
     return m_connection && m_connection->IsOpen() ? m_connection : nullptr;
 }
 
-// ---- traffic
-// ----------------------------------------------------------------------------------------------------
+// ---- traffic ----
 
 void CSession::SetReceiver(InvokeCallBack callback, void* user)
 {

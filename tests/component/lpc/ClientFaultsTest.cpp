@@ -175,7 +175,7 @@ TEST_F(ClientFaults, ACallFromWithinTheReceiverDoesNotWaitForRoomThatOnlyTheRece
     EXPECT_EQ(0, SendExError({}, 20000));
 }
 
-/// During a run of calls the library's thread does not watch the socket; it has to take it up again.
+/// While a caller reads, the library's thread does not watch the socket; it has to take it up again.
 TEST_F(ClientFaults, NotificationsArriveAlsoAfterARunOfCalls)
 {
     EchoServer server;
