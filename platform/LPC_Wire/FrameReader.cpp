@@ -124,9 +124,15 @@ bool CFrameReader::StepHeaders()
 
 bool CFrameReader::StepBody(WireMessage& message, bool& complete)
 {
+    std::string& body = m_current.message.body;
+    if (body.empty() && m_left <= Available()) {
+        body.assign(m_buffer.get() + m_begin, m_left);
+        m_begin += m_left;
+        m_current.used = m_left;
+        m_left = 0;
+    }
     while (m_left > 0 && Available() > 0) {
         GrowBody();
-        std::string& body = m_current.message.body;
         const std::size_t bytes = std::min({m_left, Available(), body.size() - m_current.used});
         std::memcpy(body.data() + m_current.used, m_buffer.get() + m_begin, bytes);
         m_begin += bytes;
