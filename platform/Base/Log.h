@@ -26,7 +26,8 @@ public:
     /// error and the result false.
     bool InitLog(const std::string& propertiesPath);
 
-    /// Writes out and stops. May be called again.
+    /// Writes out and stops; waits for lines that other threads are writing. May be called again. Call it
+    /// before the process exits while other threads run: log4cxx itself does not survive that.
     void UninitLog();
 
     /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at
