@@ -230,7 +230,7 @@ TEST(TheComponent, HandsTheFrameworksNotificationsOn)
         R"({"notify": {"protocol": "websocket", "body": {"guid": "8", "type": "alarmMessage", "data": {}}}})"
         "\n";
     ASSERT_EQ(run.Play(kUntilReady + notify + kQuit), 0) << run.Output();
-    EXPECT_THAT(run.MissingInOrder({"Notification [deviceAdd] of [7].", "Start UnInit Video.C"}), IsEmpty());
+    EXPECT_THAT(run.MissingInOrder({"Notification [deviceAdd] of [7].", "UninitBase Success."}), IsEmpty());
 }
 
 } // namespace
