@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <thread>
 
 using testing::Contains;
@@ -119,7 +120,7 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
     const std::string parentFile = run.Path() + "parent";
     std::ofstream(run.Path() + "start.sh")
         << "echo $$ >" << parentFile << "; " << run.Component() << " & wait\n";
-    std::thread parent([&] { run.Shell("sh " + run.Path() + "start.sh"); });
+    auto parent = std::async(std::launch::async, [&] { run.Shell("sh " + run.Path() + "start.sh"); });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
     EXPECT_THAT(run.LogMessages(), Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
     EXPECT_THAT(run.LogMessages(), Contains("Failed to send. LastError: [1005]."));
@@ -128,7 +129,7 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
     std::ifstream(parentFile) >> pid;
     ASSERT_GT(pid, 1);
     ::kill(pid, SIGKILL);
-    parent.join();
+    parent.get();
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
                 IsEmpty());
@@ -138,10 +139,11 @@ TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
 {
     ComponentRun run;
     std::ofstream(run.Path() + "script.jsonl") << kUntilReady << R"({"sleep_ms": 60000})";
-    std::thread framework(
-        [&] { run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl")); });
+    auto framework = std::async(std::launch::async, [&] {
+        run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl"));
+    });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
-    framework.join();
+    framework.get();
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
                 IsEmpty());
@@ -212,11 +214,11 @@ TEST(TheStartParameters, FallBackWhereTheyAreMissing)
     for (const auto& row : rows) {
         ComponentRun run;
         const std::string command = run.Program() + " " + row.arguments;
-        std::thread component([&] { EXPECT_EQ(run.Shell(command), 0) << command; });
+        auto component = std::async(std::launch::async, [&] { return run.Shell(command); });
         EXPECT_TRUE(run.WaitForLog("APP Init Success", 20)) << command;
         EXPECT_THAT(run.LogMessages(), Contains(row.line));
         run.Terminate();
-        component.join();
+        EXPECT_EQ(component.get(), 0) << command;
     }
 }
 

@@ -42,10 +42,15 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
+// Windows knows thread names since version 10; an older one goes without.
 void NameThisThread(const std::string& name)
 {
+    using SetDescription = HRESULT(WINAPI*)(HANDLE, PCWSTR);
+    const auto address = ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "SetThreadDescription");
+    const auto setDescription = reinterpret_cast<SetDescription>(reinterpret_cast<void*>(address));
     const std::wstring wide(name.begin(), name.end());
-    ::SetThreadDescription(::GetCurrentThread(), wide.c_str());
+    if (setDescription)
+        setDescription(::GetCurrentThread(), wide.c_str());
 }
 
 std::int64_t ProcessId()

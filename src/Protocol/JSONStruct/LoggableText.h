@@ -12,9 +12,9 @@ constexpr std::size_t kLoggedTextLimit = 4096;
 /// UTF-8, and with credentials replaced by "***". Works on any bytes, also when they are not JSON.
 ///
 /// A credential is the value of a key that, in any letter case, contains password, passwd, pwd, secret,
-/// token, credential, authorization or username, ends in key, or is pass, pin or auth; and of a key that is
-/// written with escapes. A value that is cut off, or whose end is in doubt, is masked further rather than
-/// shown.
+/// token, credential, authorization, username, cookie or session, ends in key, or is pass, pin or auth; of a
+/// key that is written with escapes; and what stands before the "@" of a url. One that is cut off, or whose
+/// end is in doubt, is masked further rather than shown. Any thread.
 std::string LoggableText(const std::string& text);
 
 } // namespace protocol

@@ -1,4 +1,4 @@
-#include "lpc/Answers.h"
+#include "lpc/script/Answers.h"
 
 #include "support/TestDataRoot.h"
 

@@ -1,9 +1,9 @@
-#include "lpc/Traffic.h"
+#include "lpc/host/Traffic.h"
 
 #include "Base/StringUtil.h"
 #include "Base/TimeUtil.h"
-#include "lpc/Masking.h"
 #include "lpc/Names.h"
+#include "lpc/json/Masking.h"
 
 #include <algorithm>
 #include <chrono>

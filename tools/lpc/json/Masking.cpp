@@ -1,4 +1,4 @@
-#include "lpc/Masking.h"
+#include "lpc/json/Masking.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "lpc/Answers.h"
-#include "lpc/ComponentInbox.h"
-#include "lpc/Forwarder.h"
-#include "lpc/Traffic.h"
+#include "lpc/host/Forwarder.h"
+#include "lpc/host/Traffic.h"
+#include "lpc/script/Answers.h"
+#include "lpc/script/ComponentInbox.h"
 
 #include <map>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lpc/Matcher.h"
+#include "lpc/json/Matcher.h"
 
 #include <chrono>
 #include <optional>

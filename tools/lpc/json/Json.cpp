@@ -1,4 +1,4 @@
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 
 #include <utility>
 

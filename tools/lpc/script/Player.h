@@ -1,9 +1,9 @@
 #pragma once
 
 #include "ChildProcess/ChildProcess.h"
-#include "lpc/Host.h"
-#include "lpc/Report.h"
-#include "lpc/Script.h"
+#include "lpc/host/Host.h"
+#include "lpc/script/Report.h"
+#include "lpc/script/Script.h"
 
 #include <optional>
 #include <string>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "LPC_Server/LPC_Server.h"
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 
 #include <chrono>
 #include <condition_variable>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "LPC_Wire/Records.h"
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 
 #include <string>
 

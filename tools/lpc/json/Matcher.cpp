@@ -1,7 +1,7 @@
-#include "lpc/Matcher.h"
+#include "lpc/json/Matcher.h"
 
 #include "Base/StringUtil.h"
-#include "lpc/Masking.h"
+#include "lpc/json/Masking.h"
 
 #include <cctype>
 #include <cstring>

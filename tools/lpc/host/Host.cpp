@@ -1,4 +1,4 @@
-#include "lpc/Host.h"
+#include "lpc/host/Host.h"
 
 #include "lpc/Names.h"
 

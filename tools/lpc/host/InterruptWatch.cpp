@@ -1,4 +1,4 @@
-#include "lpc/InterruptWatch.h"
+#include "lpc/host/InterruptWatch.h"
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/signal_set.hpp>

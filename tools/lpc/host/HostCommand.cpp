@@ -2,10 +2,10 @@
 
 #include "Base/FileUtil.h"
 #include "lpc/Errors.h"
-#include "lpc/InterruptWatch.h"
 #include "lpc/Names.h"
 #include "lpc/Options.h"
-#include "lpc/Player.h"
+#include "lpc/host/InterruptWatch.h"
+#include "lpc/script/Player.h"
 
 #include <istream>
 #include <iterator>

@@ -1,8 +1,8 @@
-#include "lpc/Script.h"
+#include "lpc/script/Script.h"
 
 #include "Base/StringUtil.h"
 #include "ChildProcess/ChildProcess.h"
-#include "lpc/Matcher.h"
+#include "lpc/json/Matcher.h"
 
 #include <algorithm>
 #include <cmath>

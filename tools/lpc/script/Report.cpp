@@ -1,4 +1,4 @@
-#include "lpc/Report.h"
+#include "lpc/script/Report.h"
 
 #include "Base/StringUtil.h"
 
@@ -20,7 +20,7 @@ void CReport::Step(const std::string& what, std::chrono::milliseconds took, cons
                    const std::string& place)
 {
     ++m_steps;
-    m_out << Format("%4d  %-66s %7lld ms  %s", m_steps, what.c_str(), static_cast<long long>(took.count()),
+    m_out << Format("%4d  %-72s %7lld ms  %s", m_steps, what.c_str(), static_cast<long long>(took.count()),
                     failure ? "MISMATCH" : "ok")
           << std::endl;
     if (failure)

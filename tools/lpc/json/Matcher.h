@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 
 #include <map>
 #include <optional>

@@ -1,8 +1,8 @@
-#include "lpc/Player.h"
+#include "lpc/script/Player.h"
 
 #include "lpc/Errors.h"
-#include "lpc/Masking.h"
 #include "lpc/Names.h"
+#include "lpc/json/Masking.h"
 
 #include <algorithm>
 
@@ -113,7 +113,8 @@ Result CPlayer::operator()(const Invoke& step)
     const int error = m_host.Invoke(outgoing.component, outgoing.message, waitMs, answer);
     if (error == lpc::kNoError)
         return CheckReply(step, answer);
-    if (error == lpc::kTimedOut && step.silenceMs)
+    // A component that ends keeps silent; whether it may end is for other steps to say.
+    if (step.silenceMs && (error == lpc::kTimedOut || error == lpc::kConnectionLost))
         return std::nullopt;
     return LinkFailure(error, "reply", waitMs);
 }
@@ -270,7 +271,7 @@ bool CPlayer::EndChild()
     }
     const Clock::time_point begin = Clock::now();
     const bool asked = AskToEnd();
-    const auto status = m_child->WaitForExit(asked ? static_cast<int>(m_endMs) : 0);
+    const auto status = m_child->WaitForExit(asked ? static_cast<int>(m_endMs) : kGoneMs);
     if (!status) {
         m_child->Signal(*CChildProcess::SignalNumber("SIGKILL"));
         m_child->WaitForExit(kGoneMs);

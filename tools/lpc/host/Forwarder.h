@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lpc/Traffic.h"
+#include "lpc/host/Traffic.h"
 
 #include <string>
 #include <vector>

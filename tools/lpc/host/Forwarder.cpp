@@ -1,6 +1,6 @@
-#include "lpc/Forwarder.h"
+#include "lpc/host/Forwarder.h"
 
-#include "lpc/Answers.h"
+#include "lpc/script/Answers.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,8 +1,8 @@
-#include "lpc/Answers.h"
+#include "lpc/script/Answers.h"
 
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
-#include "lpc/Matcher.h"
+#include "lpc/json/Matcher.h"
 
 #include <algorithm>
 
