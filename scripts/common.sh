@@ -30,18 +30,27 @@ install_missing() {
     missing=$(missing_packages)
     [ -n "$missing" ] || return 0
     say "Installing: $missing"
-    apt_as_root update || die "The package lists could not be fetched; is there a network?"
+    apt_as_root update || die "apt-get could not fetch the package lists (no network, or sudo refused). Missing: $missing"
     # shellcheck disable=SC2086  # one word a package
     apt_as_root install -y --no-install-recommends $missing || die "These packages could not be installed: $missing"
 }
+
+# From lock_build PRESET to unlock_build no other run of these scripts changes the preset's build folder.
+lock_build() {
+    exec 9>"build/$1.lock"
+    flock -n 9 || { say "Waiting for another run that builds in build/$1"; flock 9; }
+}
+unlock_build() { exec 9>&-; }
 
 # build PRESET [TARGET...]
 build() {
     local preset=$1
     shift
     say "Building ($preset) in build/$preset"
+    lock_build "$preset"
     cmake --preset "$preset" >"build/configure-$preset.log" 2>&1 || { cat "build/configure-$preset.log" >&2; die "Configuring failed."; }
     cmake --build "build/$preset" ${@:+--target "$@"}
+    unlock_build
 }
 
 # Starts an X server of our own where there is no display, on a number that it chooses itself.
@@ -49,10 +58,10 @@ need_display() {
     [ -z "${DISPLAY:-}" ] || return 0
     local pipe
     pipe=$(mktemp -u "${TMPDIR:-/tmp}/vantor-display.XXXXXX")
-    mkfifo "$pipe"
+    mkfifo -m 600 "$pipe"
     Xvfb -displayfd 3 -screen 0 1600x1000x24 -nolisten tcp 3>"$pipe" 2>/dev/null &
     XVFB_PID=$!
-    DISPLAY=":$(timeout 20 head -n 1 "$pipe")"
+    DISPLAY=":$(timeout 20 head -n 1 "$pipe" || true)"
     rm -f "$pipe"
     [ "$DISPLAY" != ":" ] || die "Xvfb did not start."
     export DISPLAY

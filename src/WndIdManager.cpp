@@ -51,6 +51,7 @@ bool CWndIdManager::Finit()
     m_pages.erase(kRemotePlayback);
     BASE_INFO("UNInit Playback Success.");
     m_pages.clear();
+    m_factory = nullptr;
     return true;
 }
 

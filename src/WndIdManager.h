@@ -35,7 +35,8 @@ public:
     /// Start-up on a worker thread: draws up the table of windows. Creates no widget.
     void Init();
 
-    /// Releases all pages, those of preview and playback first.
+    /// Releases all pages, those of preview and playback first. From here on no getter makes a page: requests
+    /// that are queued behind the end find none.
     bool Finit();
 
     /// The getter bound to a window name, with its result; false also for an unknown name.

@@ -1,8 +1,10 @@
 #include "Base/Log.h"
 
 #include <log4cxx/basicconfigurator.h>
+#include <log4cxx/consoleappender.h>
 #include <log4cxx/logger.h>
 #include <log4cxx/logmanager.h>
+#include <log4cxx/patternlayout.h>
 #include <log4cxx/propertyconfigurator.h>
 #include <log4cxx/spi/location/locationinfo.h>
 
@@ -11,6 +13,9 @@
 #include <cstdarg>
 #include <cstdio>
 #include <fstream>
+#include <mutex>
+#include <shared_mutex>
+#include <utility>
 
 namespace Base {
 
@@ -18,8 +23,21 @@ namespace {
 
 constexpr std::size_t kMessageLimit = 16 * 1024;
 
-std::atomic<bool> g_open{false};
 std::atomic<LogObserver> g_observer{nullptr};
+
+/// Whether log4cxx may be used. Who writes holds the lock shared, so that closing waits for lines under way.
+/// Never destroyed, as a worker may write while the process exits.
+struct Gate
+{
+    std::shared_mutex mutex;
+    bool open = false;
+};
+
+Gate& TheGate()
+{
+    static Gate* const gate = new Gate();
+    return *gate;
+}
 
 log4cxx::LevelPtr Level(LogLevel level)
 {
@@ -47,6 +65,12 @@ log4cxx::spi::LocationInfo Place(const LogLocation& location)
 {
     using log4cxx::spi::LocationInfo;
     return {location.file, LocationInfo::calcShortFileName(location.file), location.function, location.line};
+}
+
+log4cxx::AppenderPtr PlainAppender()
+{
+    const auto layout = std::make_shared<log4cxx::PatternLayout>(LOG4CXX_STR("%d %-5p %c %m%n"));
+    return std::make_shared<log4cxx::ConsoleAppender>(layout, log4cxx::ConsoleAppender::getSystemErr());
 }
 
 /// Most lines fit the buffer on the stack; only long ones are formatted a second time.
@@ -82,23 +106,24 @@ bool CLog::InitLog(const std::string& propertiesPath)
     if (readable)
         log4cxx::PropertyConfigurator::configure(log4cxx::File(propertiesPath));
     else
-        log4cxx::BasicConfigurator::configure();
-    g_open = true;
+        log4cxx::BasicConfigurator::configure(PlainAppender());
+    const std::unique_lock<std::shared_mutex> lock(TheGate().mutex);
+    TheGate().open = true;
     return readable;
 }
 
 void CLog::UninitLog()
 {
-    if (g_open.exchange(false))
+    const std::unique_lock<std::shared_mutex> lock(TheGate().mutex);
+    if (std::exchange(TheGate().open, false))
         log4cxx::LogManager::shutdown();
 }
 
 void CLog::Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
 {
     const LogObserver observer = g_observer;
-    if (!g_open && !observer)
-        return;
-    const log4cxx::LoggerPtr target = g_open ? Logger(logger) : nullptr;
+    const std::shared_lock<std::shared_mutex> lock(TheGate().mutex);
+    const log4cxx::LoggerPtr target = TheGate().open ? Logger(logger) : nullptr;
     const bool wanted = target && target->isEnabledFor(Level(level));
     if (!wanted && !observer)
         return;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/PrintfFormat.h"
+
 #include <string>
 
 /// Logging with the place of the line. The texts are printf formats, checked by the compiler.
@@ -26,13 +28,14 @@ public:
     /// error and the result false.
     bool InitLog(const std::string& propertiesPath);
 
-    /// Writes out and stops. May be called again.
+    /// Writes out and stops; waits for lines that other threads are writing. May be called again. Call it
+    /// before the process exits while other threads run: log4cxx itself does not survive that.
     void UninitLog();
 
     /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at
     /// 16 KiB.
     void Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
-        __attribute__((format(printf, 5, 6)));
+        BASE_PRINTF_FORMAT(5, 6);
 
 private:
     CLog() = default;

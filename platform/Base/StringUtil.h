@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/PrintfFormat.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,7 +21,7 @@ std::vector<std::string> Split(std::string_view text, char separator);
 std::string CutUtf8(std::string_view text, std::size_t limit);
 
 /// printf into a string.
-std::string Format(const char* format, ...) __attribute__((format(printf, 1, 2)));
+std::string Format(const char* format, ...) BASE_PRINTF_FORMAT(1, 2);
 
 } // namespace StringUtil
 

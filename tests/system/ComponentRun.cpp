@@ -3,6 +3,7 @@
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
 
+#include <signal.h>
 #include <sys/wait.h>
 
 #include <algorithm>
@@ -73,12 +74,12 @@ int ComponentRun::Shell(const std::string& command) const
 
 std::string ComponentRun::Component() const
 {
-    return m_bin + "Vantor.Video.C 1 2 'BlackRedSkin 1 0 0 0 0'";
+    return Program() + " 1 2 'BlackRedSkin 1 0 0 0 0'";
 }
 
 std::string ComponentRun::HostCommand(const std::string& scriptPath) const
 {
-    return m_bin + "vantor-lpc host --script " + scriptPath + " --spawn " + m_bin + "Vantor.Video.C";
+    return m_bin + "vantor-lpc host --script " + scriptPath + " --spawn " + Program();
 }
 
 std::vector<std::string> ComponentRun::LogMessages() const
@@ -106,22 +107,28 @@ bool ComponentRun::WaitForLog(const std::string& message, int seconds) const
     return WaitUntil([&] { return MissingInOrder({message}).empty(); }, seconds);
 }
 
-bool ComponentRun::IsRunning() const
+int ComponentRun::ProcessId() const
 {
     for (const auto& process : std::filesystem::directory_iterator("/proc")) {
         std::error_code ignored;
-        if (std::filesystem::read_symlink(process.path() / "exe", ignored) != m_bin + "Vantor.Video.C")
+        if (std::filesystem::read_symlink(process.path() / "exe", ignored) != Program())
             continue;
         if (Content(process.path() / "environ")
                 .find("VANTOR_USER_DATA=" + Path().substr(0, Path().size() - 1)) != std::string::npos)
-            return true;
+            return std::stoi(process.path().filename());
     }
-    return false;
+    return 0;
+}
+
+void ComponentRun::Terminate() const
+{
+    if (const int process = ProcessId())
+        ::kill(process, SIGTERM);
 }
 
 bool ComponentRun::WaitUntilEnded(int seconds) const
 {
-    return WaitUntil([&] { return !IsRunning(); }, seconds);
+    return WaitUntil([&] { return ProcessId() == 0; }, seconds);
 }
 
 std::string ComponentRun::Output() const

@@ -20,6 +20,7 @@ public:
     /// one.
     int Shell(const std::string& command) const;
 
+    std::string Program() const { return m_bin + "Vantor.Video.C"; }
     /// The command that starts the component with the usual arguments.
     std::string Component() const;
     std::string HostCommand(const std::string& scriptPath) const;
@@ -33,8 +34,10 @@ public:
     /// Waits until the log has a message; false after the time.
     bool WaitForLog(const std::string& message, int seconds) const;
 
-    /// True while a component runs on this data root.
-    bool IsRunning() const;
+    /// The process of a component that runs on this data root; 0 for none.
+    int ProcessId() const;
+    /// Asks the component that runs to end.
+    void Terminate() const;
     bool WaitUntilEnded(int seconds) const;
 
     std::string Path() const { return m_root.Path(); }

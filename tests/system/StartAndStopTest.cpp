@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <future>
+#include <thread>
 
 using testing::Contains;
 using testing::IsEmpty;
@@ -150,19 +151,88 @@ TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "Start UnInit Video.C"), 1);
 }
 
-TEST(ASecondStart, EndsWithZeroBeforeAnyInitialisation)
+/// A component that runs under a framework while the test starts further ones beside it.
+class ASecondStart : public testing::Test
 {
+protected:
+    ASecondStart()
+        : m_first(
+              [this] { m_firstResult = run.Play(kUntilReady + R"({"expect_exit": 0, "within_ms": 60000})"); })
+    {
+        EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
+    }
+    ~ASecondStart() override
+    {
+        run.Terminate();
+        m_first.join();
+        EXPECT_EQ(m_firstResult, 0) << run.Output();
+        EXPECT_THAT(run.MissingInOrder(kEnd), IsEmpty());
+    }
+
+    int Start() const
+    {
+        return std::system(("timeout -s KILL 20 " + run.Component() + " >/dev/null 2>&1").c_str());
+    }
+
     ComponentRun run;
-    const std::string second = run.Component() + " >/dev/null 2>&1";
-    auto first = std::async(std::launch::async,
-                            [&] { run.Play(kUntilReady + R"({"sleep_ms": 3000})" + "\n" + kQuit); });
-    ASSERT_TRUE(run.WaitForLog("APP Init Success", 20));
-    EXPECT_EQ(std::system(second.c_str()), 0);
-    first.get();
+
+private:
+    int m_firstResult = -1;
+    std::thread m_first;
+};
+
+TEST_F(ASecondStart, EndsWithZeroBeforeAnyInitialisation)
+{
+    EXPECT_EQ(Start(), 0);
     const auto messages = run.LogMessages();
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in0"), 2);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in1"), 1);
-    EXPECT_THAT(run.MissingInOrder(kEnd), IsEmpty());
+}
+
+// Its worker that sets crash reports up is then still at work, and logs while the process exits.
+TEST_F(ASecondStart, EndsWithZeroAlsoWhenCrashReportsCannotBeSetUp)
+{
+    std::filesystem::remove_all(run.DataPath() + "dump");
+    std::ofstream(run.DataPath() + "dump") << "in the way";
+    for (int i = 0; i < 20; ++i)
+        EXPECT_EQ(Start(), 0);
+}
+
+// What a process that starts without the framework's settings, or with fewer of them, makes of them.
+TEST(TheStartParameters, FallBackWhereTheyAreMissing)
+{
+    const struct
+    {
+        const char* arguments;
+        const char* line;
+    } rows[] = {
+        {"", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
+        {"1 2 ''", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
+        {"1 2 'GreyRedSkin 34'", "InitSysParameter:list-GreyRedSkin 34,skin-GreyRedSkin,lan-34,vers-0"},
+        {"1 2 'BlueSkin x 7  9 9 9'", "InitSysParameter:list-BlueSkin x 7  9 9 9,skin-BlueSkin,lan-0,vers-7"},
+    };
+    for (const auto& row : rows) {
+        ComponentRun run;
+        const std::string command = run.Program() + " " + row.arguments;
+        auto component = std::async(std::launch::async, [&] { return run.Shell(command); });
+        EXPECT_TRUE(run.WaitForLog("APP Init Success", 20)) << command;
+        EXPECT_THAT(run.LogMessages(), Contains(row.line));
+        run.Terminate();
+        EXPECT_EQ(component.get(), 0) << command;
+    }
+}
+
+// Notifications of the framework go to whoever registered for their type; others are dropped.
+TEST(TheComponent, HandsTheFrameworksNotificationsOn)
+{
+    ComponentRun run;
+    const std::string notify =
+        R"({"notify": {"protocol": "websocket", "body": {"guid": "7", "type": "deviceAdd", "data": {}}}})"
+        "\n"
+        R"({"notify": {"protocol": "websocket", "body": {"guid": "8", "type": "alarmMessage", "data": {}}}})"
+        "\n";
+    ASSERT_EQ(run.Play(kUntilReady + notify + kQuit), 0) << run.Output();
+    EXPECT_THAT(run.MissingInOrder({"Notification [deviceAdd] of [7].", "UninitBase Success."}), IsEmpty());
 }
 
 } // namespace

@@ -101,9 +101,7 @@ void CApplicationLook::LoadStyle()
 void CApplicationLook::InitGuiToolKit(const QString& configuredSkin)
 {
     m_toolkit.loadTranslations(m_toolkit.targetPath() + "../translations/", m_language);
-    m_toolkit.setLocale(m_language);
-    m_toolkit.setLayoutDirection(VantorGUIToolkit::isRightToLeft(m_language) ? Qt::RightToLeft
-                                                                             : Qt::LeftToRight);
+    TellLanguage();
     m_toolkit.setSkinType(configuredSkin);
 }
 

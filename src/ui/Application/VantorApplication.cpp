@@ -60,6 +60,8 @@ CVantorApplication::CVantorApplication(const QString& title, int& argc, char** a
 {
     if (!isPrimary()) {
         deleteInstanceData();
+        // The crash worker still runs and may log, while exit takes the log's library away under it.
+        Base::CLog::Instance().UninitLog();
         std::exit(0);
     }
     addLibraryPath(QString("%1%2plugins").arg(applicationDirPath(), "/../"));
@@ -78,7 +80,8 @@ void CVantorApplication::InitSysParameter(int argc, char** argv)
     BASE_INFO("InitSysParameter:in2");
     const QString argument = QString::fromLocal8Bit(StartArgument(argc, argv));
     const QStringList fields = argument.split(' ', Qt::KeepEmptyParts, Qt::CaseSensitive);
-    m_skin = fields.value(0);
+    if (!fields[0].isEmpty())
+        m_skin = fields[0];
     const int language = fields.value(1).toInt();
     const int versionType = fields.value(2).toInt();
 

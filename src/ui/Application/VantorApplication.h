@@ -51,7 +51,6 @@ private:
     void initDateTimeFormat();
     void UnInitLink();
     void UnInitGui();
-    void UnInitBase();
     void UnInitLogical();
 
     QString m_skin;

@@ -149,12 +149,31 @@ TEST_F(ALink, WithoutAFrameworkLogsWhereItStoppedAndGoesOn)
     component.link.UnInit();
 }
 
+TEST_F(ALink, ThatIsOpenAlreadyIsNotOpenedAgain)
+{
+    Framework framework;
+    Component component;
+    component.link.Init();
+    framework.requests.WaitFor(2);
+    component.link.Init();
+    EXPECT_THAT(log.Messages(Base::LogLevel::Error), Contains("Failed to lpcclient::Init. LastError: [" +
+                                                              std::to_string(lpc::kInvalidArgument) + "]."));
+    EXPECT_TRUE(component.link.NotifyMethod("initFinish"));
+    EXPECT_EQ(framework.notifications.WaitFor(1), std::vector<std::string>{"initFinish"});
+    EXPECT_EQ(framework.requests.WaitFor(2).size(), 2u);
+    component.link.UnInit();
+}
+
 TEST_F(ALink, ThatWasNeverOpenedLogsEveryStepOfItsEnd)
 {
     Component component;
     component.link.UnInit();
-    EXPECT_THAT(log.Messages(Base::LogLevel::Error),
-                Contains("Failed to lpcserver::Uninit. LastError: [1001]."));
+    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
+              (std::vector<std::string>{"Failed to lpcclient::SetInvokeCallBack. LastError: [1001].",
+                                        "Failed to lpcclient::DisconnectToServer. LastError: [1001].",
+                                        "Failed to lpcserver::Uninit. LastError: [1001]."}));
+    for (const CapturedLog::Line& line : log.Lines())
+        EXPECT_EQ(line.logger, "VideoLogger") << line.message;
 }
 
 TEST_F(ALink, KeepsTheOrderOfMethodsWhileARouteIsBusy)

@@ -206,6 +206,18 @@ INSTANTIATE_TEST_SUITE_P(
                               {"Return AuxiliaryScreenApp APP-[FifthLiveView]"}}),
     [](const auto& row) { return row.param.name; });
 
+TEST(AKnownWindow, IsLoggedWithTheIdentifierThatIsAnswered)
+{
+    CapturedLog log;
+    Transmitter world;
+    world.Serve("getWndHandle", WindowBody("getWndHandle", "StoragePlan"));
+    int wid = 0;
+    ASSERT_TRUE(world.windows.GetStoragePlanWID(wid));
+    EXPECT_TRUE(log.Has("Get wnd Success id:[" + std::to_string(wid) + "]."));
+    EXPECT_EQ(world.replies,
+              (std::vector<std::pair<lpcclient::RequestId, std::string>>{{7, "getWndHandle"}}));
+}
+
 TEST(AShownWindow, IsVisibleAndLogged)
 {
     CapturedLog log;

@@ -80,6 +80,17 @@ TEST(AGetter, WaitsForTheStartOfTheWindows)
     EXPECT_GT(waits, 0);
 }
 
+TEST(AWindowAskedForAfterTheEnd, IsNotMade)
+{
+    Windows windows;
+    int wid = 0;
+    windows.manager.GetWID("MainView", wid);
+    windows.manager.Finit();
+    EXPECT_FALSE(windows.manager.GetWID("MainView", wid));
+    EXPECT_FALSE(windows.manager.GetWiperWID(wid));
+    EXPECT_EQ(windows.made, std::vector<std::string>{"MainView"});
+}
+
 TEST(Finishing, ReleasesAllPagesAndMayBeRepeated)
 {
     CapturedLog log;

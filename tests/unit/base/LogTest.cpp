@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <future>
+#include <thread>
+
 using Base::LogLevel;
 
 namespace {
@@ -50,10 +54,44 @@ TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
     EXPECT_EQ(text.find("below"), std::string::npos) << text;
 }
 
-TEST(TheLog, ReportsAMissingPropertiesFile)
+/// A line that stays under way until it is released.
+struct SlowLine
 {
-    EXPECT_FALSE(Base::CLog::Instance().InitLog("no/such/log.properties"));
+    std::promise<void> begun;
+    std::promise<void> release;
+    std::atomic<bool> ended{false};
+};
+SlowLine* g_slowLine = nullptr;
+
+TEST(ClosingTheLog, WaitsForALineThatAnotherThreadIsWriting)
+{
+    TestDataRoot root;
+    ASSERT_TRUE(Base::CLog::Instance().InitLog(FileLog(root.Path())));
+    SlowLine line;
+    g_slowLine = &line;
+    Base::SetLogObserver([](LogLevel, const char*, const std::string&) {
+        g_slowLine->begun.set_value();
+        g_slowLine->release.get_future().wait();
+        g_slowLine->ended = true;
+    });
+    std::thread writer([] { BASE_INFO("slow"); });
+    line.begun.get_future().wait();
+    std::thread helper([&] { line.release.set_value(); });
     Base::CLog::Instance().UninitLog();
+    EXPECT_TRUE(line.ended);
+    helper.join();
+    writer.join();
+    Base::SetLogObserver(nullptr);
+    EXPECT_NE(Content(root.Path() + "out.log").find("|slow"), std::string::npos);
+}
+
+TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(Base::CLog::Instance().InitLog("no/such/log.properties"));
+    BASE_ERROR("seen all the same");
+    Base::CLog::Instance().UninitLog();
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("ERROR root seen all the same"), std::string::npos);
 }
 
 TEST(TheLog, KeepsLongMessagesUpToItsLimit)
