@@ -57,6 +57,7 @@ bool CSQLite3Conn::Execute(const std::string& sql)
 
 bool CSQLite3Conn::Execute(const std::string& sql, CSQLite3Recordset& rows)
 {
+    rows = CSQLite3Recordset(); // also when the statement never runs
     return Execute(sql, &rows);
 }
 

@@ -42,7 +42,7 @@ public:
     /// Runs exactly one statement, which must not begin or end a transaction. True, or an exception.
     bool Execute(const std::string& sql);
 
-    /// The same for a query; rows is filled before the call returns.
+    /// The same for a query; rows is filled before the call returns, and empty when it fails.
     bool Execute(const std::string& sql, CSQLite3Recordset& rows);
 
     /// Starts a transaction that may write. A second Begin by the same thread fails at once (kErrorMisuse).
