@@ -84,7 +84,4 @@ private:
 /// Whether the file begins as an unencrypted database does.
 bool IsPlainDatabase(const std::string& path);
 
-/// Whether the text has the form of a raw key: 64 hexadecimal digits.
-bool IsKeyText(const std::string& key);
-
 } // namespace Sqlite3DO
