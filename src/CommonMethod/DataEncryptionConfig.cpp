@@ -102,9 +102,18 @@ std::optional<DataEncryption> FromPlainText(std::string_view text)
     const bool complete = TakeLine(text, "id=", encryption.id) &&
                           TakeLine(text, "key=", encryption.databaseKey) &&
                           TakeLine(text, "data=", encryption.dataKey);
-    if (!complete || !text.empty() || !IsHexKey(encryption.databaseKey) || !IsHexKey(encryption.dataKey))
+    if (!complete || !text.empty() || !Encrypt::IsKeyText(encryption.databaseKey) ||
+        !Encrypt::IsKeyText(encryption.dataKey))
         return std::nullopt;
     return encryption;
+}
+
+void PutAside(const std::string& file)
+{
+    std::error_code error;
+    fs::rename(file, file + ".damaged", error);
+    if (error && error != std::errc::no_such_file_or_directory)
+        BASE_WARN("Failed to put the file [%s] aside, [%s].", file.c_str(), error.message().c_str());
 }
 
 void Delete(const std::string& file)
@@ -238,18 +247,17 @@ bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
     return false;
 }
 
+// The setup file goes last: while it is there, the next start takes the rest up again.
 void CDataEncryptionConfig::Remove() const
 {
-    Delete(m_file);
     Delete(m_keyFile);
+    Delete(m_file);
 }
 
 void CDataEncryptionConfig::SetAside() const
 {
-    std::error_code error;
-    fs::rename(m_file, m_file + ".damaged", error);
-    if (error)
-        BASE_WARN("Failed to put the file [%s] aside, [%s].", m_file.c_str(), error.message().c_str());
+    PutAside(m_keyFile);
+    PutAside(m_file);
 }
 
 } // namespace comm_method
