@@ -1,4 +1,5 @@
 #include "CommonMethodLib/UserDataPath.h"
+#include "Sqlite3DO/Statement.h"
 #include "StoreWorld.h"
 #include "logical/Local/DatabaseSession/VideoSystemDB.h"
 #include "support/CapturedLog.h"
@@ -49,6 +50,19 @@ TEST_F(BaseDBConn, LogsOneFatalLineForABadStatementAndWorksOn)
     EXPECT_FALSE(conn.Execute("SELECT missing FROM T", rows));
     EXPECT_FALSE(rows.Next()) << "a failed query has no rows";
     EXPECT_EQ(log.Lines().size(), 2u);
+}
+
+TEST_F(BaseDBConn, LogsOneFatalLineForAStatementThatDoesNotFitAndChangesNothing)
+{
+    CBaseDBConn conn(m_root.Path(), "VideoSystem");
+    conn.Execute("CREATE TABLE T (n)");
+    conn.Execute("INSERT INTO T VALUES (1)");
+    const CapturedLog log;
+    const char* const format = "UPDATE T SET n = 2 WHERE n = '%s'";
+    EXPECT_FALSE(conn.Execute(Sqlite3DO::FormatStatement<20>(format, "no such row")));
+    EXPECT_EQ(Fatal(log), std::vector<std::string>{
+                              "data base error, error code: 21, error message: the text holds no statement"});
+    EXPECT_EQ(store::Query(m_root.Path() + "VideoSystem", "", "SELECT n FROM T"), "1");
 }
 
 TEST_F(BaseDBConn, LogsEveryUseOfADatabaseThatDidNotOpen)
