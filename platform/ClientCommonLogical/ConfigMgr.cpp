@@ -13,13 +13,6 @@ void CConfigMgr::init(const ConfigParams& params)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     m_params = params;
-    m_initialised = true;
-}
-
-bool CConfigMgr::initialised() const
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_initialised;
 }
 
 ConfigParams CConfigMgr::params() const

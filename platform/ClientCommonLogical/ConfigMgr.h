@@ -26,16 +26,12 @@ public:
     /// Sets the configuration; a later call replaces it.
     void init(const ConfigParams& params);
 
-    /// Whether init was called.
-    bool initialised() const;
-
     /// The configuration; defaults before init.
     ConfigParams params() const;
 
 private:
     mutable std::mutex m_mutex;
     ConfigParams m_params;
-    bool m_initialised = false;
 };
 
 } // namespace clientcommon

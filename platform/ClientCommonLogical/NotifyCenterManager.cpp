@@ -11,13 +11,14 @@ namespace clientcommon {
 
 namespace {
 
-/// Runs the call while the owner lives; false when the owner has gone.
+/// Runs the call while the owner lives; false when the owner has gone. An exception of one handler is logged
+/// and does not keep the notification from the next.
 bool RunFor(const Base::details::WeakAnchorRef& owner, const Base::Task& call)
 {
     bool ran = false;
     Base::CCancelableTask(owner, [&] {
         ran = true;
-        call();
+        Base::RunGuarded(call);
     })();
     return ran;
 }
@@ -79,10 +80,8 @@ void CNotifyCenterManager::Deliver(const protocol::WebSocketNotifyData& notify)
         else
             UnregisterHandler(registration->id);
     }
-    if (handled)
-        return;
-    ++m_unhandled;
-    BASE_DEBUG("Nobody handles the notification [%s].", protocol::LoggableText(notify.type).c_str());
+    if (!handled)
+        BASE_DEBUG("Nobody handles the notification [%s].", protocol::LoggableText(notify.type).c_str());
 }
 
 CNotifyCenterManager::Registrations CNotifyCenterManager::HandlersOf(const std::string& type)

@@ -16,7 +16,7 @@
 namespace clientcommon {
 
 /// Delivers the framework's notifications to those who registered for their type, on the notification loop,
-/// in the order in which they came.
+/// in the order in which they came. One that nobody registered for is dropped with a line at debug level.
 class CNotifyCenterManager : Base::CNoncopyable
 {
 public:
@@ -44,9 +44,6 @@ public:
     /// is ignored.
     void UnregisterHandler(HandlerId id);
 
-    /// How many notifications came for which there was no handler.
-    std::uint64_t UnhandledCount() const { return m_unhandled; }
-
 private:
     struct Registration
     {
@@ -64,7 +61,6 @@ private:
     std::mutex m_mutex;
     std::map<std::string, Registrations> m_handlers;
     HandlerId m_lastId = 0;
-    std::atomic<std::uint64_t> m_unhandled{0};
     Base::details::CWeakPtrBase m_anchor;
 };
 

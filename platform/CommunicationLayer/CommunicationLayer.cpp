@@ -26,8 +26,9 @@ public:
             return transport->request(answer, params, retry);
         answer = {};
         Base::Error::SetLastError(kNoTransport);
-        BASE_ERROR("Failed to request [url-%s]. The communication layer is not initialised.",
-                   params.url.c_str());
+        BASE_ERROR_TO("VideoLogger",
+                      "Failed to request [url-%s]. The communication layer is not initialised.",
+                      params.url.c_str());
         return false;
     }
 

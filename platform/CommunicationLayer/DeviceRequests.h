@@ -12,6 +12,16 @@ using CGetDevices = CQuery<protocol::route::kDevices, protocol::DeviceResponseLi
 using CGetDevice = CDeviceQuery<protocol::route::kNothing, protocol::DeviceResponseData>;
 using CGetDeviceChannels = CDeviceQuery<protocol::route::kChannels, protocol::DeviceChannelListData>;
 using CGetDeviceAlarmInputs = CDeviceQuery<protocol::route::kAlarmInputs, protocol::AlarmInputInfoData>;
-using CModifyAllGroups = CCommand<kPut, protocol::route::kGroups, protocol::ModifyAllGroupsData>;
+
+/// Changes all groups as the condition says. groups are those that it changed.
+struct CModifyAllGroupsComm
+{
+    [[nodiscard]] static bool request(protocol::GroupListData& groups,
+                                      const protocol::ModifyGroupCondition& condition,
+                                      ITransport& transport = CurrentTransport())
+    {
+        return Exchange(transport, {kPut, protocol::route::kGroups}, condition, groups);
+    }
+};
 
 } // namespace commlayer

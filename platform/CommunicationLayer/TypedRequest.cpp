@@ -11,6 +11,7 @@ namespace commlayer {
 
 namespace {
 
+constexpr const char* kLogger = "VideoLogger";
 constexpr std::size_t kIdentifierLimit = 256;
 
 bool IsUnreserved(unsigned char c)
@@ -33,7 +34,7 @@ bool Send(ITransport& transport, const Call& call, const std::string& body, RspI
 bool ReadAnswer(const Call& call, const RspInfos& received, protocol::IJSONStruct& answer)
 {
     if (received.body.empty())
-        BASE_ERROR("Failed to request [url-%s]. The answer is empty.", call.url.c_str());
+        BASE_ERROR_TO(kLogger, "Failed to request [url-%s]. The answer is empty.", call.url.c_str());
     if (protocol::ParseJSONStr(answer, received.body))
         return true;
     Base::Error::SetLastError(kBadAnswer);
@@ -57,8 +58,8 @@ bool IsGood(const Call& call, const protocol::ResultCode& result)
     if (result.errorCode == 0)
         return true;
     Base::Error::SetLastError(result.errorCode);
-    BASE_ERROR("Failed to request [url-%s]. [error-%d-%d].", call.url.c_str(), result.errorCode,
-               result.errorModuleCode);
+    BASE_ERROR_TO(kLogger, "Failed to request [url-%s]. [error-%d-%d].", call.url.c_str(), result.errorCode,
+                  result.errorModuleCode);
     return false;
 }
 

@@ -2,23 +2,17 @@
 
 #include "LPC_Wire/Limits.h"
 
-#include "Base/Log.h"
-
 #include <algorithm>
 
 namespace lpcclient {
 namespace {
 
+/// From here on a time limit may be left to the socket, which counts in ticks of a few milliseconds.
+constexpr std::uint32_t kCoarseWaitMs = 100;
+
 bool HasPassed(lpc::TimePoint deadline)
 {
     return deadline != lpc::kForever && std::chrono::steady_clock::now() >= deadline;
-}
-
-InboundItem LossNotification()
-{
-    InboundItem item;
-    item.data.headers = {{"method", "clientDisconnected"}};
-    return item;
 }
 
 } // namespace
@@ -49,8 +43,7 @@ bool CConnection::IsOpen() const
     return !m_ended;
 }
 
-// ---- sending
-// ----------------------------------------------------------------------------------------------------
+// ---- sending ----
 
 int CConnection::Post(lpc::Kind kind, RequestId id, const HeaderMap& headers, const std::string& body)
 {
@@ -107,18 +100,30 @@ void CConnection::Enter(Waiter& self)
         self.error = lpc::kConnectionLost;
         return;
     }
-    m_waiters.emplace(self.id, &self);
+    m_waiters.push_back(&self);
     TakeRole(self);
 }
 
 void CConnection::Leave(Waiter& self, std::string&& spareBody)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_waiters.erase(self.id);
+    TakeWaiter(self.id);
     if (m_holder != &self)
         return;
     m_reader.Recycle(std::move(spareBody));
     PassRole();
+}
+
+/// The caller that waits for that answer, who is then no longer on the list.
+CConnection::Waiter* CConnection::TakeWaiter(RequestId id)
+{
+    const auto found = std::find_if(m_waiters.begin(), m_waiters.end(),
+                                    [id](const Waiter* waiter) { return waiter->id == id; });
+    if (found == m_waiters.end())
+        return nullptr;
+    Waiter* const waiter = *found;
+    m_waiters.erase(found);
+    return waiter;
 }
 
 /// Stays until the request is written, reading meanwhile if it has the role: two ends that only write would
@@ -146,13 +151,12 @@ int CConnection::WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::T
     return m_outbound.IsBroken() ? lpc::kConnectionLost : error;
 }
 
-// ---- the reader's role
-// ------------------------------------------------------------------------------------------
+// ---- the reader's role ----
 
 int CConnection::AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimePoint deadline)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
-    bool first = firstWaitMs != 0 || deadline == lpc::kForever;
+    bool first = firstWaitMs >= kCoarseWaitMs || deadline == lpc::kForever;
     while (!self.done) {
         if (!TakeRole(self)) {
             Park(self, lock, deadline);
@@ -208,15 +212,15 @@ bool CConnection::TakeRole(Waiter& self)
 void CConnection::PassRole()
 {
     m_holder = nullptr;
-    const auto next = std::find_if(m_waiters.begin(), m_waiters.end(),
-                                   [](const auto& entry) { return entry.second->parked; });
+    const auto next =
+        std::find_if(m_waiters.begin(), m_waiters.end(), [](const Waiter* waiter) { return waiter->parked; });
     if (next == m_waiters.end()) {
         m_role = Role::Free;
         m_watch.Read(true);
         return;
     }
     m_role = Role::Caller;
-    m_holder = next->second;
+    m_holder = *next;
     m_watch.Read(false);
     m_holder->turn.notify_one();
 }
@@ -260,144 +264,6 @@ void CConnection::ReadAsLibrary()
     ReadNow();
     std::lock_guard<std::mutex> lock(m_mutex);
     PassRole();
-}
-
-// ---- reading
-// ----------------------------------------------------------------------------------------------------
-
-void CConnection::ReadNow()
-{
-    const auto room = m_reader.Room();
-    TakeIn(m_socket.Read(room.data(), room.size()));
-}
-
-/// One call into the system instead of two; the system counts the time itself.
-void CConnection::ReadWaiting(std::uint32_t timeoutMs)
-{
-    const auto room = m_reader.Room();
-    TakeIn(m_socket.ReadWaiting(room.data(), room.size(), timeoutMs));
-}
-
-void CConnection::TakeIn(const lpc::IoResult& result)
-{
-    if (result.state == lpc::IoState::Closed)
-        End(true);
-    if (result.state != lpc::IoState::Done)
-        return;
-    m_reader.Commit(result.bytes);
-    HandOut();
-}
-
-void CConnection::HandOut()
-{
-    lpc::WireMessage message;
-    bool good = true;
-    while (good && m_reader.Next(message))
-        good = Dispatch(message);
-    if (good && m_reader.GetFault() == lpc::Fault::None)
-        return;
-    LogFault(good ? m_reader.GetFault() : lpc::Fault::Order);
-    End(true);
-}
-
-bool CConnection::Dispatch(lpc::WireMessage& message)
-{
-    switch (message.kind) {
-    case lpc::Kind::Request:
-    case lpc::Kind::Notification:
-        TakeMessage(message);
-        return true;
-    case lpc::Kind::Answer:
-        TakeAnswer(lpc::kNoError, message);
-        return true;
-    case lpc::Kind::Refusal:
-        TakeAnswer(lpc::RefusalError(message.headers), message);
-        return message.id != 0;
-    default:
-        return false;
-    }
-}
-
-void CConnection::TakeMessage(lpc::WireMessage& message)
-{
-    InboundItem item;
-    item.data = {message.id, std::move(message.headers), std::move(message.body)};
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_ended)
-            return;
-        m_inbound.Push(std::move(item));
-    }
-    if (!OnLibraryThread())
-        m_poller.Wake();
-}
-
-void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
-{
-    std::unique_lock<std::mutex> lock(m_mutex);
-    if (const auto waiting = m_waiters.find(message.id); waiting != m_waiters.end()) {
-        Waiter& waiter = *waiting->second;
-        m_waiters.erase(waiting);
-        waiter.answer = {std::move(message.headers), std::move(message.body)};
-        waiter.error = error;
-        waiter.done = true;
-        if (m_holder != &waiter)
-            waiter.turn.notify_one();
-        return;
-    }
-    if (const auto pending = m_pending.find(message.id); pending != m_pending.end()) {
-        InboundItem item{
-            {0, std::move(message.headers), std::move(message.body)}, std::move(pending->second), error};
-        m_pending.erase(pending);
-        m_inbound.Push(std::move(item));
-        lock.unlock();
-        if (!OnLibraryThread())
-            m_poller.Wake();
-        return;
-    }
-    unsigned skipped = 0;
-    if (message.id > m_lastId && m_strayAnswers.Allows(0, skipped))
-        BASE_WARN_TO("VideoLogger", "LPC: dropped an answer to a request that was never sent. [skipped-%u]",
-                     skipped);
-}
-
-// ---- the end
-// ----------------------------------------------------------------------------------------------------
-
-void CConnection::Close()
-{
-    m_outbound.Flush();
-    End(false);
-}
-
-void CConnection::End(bool lost)
-{
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_ended.exchange(true))
-            return;
-        for (auto& [id, waiter] : m_waiters) {
-            waiter->done = true;
-            waiter->error = lpc::kConnectionLost;
-            waiter->turn.notify_one();
-        }
-        m_waiters.clear();
-        for (auto& [id, onAnswer] : m_pending)
-            m_inbound.Push({{}, std::move(onAnswer), lpc::kConnectionLost});
-        m_pending.clear();
-        if (lost)
-            m_inbound.Push(LossNotification());
-    }
-    m_watch.Stop();
-    m_outbound.Break();
-    m_poller.Wake();
-    if (lost)
-        BASE_WARN_TO("VideoLogger", "LPC: the connection to the server was lost.");
-}
-
-void CConnection::LogFault(lpc::Fault fault)
-{
-    BASE_ERROR_TO("VideoLogger", "LPC: the server sent what is not understood: %s.", lpc::FaultText(fault));
 }
 
 } // namespace lpcclient

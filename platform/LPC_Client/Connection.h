@@ -12,6 +12,7 @@
 #include <condition_variable>
 #include <mutex>
 #include <unordered_map>
+#include <vector>
 
 namespace lpcclient {
 
@@ -69,6 +70,7 @@ private:
     void Park(Waiter& self, std::unique_lock<std::mutex>& lock, lpc::TimePoint deadline);
     void Enter(Waiter& self);
     void Leave(Waiter& self, std::string&& spareBody);
+    Waiter* TakeWaiter(RequestId id);
     bool Holds(const Waiter& self) const;
 
     bool TakeRole(Waiter& self);
@@ -96,8 +98,8 @@ private:
 
     mutable std::mutex m_mutex;
     Role m_role = Role::Library;
-    Waiter* m_holder = nullptr; ///< the caller that reads
-    std::unordered_map<RequestId, Waiter*> m_waiters;
+    Waiter* m_holder = nullptr;     ///< the caller that reads
+    std::vector<Waiter*> m_waiters; ///< those whose answer has not come
     std::unordered_map<RequestId, AnswerCallBack> m_pending;
     std::atomic<bool> m_ended{false};
     lpc::CRateLimit<1> m_strayAnswers;

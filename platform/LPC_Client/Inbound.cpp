@@ -1,7 +1,5 @@
 #include "LPC_Client/Inbound.h"
 
-#include "LPC_Wire/Limits.h"
-
 #include "Base/Log.h"
 
 #include <algorithm>
@@ -27,18 +25,6 @@ void CInbound::Push(InboundItem item)
     std::lock_guard<std::mutex> lock(m_mutex);
     m_bytes += item.Bytes();
     m_items.push_back(std::move(item));
-}
-
-bool CInbound::IsFull() const
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_bytes >= lpc::kReceiveQueueBytes;
-}
-
-bool CInbound::HasRoom() const
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    return m_bytes < lpc::kReceiveQueueBytes / 2;
 }
 
 std::optional<InboundItem> CInbound::Take(Receiver& receiver)

@@ -2,6 +2,9 @@
 
 #include "LPC_Client/LPC_Client.h"
 
+#include "LPC_Wire/Limits.h"
+
+#include <atomic>
 #include <condition_variable>
 #include <deque>
 #include <mutex>
@@ -34,9 +37,9 @@ public:
     void Push(InboundItem item);
 
     /// Whether as much waits as may; nothing should be read then.
-    bool IsFull() const;
+    bool IsFull() const { return m_bytes >= lpc::kReceiveQueueBytes; }
     /// Whether so much has gone that reading may go on.
-    bool HasRoom() const;
+    bool HasRoom() const { return m_bytes < lpc::kReceiveQueueBytes / 2; }
 
     /// Delivers the next item that can be delivered; false when there is none. Requests and notifications
     /// wait for the first receiver; after it was cleared they are turned away.
@@ -60,10 +63,10 @@ private:
     void WaitUntilIdle(std::unique_lock<std::mutex>& lock);
 
     const Refuse m_refuse;
-    mutable std::mutex m_mutex;
+    std::mutex m_mutex;
     std::condition_variable m_idle;
     std::deque<InboundItem> m_items;
-    std::size_t m_bytes = 0;
+    std::atomic<std::size_t> m_bytes{0};
     Receiver m_receiver;
     bool m_everSet = false;
     std::thread::id m_delivering; ///< the thread inside a callback; none: no call under way

@@ -41,14 +41,16 @@ using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& 
 /// Sets or, with an empty function, clears the receiver. What arrived before the first receiver was set, up
 /// to the receive queue's limit, is delivered to it then; so is the loss of the connection, which arrives as
 /// a notification with the method "clientDisconnected". After clearing returns no call is under way, unless
-/// it was cleared from within one.
+/// it was cleared from within one. While it is cleared, requests are refused with lpc::kTryAgain and
+/// notifications dropped.
 [[nodiscard]] bool SetInvokeCallBack(InvokeCallBack callback, void* user);
 
 /// Sends a request and returns its identifier without waiting. Without a callback the answer is dropped.
 [[nodiscard]] RequestId Send(const tag_LPCRequestData& request, AnswerCallBack onAnswer = {});
 
 /// Sends a request and waits for its answer, at most timeoutMs milliseconds (0: no limit but the connection's
-/// life). id receives the identifier. An answer that comes later is dropped.
+/// life). id receives the identifier. An answer that comes later is dropped. From within the
+/// invoke callback it fails with lpc::kTryAgain when the receive queue is full, for then nobody makes room.
 [[nodiscard]] bool SendEx(tag_LPCResponseData& response, const tag_LPCRequestData& request, RequestId& id,
                           std::uint32_t timeoutMs);
 

@@ -42,8 +42,7 @@ void CSession::Stop()
         thread.join();
 }
 
-// ---- the library's thread
-// ---------------------------------------------------------------------------------------
+// ---- the library's thread ----
 
 void CSession::Run()
 {
@@ -51,11 +50,10 @@ void CSession::Run()
     OnLibraryThread() = true;
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
-        const bool more = DeliverSome();
-        const std::shared_ptr<CConnection> connection = Connection();
-        if (connection)
+        const lpc::TimePoint deadline = DeliverSome() ? lpc::TimePoint() : lpc::kForever;
+        if (const auto connection = Connection())
             connection->ResumeReading();
-        const std::size_t count = m_poller.Wait(events, kEvents, more ? lpc::TimePoint() : lpc::kForever);
+        const std::size_t count = m_poller.Wait(events, kEvents, deadline);
         for (std::size_t i = 0; i < count; ++i)
             OnEvent(events[i]);
     }
@@ -91,8 +89,7 @@ void CSession::Refuse(RequestId id)
         connection->Post(lpc::Kind::Refusal, id, lpc::RefusalHeaders(lpc::kTryAgain), {});
 }
 
-// ---- connecting
-// -------------------------------------------------------------------------------------------------
+// ---- connecting ----
 
 int CSession::Connect(const std::string& serverName)
 {
@@ -144,8 +141,9 @@ int CSession::ExchangeHello(lpc::CLocalSocket& socket, lpc::CFrameReader& reader
 {
     const std::string noBody;
     const lpc::CFrameSet hello(lpc::Kind::Hello, 0, lpc::HelloHeaders(m_name), noBody);
-    if (socket.Write(hello.Spans().data(), hello.Spans().size()).bytes != hello.Size())
-        return lpc::kConnectionLost;
+    // A server that has no room for another client may have refused and closed already; its refusal is still
+    // to be read.
+    socket.Write(hello.Spans().data(), hello.Spans().size());
     lpc::WireMessage answer;
     while (!reader.Next(answer)) {
         if (reader.GetFault() != lpc::Fault::None)
@@ -182,8 +180,7 @@ std::shared_ptr<CConnection> CSession::Connection() const
     return m_connection && m_connection->IsOpen() ? m_connection : nullptr;
 }
 
-// ---- traffic
-// ----------------------------------------------------------------------------------------------------
+// ---- traffic ----
 
 void CSession::SetReceiver(InvokeCallBack callback, void* user)
 {

@@ -20,8 +20,7 @@ constexpr std::chrono::seconds kAcceptPause{1};
 
 } // namespace
 
-// ---- start and stop
-// ---------------------------------------------------------------------------------------------
+// ---- start and stop ----
 
 int CServerLoop::Start(const std::string& serverName)
 {
@@ -87,8 +86,7 @@ void CServerLoop::OnEvent(const lpc::CPoller::Event& event)
         OnReady(client, event.ready);
 }
 
-// ---- new connections
-// --------------------------------------------------------------------------------------------
+// ---- new connections ----
 
 void CServerLoop::AcceptAll()
 {
@@ -141,8 +139,7 @@ void CServerLoop::WatchRoom(lpc::SocketHandle handle, ClientId id, bool watch)
         m_poller.Wake();
 }
 
-// ---- reading
-// ----------------------------------------------------------------------------------------------------
+// ---- reading ----
 
 void CServerLoop::OnReady(const ClientPtr& client, unsigned ready)
 {
@@ -235,8 +232,7 @@ bool CServerLoop::TakeAnswer(const ClientPtr& client, int error, lpc::WireMessag
     return true;
 }
 
-// ---- closing
-// ----------------------------------------------------------------------------------------------------
+// ---- closing ----
 
 void CServerLoop::Close(const ClientPtr& client)
 {
@@ -280,8 +276,7 @@ void CServerLoop::Log(std::size_t kind, const std::string& client, const char* w
         BASE_ERROR_TO("VideoLogger", "LPC: client [%s]: %s. [skipped-%u]", client.c_str(), what, skipped);
 }
 
-// ---- time
-// -------------------------------------------------------------------------------------------------------
+// ---- time ----
 
 /// The moment until which to wait. It is announced before the deadlines are looked at, so that a request
 /// added meanwhile is either seen here or wakes the thread. An alarm that is no longer needed is kept:
@@ -329,8 +324,7 @@ void CServerLoop::HandleDeadlines()
     }
 }
 
-// ---- sending
-// ----------------------------------------------------------------------------------------------------
+// ---- sending ----
 
 int CServerLoop::Post(ClientId client, lpc::Kind kind, RequestId id, const HeaderMap& headers,
                       const std::string& body)

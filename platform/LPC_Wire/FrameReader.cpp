@@ -15,6 +15,9 @@ constexpr std::size_t kBufferBytes = 128 * kKiB;
 /// Bodies from this size on take over memory that was given back; one step of growth.
 constexpr std::size_t kLongBody = 64 * kKiB;
 
+/// What is read ahead where a long body is expected: its head, so that the body goes straight to its place.
+constexpr std::size_t kReadAhead = 4 * kKiB;
+
 /// Larger memory is not kept for the next body.
 constexpr std::size_t kMaxSpare = 4 * kMiB;
 
@@ -26,12 +29,15 @@ std::array<MutableSpan, 2> CFrameReader::Room()
 {
     Compact();
     m_direct = 0;
-    if (m_state != State::Body || Available() > 0)
-        return {{{m_buffer.get() + m_end, kBufferBytes - m_end}, {}}};
+    if (m_state != State::Body || Available() > 0) {
+        const std::size_t room = kBufferBytes - m_end;
+        const bool readAhead = m_expectLong && m_end == 0;
+        return {{{m_buffer.get() + m_end, readAhead ? kReadAhead : room}, {}}};
+    }
     GrowBody();
     std::string& body = m_current.message.body;
     m_direct = std::min(m_left, body.size() - m_current.used);
-    return {{{body.data() + m_current.used, m_direct}, {m_buffer.get(), kBufferBytes}}};
+    return {{{body.data() + m_current.used, m_direct}, {m_buffer.get(), kReadAhead}}};
 }
 
 void CFrameReader::Commit(std::size_t bytes)
@@ -72,6 +78,7 @@ bool CFrameReader::StepHead()
     if (fault != lpc::Fault::None)
         return Fail(fault);
     m_begin += kFrameHeadBytes;
+    m_expectLong = m_head.bodyBytes >= kLongBody / 2;
     return m_head.Continues() ? ContinueBody() : BeginFrame();
 }
 
@@ -117,9 +124,15 @@ bool CFrameReader::StepHeaders()
 
 bool CFrameReader::StepBody(WireMessage& message, bool& complete)
 {
+    std::string& body = m_current.message.body;
+    if (body.empty() && m_left <= Available()) {
+        body.assign(m_buffer.get() + m_begin, m_left);
+        m_begin += m_left;
+        m_current.used = m_left;
+        m_left = 0;
+    }
     while (m_left > 0 && Available() > 0) {
         GrowBody();
-        std::string& body = m_current.message.body;
         const std::size_t bytes = std::min({m_left, Available(), body.size() - m_current.used});
         std::memcpy(body.data() + m_current.used, m_buffer.get() + m_begin, bytes);
         m_begin += bytes;

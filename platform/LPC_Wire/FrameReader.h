@@ -82,6 +82,7 @@ private:
     std::map<PartialKey, Partial> m_partials;
     std::size_t m_partialBytes = 0;
     std::string m_spare;
+    bool m_expectLong = false; ///< the last frame was long, so the next may be
     lpc::Fault m_fault = lpc::Fault::None;
 };
 

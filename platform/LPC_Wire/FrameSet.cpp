@@ -7,6 +7,12 @@
 #include <cstdlib>
 
 namespace lpc {
+namespace {
+
+/// A body up to this size is copied behind its head: one piece is cheaper for the system than two.
+constexpr std::size_t kSmallBody = 4 * kKiB;
+
+} // namespace
 
 CFrameSet::CFrameSet(Kind kind, RequestId id, const HeaderMap& headers, const std::string& body)
 {
@@ -17,7 +23,9 @@ CFrameSet::CFrameSet(Kind kind, RequestId id, const HeaderMap& headers, const st
     }
 
     const std::size_t frames = std::max<std::size_t>(1, (body.size() + kMaxFrameBody - 1) / kMaxFrameBody);
-    m_heads.reserve(frames * kFrameHeadBytes + headerBytes); // the spans point into it
+    const bool copyBody = body.size() <= kSmallBody;
+    m_heads.reserve(frames * kFrameHeadBytes + headerBytes +
+                    (copyBody ? body.size() : 0)); // the spans point into it
     m_spans.reserve(2 * frames);
     m_size = frames * kFrameHeadBytes + headerBytes + body.size();
 
@@ -30,19 +38,21 @@ CFrameSet::CFrameSet(Kind kind, RequestId id, const HeaderMap& headers, const st
         head.id = id;
         head.headerBytes = frame == 0 ? static_cast<std::uint32_t>(headerBytes) : 0;
         head.bodyBytes = static_cast<std::uint32_t>(length);
-        AppendFrame(head, frame == 0 ? &headers : nullptr, {body.data() + start, length});
+        AppendFrame(head, frame == 0 ? &headers : nullptr, {body.data() + start, length}, copyBody);
     }
 }
 
-void CFrameSet::AppendFrame(const FrameHead& head, const HeaderMap* headers, ConstSpan body)
+void CFrameSet::AppendFrame(const FrameHead& head, const HeaderMap* headers, ConstSpan body, bool copyBody)
 {
     const std::size_t start = m_heads.size();
     m_heads.resize(start + kFrameHeadBytes);
     WriteFrameHead(head, m_heads.data() + start);
     if (headers)
         AppendHeaders(*headers, m_heads);
+    if (copyBody)
+        m_heads.append(body.data, body.size);
     m_spans.push_back({m_heads.data() + start, m_heads.size() - start});
-    if (body.size > 0)
+    if (body.size > 0 && !copyBody)
         m_spans.push_back(body);
 }
 

@@ -8,7 +8,8 @@
 
 namespace lpc {
 
-/// One message as the frames that carry it. The body is referred to, not copied: it must outlive the set.
+/// One message as the frames that carry it. A body that is not small is referred to, not copied: it must
+/// outlive the set.
 class CFrameSet
 {
 public:
@@ -25,7 +26,7 @@ public:
     std::size_t Size() const { return m_size; }
 
 private:
-    void AppendFrame(const FrameHead& head, const HeaderMap* headers, ConstSpan body);
+    void AppendFrame(const FrameHead& head, const HeaderMap* headers, ConstSpan body, bool copyBody);
 
     std::string m_heads;
     std::vector<ConstSpan> m_spans;

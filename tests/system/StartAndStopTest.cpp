@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <thread>
+#include <future>
 
 using testing::Contains;
 using testing::IsEmpty;
@@ -61,7 +61,7 @@ std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> li
 
 const std::string kUntilReady = R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})"
                                 "\n";
-const std::string kQuit = R"({"invoke": {"method": "componentUninit", "body": ""}, "no_reply_ms": 0})"
+const std::string kQuit = R"({"notify": {"method": "componentUninit"}})"
                           "\n"
                           R"({"expect_exit": 0, "within_ms": 15000})"
                           "\n";
@@ -119,7 +119,7 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
     const std::string parentFile = run.Path() + "parent";
     std::ofstream(run.Path() + "start.sh")
         << "echo $$ >" << parentFile << "; " << run.Component() << " & wait\n";
-    std::thread parent([&] { run.Shell("sh " + run.Path() + "start.sh"); });
+    auto parent = std::async(std::launch::async, [&] { run.Shell("sh " + run.Path() + "start.sh"); });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
     EXPECT_THAT(run.LogMessages(), Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
     EXPECT_THAT(run.LogMessages(), Contains("Failed to send. LastError: [1005]."));
@@ -128,7 +128,7 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
     std::ifstream(parentFile) >> pid;
     ASSERT_GT(pid, 1);
     ::kill(pid, SIGKILL);
-    parent.join();
+    parent.get();
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
                 IsEmpty());
@@ -138,10 +138,11 @@ TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
 {
     ComponentRun run;
     std::ofstream(run.Path() + "script.jsonl") << kUntilReady << R"({"sleep_ms": 60000})";
-    std::thread framework(
-        [&] { run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl")); });
+    auto framework = std::async(std::launch::async, [&] {
+        run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl"));
+    });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
-    framework.join();
+    framework.get();
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
                 IsEmpty());
@@ -153,10 +154,11 @@ TEST(ASecondStart, EndsWithZeroBeforeAnyInitialisation)
 {
     ComponentRun run;
     const std::string second = run.Component() + " >/dev/null 2>&1";
-    std::thread first([&] { run.Play(kUntilReady + R"({"sleep_ms": 3000})" + "\n" + kQuit); });
+    auto first = std::async(std::launch::async,
+                            [&] { run.Play(kUntilReady + R"({"sleep_ms": 3000})" + "\n" + kQuit); });
     ASSERT_TRUE(run.WaitForLog("APP Init Success", 20));
     EXPECT_EQ(std::system(second.c_str()), 0);
-    first.join();
+    first.get();
     const auto messages = run.LogMessages();
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in0"), 2);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "InitSysParameter:in1"), 1);

@@ -3,9 +3,9 @@
 #include "Base/GuidUtil.h"
 #include "LPC_Client/LPC_Client.h"
 #include "lpc/Errors.h"
-#include "lpc/Json.h"
 #include "lpc/Names.h"
 #include "lpc/Options.h"
+#include "lpc/json/Json.h"
 
 #include <condition_variable>
 #include <cstdlib>

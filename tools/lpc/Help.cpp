@@ -35,7 +35,7 @@ A script has one JSON object a line. "#" starts a comment, "## " a comment that 
 
   {"invoke": {"protocol": "", "url": "", "method": "", "body": {}}, "reply": {}, "within_ms": 2000}
                                      send a request, demand a reply ("reply_headers": {} too)
-  {"invoke": {...}, "no_reply_ms": 300}                     demand silence
+  {"invoke": {...}, "no_reply_ms": 300}                     demand silence (0: await nothing)
   {"notify": {"method": "", "body": {}}}                    send a notification; "may_miss": true: to
                                      a component that may be gone already
   {"expect_notify": {"method": "", "body": {}}, "within_ms": N}

@@ -91,11 +91,18 @@ UtcTime Now()
     return ToUtc(now.tv_sec);
 }
 
+void AddTime(SafeText& text, const UtcTime& time, const char* inDate, const char* between, const char* inTime)
+{
+    text.AddDecimal(time.year, 4).Add(inDate).AddDecimal(time.month, 2).Add(inDate).AddDecimal(time.day, 2);
+    text.Add(between);
+    text.AddDecimal(time.hour, 2).Add(inTime).AddDecimal(time.minute, 2).Add(inTime);
+    text.AddDecimal(time.second, 2);
+}
+
 int CreateReport(const char* folder, const UtcTime& time)
 {
     SafeText path;
-    path.Add(folder).Add("crash-").AddDecimal(time.year, 4).AddDecimal(time.month, 2).AddDecimal(time.day, 2);
-    path.Add("-").AddDecimal(time.hour, 2).AddDecimal(time.minute, 2).AddDecimal(time.second, 2);
+    AddTime(path.Add(folder).Add("crash-"), time, "", "-", "");
     path.Add("-").AddDecimal(::getpid()).Add(".txt");
     return ::open(path.Get(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
 }
@@ -126,18 +133,7 @@ void WriteWhoAndWhen(int fd, const UtcTime& time)
     SafeText line;
     line.Add("process: ").AddDecimal(::getpid()).Add(" ").Add(program.data()).Add("\n").WriteTo(fd);
     line.Add("thread: ").AddDecimal(::gettid()).Add(" ").Add(thread.data()).Add("\n").WriteTo(fd);
-    line.Add("time: ")
-        .AddDecimal(time.year, 4)
-        .Add("-")
-        .AddDecimal(time.month, 2)
-        .Add("-")
-        .AddDecimal(time.day, 2);
-    line.Add(" ")
-        .AddDecimal(time.hour, 2)
-        .Add(":")
-        .AddDecimal(time.minute, 2)
-        .Add(":")
-        .AddDecimal(time.second, 2);
+    AddTime(line.Add("time: "), time, "-", " ", ":");
     line.Add(" UTC\n").WriteTo(fd);
     line.Add("dump type: ").AddHex(DumpType()).Add("\n").WriteTo(fd);
 }

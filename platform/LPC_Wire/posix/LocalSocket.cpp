@@ -67,14 +67,22 @@ IoResult ReadResult(ssize_t bytes)
     return {again ? IoState::WouldBlock : IoState::Closed, 0};
 }
 
+IoResult WriteResult(ssize_t bytes)
+{
+    if (bytes >= 0)
+        return {IoState::Done, static_cast<std::size_t>(bytes)};
+    const bool again = errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR || errno == ENOBUFS;
+    return {again ? IoState::WouldBlock : IoState::Closed, 0};
+}
+
 IoResult Receive(SocketHandle handle, const MutableSpan* spans, std::size_t count, int flags)
 {
+    if (count == 1 || spans[1].size == 0)
+        return ReadResult(recv(static_cast<int>(handle), spans[0].data, spans[0].size, flags));
     iovec parts[2];
     count = std::min<std::size_t>(count, 2);
     for (std::size_t i = 0; i < count; ++i)
         parts[i] = {spans[i].data, spans[i].size};
-    if (count == 2 && parts[1].iov_len == 0)
-        count = 1;
     msghdr message{};
     message.msg_iov = parts;
     message.msg_iovlen = count;
@@ -120,6 +128,9 @@ bool CLocalSocket::PeerIsThisUser() const
 
 IoResult CLocalSocket::Write(const ConstSpan* spans, std::size_t count)
 {
+    constexpr int kFlags = MSG_DONTWAIT | MSG_NOSIGNAL;
+    if (count == 1)
+        return WriteResult(send(static_cast<int>(m_handle), spans[0].data, spans[0].size, kFlags));
     iovec parts[kMaxSpans];
     count = std::min(count, kMaxSpans);
     for (std::size_t i = 0; i < count; ++i)
@@ -127,11 +138,7 @@ IoResult CLocalSocket::Write(const ConstSpan* spans, std::size_t count)
     msghdr message{};
     message.msg_iov = parts;
     message.msg_iovlen = count;
-    const ssize_t bytes = sendmsg(static_cast<int>(m_handle), &message, MSG_DONTWAIT | MSG_NOSIGNAL);
-    if (bytes >= 0)
-        return {IoState::Done, static_cast<std::size_t>(bytes)};
-    const bool again = errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR || errno == ENOBUFS;
-    return {again ? IoState::WouldBlock : IoState::Closed, 0};
+    return WriteResult(sendmsg(static_cast<int>(m_handle), &message, kFlags));
 }
 
 IoResult CLocalSocket::Read(const MutableSpan* spans, std::size_t count)

@@ -24,9 +24,9 @@ using AllMessages =
                 ComponentRegisterInfo, DateTimeFormatData, DefaultFilePathData, DeviceChannelListData,
                 DeviceList, DeviceResponseData, DeviceResponseListData, FileNotifyResult, FrameResizeData,
                 GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
-                GetWndHandleResponseData, LoadComponentsRequestData, LoadComponentsResponseData, LocalFile,
-                LocalFileNotify, LocalFileQuery, LocalFileQueryResult, LocalFileResult, MainViewState,
-                ModifyAllGroupsData, ShowWndRequestData, TimeSyncResultListData, WebSocketNotifyData,
-                WiperControlData, WiperControlResultListData>;
+                GetWndHandleResponseData, GroupListData, LoadComponentsRequestData,
+                LoadComponentsResponseData, LocalFile, LocalFileNotify, LocalFileQuery, LocalFileQueryResult,
+                LocalFileResult, MainViewState, ModifyGroupCondition, ShowWndRequestData,
+                TimeSyncResultListData, WebSocketNotifyData, WiperControlData, WiperControlResultListData>;
 
 } // namespace protocol

@@ -9,8 +9,8 @@ namespace protocol {
 class IJSONStruct
 {
 public:
-    /// Fills the structure from the item that stands under its key. On failure the structure is unchanged and
-    /// one line has been logged that names the field.
+    /// Fills the structure from the item that stands under its key; never null. On failure the structure is
+    /// unchanged and one line has been logged that names the field and shows the item (LoggableText.h).
     [[nodiscard]] virtual bool FromJSON(const cJSON* item) = 0;
 
     /// Adds the structure to the object parent under the given key.

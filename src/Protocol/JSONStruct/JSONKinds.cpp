@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "Base/TimeUtil.h"
+#include "Protocol/JSONStruct/LoggableText.h"
 
 #include <charconv>
 #include <cmath>
@@ -111,11 +112,11 @@ bool RefuseUnder(std::size_t index, ReadError& error)
     return false;
 }
 
-void LogReadFailure(const char* message, const ReadError& error)
+void LogReadFailure(const char* message, const cJSON* item, const ReadError& error)
 {
     const char* const key = error.path.empty() ? message : error.path.c_str();
-    BASE_ERROR("Failed to read message [%s]. Key: [%s]. Error info: [%s].", message, key,
-               error.reason.c_str());
+    BASE_ERROR("Failed to read message [%s]. Key: [%s]. Error info: [%s]. Text: [%s].", message, key,
+               error.reason.c_str(), LoggableText(PrintText(item)).c_str());
 }
 
 } // namespace protocol::json

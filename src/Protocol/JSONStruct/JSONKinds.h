@@ -81,8 +81,8 @@ bool Refuse(ReadError& error, std::string reason);
 bool RefuseUnder(const char* key, ReadError& error);
 bool RefuseUnder(std::size_t index, ReadError& error);
 
-/// Writes the one line about a message that could not be read.
-void LogReadFailure(const char* message, const ReadError& error);
+/// Writes the one line about a message that could not be read from the item.
+void LogReadFailure(const char* message, const cJSON* item, const ReadError& error);
 
 /// Kind<T>::Read fills a value from an item, Kind<T>::Write makes the item of a value.
 template<typename T, typename = void>

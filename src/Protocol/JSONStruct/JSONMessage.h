@@ -27,7 +27,7 @@ public:
         Message fresh;
         json::ReadError error;
         if (!json::Kind<Message>::Read(item, fresh, error)) {
-            json::LogReadFailure(Message::kKey, error);
+            json::LogReadFailure(Message::kKey, item, error);
             return false;
         }
         static_cast<Message&>(*this) = std::move(fresh);

@@ -196,7 +196,7 @@ void Append(cJSON* array, Tree item)
 
 const cJSON* Member(const cJSON* object, const char* key)
 {
-    return cJSON_IsObject(object) ? cJSON_GetObjectItemCaseSensitive(object, key) : nullptr;
+    return cJSON_IsObject(object) ? cJSON_GetObjectItem(object, key) : nullptr;
 }
 
 } // namespace protocol::json

@@ -49,7 +49,7 @@ Tree NewRaw(const std::string& text);
 void Attach(cJSON* object, const char* key, Tree item);
 void Append(cJSON* array, Tree item);
 
-/// The object's first member of that exact key; nothing for other items.
+/// The object's first member of that key, in any letter case; nothing for other items.
 const cJSON* Member(const cJSON* object, const char* key);
 
 } // namespace protocol::json

@@ -1,11 +1,12 @@
 #include "Protocol/JSONStruct/LoggableText.h"
 
+#include "Base/CredentialName.h"
 #include "Base/StringUtil.h"
 
 #include <boost/locale/utf.hpp>
 
 #include <algorithm>
-#include <array>
+#include <optional>
 #include <string_view>
 
 namespace protocol {
@@ -13,19 +14,13 @@ namespace protocol {
 namespace {
 
 constexpr const char* kMask = "***";
-constexpr std::array kCredentialParts{"password", "passwd",     "pwd",           "secret",
-                                      "token",    "credential", "authorization", "username"};
-constexpr std::array kCredentialWords{"pass", "pin", "auth"};
-constexpr std::string_view kCredentialEnd = "key";
-
-char Lower(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
+constexpr std::string_view kBlanks = " \t\r\n";
 
 bool IsWordCharacter(char c)
 {
-    return (Lower(c) >= 'a' && Lower(c) <= 'z') || (c >= '0' && c <= '9') || c == '_' || c == '-' || c == '.';
+    const bool isAscii = static_cast<unsigned char>(c) < 0x80;
+    return !isAscii || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') ||
+           c == '_' || c == '-' || c == '.';
 }
 
 bool IsOneOf(char c, std::string_view set)
@@ -33,29 +28,28 @@ bool IsOneOf(char c, std::string_view set)
     return set.find(c) != std::string_view::npos;
 }
 
-bool IsCredentialWord(std::string_view written)
+/// The key at the end of the text: all between its quotes, or the last word. Backslashes belong to it, those
+/// of its closing quote do not.
+std::string_view LastKey(std::string_view text)
 {
-    std::string word(written);
-    std::transform(word.begin(), word.end(), word.begin(), Lower);
-    const auto contains = [&](const char* part) { return word.find(part) != std::string::npos; };
-    const bool endsInKey =
-        word.size() >= kCredentialEnd.size() &&
-        word.compare(word.size() - kCredentialEnd.size(), std::string::npos, kCredentialEnd) == 0;
-    return endsInKey || std::any_of(kCredentialParts.begin(), kCredentialParts.end(), contains) ||
-           std::find(kCredentialWords.begin(), kCredentialWords.end(), word) != kCredentialWords.end();
+    text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
+    if (!text.empty() && IsOneOf(text.back(), "\"'")) {
+        const char quote = text.back();
+        text.remove_suffix(1);
+        text.remove_prefix(text.rfind(quote) + 1);
+        return text.substr(0, text.find_last_not_of('\\') + 1);
+    }
+    std::size_t begin = text.size();
+    while (begin > 0 && (IsWordCharacter(text[begin - 1]) || text[begin - 1] == '\\'))
+        --begin;
+    return text.substr(begin);
 }
 
-/// Whether the key before the separator at this place names a credential.
+/// Whether the key before the separator at this place names a credential, or is written with escapes.
 bool IsCredentialKeyBefore(std::string_view text, std::size_t separator)
 {
-    std::size_t end = separator;
-    while (end > 0 && IsOneOf(text[end - 1], " \t\r\n\"'\\"))
-        --end;
-    std::size_t begin = end;
-    while (begin > 0 && IsWordCharacter(text[begin - 1]))
-        --begin;
-    const bool escaped = begin > 0 && text[begin - 1] == '\\';
-    return escaped || IsCredentialWord(text.substr(begin, end - begin));
+    const std::string_view key = LastKey(text.substr(0, separator));
+    return IsOneOf('\\', key) || Base::IsCredentialName(key);
 }
 
 /// The place after the quoted text that opens here. depth is the number of backslashes before its opening
@@ -105,18 +99,46 @@ std::size_t EndOfValue(std::string_view text, std::size_t begin)
     return std::min(text.find_first_of(",}]\"\\&;\r\n", first), text.size());
 }
 
+/// User and password of the url whose "://" begins at the colon; slashes may be escaped. All of it when it
+/// ends with the text, which may have been cut before the "@".
+std::optional<std::string_view> UserOfUrl(std::string_view text, std::size_t colon)
+{
+    const std::size_t begin = std::min(text.find_first_not_of("\\/", colon + 1), text.size());
+    const std::string_view slashes = text.substr(colon, begin - colon);
+    if (text[colon] != ':' || std::count(slashes.begin(), slashes.end(), '/') != 2)
+        return std::nullopt;
+    const std::string_view rest = text.substr(begin);
+    const std::string_view url = rest.substr(0, rest.find_first_of(" \t\r\n\"'<>"));
+    const std::size_t at = url.rfind('@');
+    if (at == std::string_view::npos && url.size() < rest.size())
+        return std::nullopt;
+    return url.substr(0, at);
+}
+
+/// What may not be shown of the text behind the separator at this place.
+std::optional<std::string_view> CredentialAfter(std::string_view text, std::size_t separator)
+{
+    if (const auto user = UserOfUrl(text, separator))
+        return user;
+    const std::size_t value = text.find_first_not_of(kBlanks, separator + 1);
+    if (value == std::string_view::npos || !IsCredentialKeyBefore(text, separator))
+        return std::nullopt;
+    return text.substr(value, EndOfValue(text, value) - value);
+}
+
 std::string MaskCredentials(std::string_view text)
 {
     std::string masked;
     std::size_t shown = 0;
     for (std::size_t at = text.find_first_of(":="); at < text.size(); at = text.find_first_of(":=", at)) {
-        const std::size_t value = std::min(text.find_first_not_of(" \t\r\n", at + 1), text.size());
-        if (value == text.size() || !IsCredentialKeyBefore(text, at)) {
+        const auto credential = CredentialAfter(text, at);
+        if (!credential) {
             ++at;
             continue;
         }
-        masked.append(text.substr(shown, value - shown)).append(kMask);
-        shown = at = EndOfValue(text, value);
+        const auto begin = static_cast<std::size_t>(credential->data() - text.data());
+        masked.append(text.substr(shown, begin - shown)).append(kMask);
+        shown = at = begin + credential->size();
     }
     return masked.append(text.substr(shown));
 }

@@ -11,10 +11,9 @@ constexpr std::size_t kLoggedTextLimit = 4096;
 /// A received text in the form in which it may stand in a log line: cut to kLoggedTextLimit, on one line, in
 /// UTF-8, and with credentials replaced by "***". Works on any bytes, also when they are not JSON.
 ///
-/// A credential is the value of a key that, in any letter case, contains password, passwd, pwd, secret,
-/// token, credential, authorization or username, ends in key, or is pass, pin or auth; and of a key that is
-/// written with escapes. A value that is cut off, or whose end is in doubt, is masked further rather than
-/// shown.
+/// A credential is the value of a key that Base::IsCredentialName knows; of a key that is written with
+/// escapes; and what stands before the "@" of a url. One that is cut off, or whose end is in doubt, is masked
+/// further rather than shown. Any thread.
 std::string LoggableText(const std::string& text);
 
 } // namespace protocol

@@ -8,6 +8,7 @@
 #include <string>
 #include <type_traits>
 
+/// From body to message and back. Any thread.
 namespace protocol {
 
 /// Fills the structure from the member of the body that its key names; other members are ignored. False for

@@ -1,5 +1,10 @@
 #include "LpcWorld.h"
 
+#include "LPC_Wire/LocalSocket.h"
+#include "LPC_Wire/SocketName.h"
+
+#include <filesystem>
+
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,8 +39,8 @@ protected:
         }
     }
 
-    EchoServer server;
     Collected<lpc::RequestId> requests;
+    EchoServer server;
 };
 
 TEST_F(Loss, WaitingCallersFailAtOnceAndTheReceiverHearsOfItLast)
@@ -164,14 +169,17 @@ TEST_F(Loss, ALivingServerKeepsItsNameADeadOnesSocketIsReplaced)
     EXPECT_EQ(lpc::kCannotListen, second.Start());
     const Client client; // the first one still listens
 
+    std::string why;
+    const std::string path = lpc::SocketPath("other", why);
     const pid_t child = fork();
     if (child == 0) {
-        EchoServer dying;
-        _exit(dying.server.Start("other") == lpc::kNoError ? 0 : 1); // leaves its socket behind
+        lpc::CLocalListener dying;
+        _exit(dying.Listen(path, why) ? 0 : 1); // leaves its socket behind
     }
     int status = 0;
     ASSERT_EQ(child, waitpid(child, &status, 0));
     ASSERT_EQ(0, WEXITSTATUS(status));
+    ASSERT_TRUE(std::filesystem::exists(path));
     EchoServer heir;
     EXPECT_EQ(lpc::kNoError, heir.server.Start("other"));
 }

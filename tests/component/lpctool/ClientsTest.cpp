@@ -1,6 +1,6 @@
 #include "component/lpctool/HostRun.h"
 
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 #include "lpc/Names.h"
 
 #include "Base/StringUtil.h"

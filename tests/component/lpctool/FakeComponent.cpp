@@ -10,7 +10,7 @@
 // when it is asked to, "broken" exits with 3 at once.
 
 #include "LPC_Client/LPC_Client.h"
-#include "lpc/Json.h"
+#include "lpc/json/Json.h"
 #include "lpc/Names.h"
 
 #include <condition_variable>

@@ -33,9 +33,13 @@ const LineRow kRows[] = {
      R"({"invoke":{"url":"/fake/echo","method":"GET"},"reply_headers":{"method":"GET"}})", 0, "ok"},
     {"headers that differ", R"({"invoke":{"url":"/fake/echo"},"reply_headers":{"url":"/other"}})", 1,
      "the reply's headers differ\n        at      $.url"},
-    {"no reply", R"({"invoke":{"url":"/fake/silent"},"reply":"*","within_ms":50})", 1,
-     "no reply within 50 ms"},
+    {"no reply", R"({"expect_notify":{"method":"initFinish"}}
+{"invoke":{"url":"/fake/silent"},"reply":"*","within_ms":50})",
+     1, "no reply within 50 ms"},
     {"silence", R"({"invoke":{"url":"/fake/silent"},"no_reply_ms":50})", 0, "silence for 50 ms"},
+    {"an end without a reply", R"({"invoke":{"method":"componentUninit"},"no_reply_ms":20000}
+{"expect_exit":0})",
+     0, "expect the end with exit code 0"},
     {"a reply instead of silence", R"({"invoke":{"url":"/fake/echo","body":[7]},"no_reply_ms":20000})", 1,
      "a reply came where silence was demanded\n        whole   [7]"},
     {"variables from one reply to the next",
@@ -113,8 +117,8 @@ const LineRow kRows[] = {
      1, "wanted  exit code 0\n        got     exit code 3"},
     {"no exit", R"({"expect_exit":0,"within_ms":50})", 1, "no end within 50 ms"},
     {"a component that dies while a reply is awaited",
-     R"({"invoke":{"method":"die","body":{"signal":11}},"reply":"*","within_ms":20000})", 1,
-     "no reply: the component ended with signal 11 (SIGSEGV)"},
+     R"({"invoke":{"method":"die","body":{"signal":9}},"reply":"*","within_ms":20000})", 1,
+     "no reply: the component ended with signal 9 (SIGKILL)"},
     {"a component that dies while a notification is awaited",
      R"({"notify":{"method":"die","body":{"exit":3}}}
 {"expect_notify":{"method":"never"},"within_ms":20000})",

@@ -1,4 +1,4 @@
-#include "lpc/Answers.h"
+#include "lpc/script/Answers.h"
 
 #include "support/TestDataRoot.h"
 
@@ -33,7 +33,7 @@ TEST(Answers, HaveADefaultForEveryRouteOfAFramework)
         {"/vantor/v1/internal/framework/system/dateTimeFormat", "dateTimeFormat"},
         {"/vantor/v1/internal/framework/system/frameResize", "response"},
         {"/vantor/v1/internal/alarmCenter/register", "response"},
-        {"/vantor/v1/deviceManagement/groups", "response"},
+        {"/vantor/v1/deviceManagement/groups", "groupList"},
         {"/vantor/v1/deviceManagement/devices", "deviceList"},
         {"/vantor/v1/deviceManagement/devices/d7", "device"},
         {"/vantor/v1/deviceManagement/devices/d7/channels/", "channelList"},

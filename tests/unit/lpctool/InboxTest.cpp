@@ -1,4 +1,4 @@
-#include "lpc/ComponentInbox.h"
+#include "lpc/script/ComponentInbox.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "lpc/Masking.h"
-#include "lpc/Traffic.h"
+#include "lpc/json/Masking.h"
+#include "lpc/host/Traffic.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "lpc/Matcher.h"
+#include "lpc/json/Matcher.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "lpc/Script.h"
+#include "lpc/script/Script.h"
 
 #include <gtest/gtest.h>
 

@@ -3,30 +3,17 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "support/CapturedLog.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <memory>
 #include <set>
 
 using namespace protocol;
 
 namespace {
-
-template<typename List>
-struct AsTypes;
-template<typename... Messages>
-struct AsTypes<MessageList<Messages...>>
-{
-    using Type = ::testing::Types<Messages...>;
-};
-
-template<typename T>
-T Sample()
-{
-    T message;
-    MessageSamples().Fill(message);
-    return message;
-}
 
 /// The extent of one member within its structure.
 struct Extent
@@ -67,127 +54,168 @@ bool ListCoversStructure()
     return sizeof(T) - reached < alignof(T);
 }
 
-/// Something that no field of the type accepts.
+/// A JSON text that no field of the type accepts; empty when there is none.
 template<typename M>
-json::Tree WrongFor()
+std::string WrongFor()
 {
-    if constexpr (std::is_same_v<M, std::string> || HasFields<M>::value)
-        return json::NewInteger(7LL);
+    if constexpr (std::is_same_v<M, RawJSON>)
+        return {};
     else
-        return json::NewObject();
+        return std::is_same_v<M, std::string> || HasFields<M>::value ? "7" : "{}";
 }
 
-/// The sample as a tree in which the value under the key is replaced, or removed.
+/// A message type as the tests see it, so that each of them is compiled once for all types.
+using Message = std::unique_ptr<IJSONStruct>;
+
+struct FieldInfo
+{
+    const char* key; ///< null: the message is this field alone
+    bool mandatory;
+    std::string wrong;
+    std::function<Message()> sampleWithDefault; ///< the sample, but for this field
+};
+
+struct MessageInfo
+{
+    Message (*empty)();
+    Message (*sample)();
+    bool (*equal)(const IJSONStruct&, const IJSONStruct&);
+    bool listCoversStructure;
+    std::vector<FieldInfo> fields;
+
+    bool IsWhole() const { return !fields.front().key; }
+};
+
 template<typename T>
-json::Tree SampleWith(const char* key, json::Tree value)
+Message Sample()
+{
+    auto message = std::make_unique<T>();
+    MessageSamples().Fill(*message);
+    return message;
+}
+
+template<typename T, typename F>
+FieldInfo Describe(const F& field)
+{
+    using Member = std::decay_t<decltype(T{}.*field.member)>;
+    const auto member = field.member;
+    FieldInfo info{nullptr, true, WrongFor<Member>(), [member] {
+                       Message message = Sample<T>();
+                       static_cast<T&>(*message).*member = T{}.*member;
+                       return message;
+                   }};
+    if constexpr (!IsWhole<F>::value) {
+        info.key = field.key;
+        info.mandatory = field.mandatory;
+    }
+    return info;
+}
+
+template<typename T>
+MessageInfo Describe()
+{
+    MessageInfo info{[]() -> Message { return std::make_unique<T>(); },
+                     &Sample<T>,
+                     [](const IJSONStruct& left, const IJSONStruct& right) {
+                         return static_cast<const T&>(left) == static_cast<const T&>(right);
+                     },
+                     ListCoversStructure<T>(),
+                     {}};
+    ForEachField<T>([&](const auto& field) { info.fields.push_back(Describe<T>(field)); });
+    return info;
+}
+
+template<typename... Messages>
+std::vector<MessageInfo> Describe(MessageList<Messages...>)
+{
+    return {Describe<Messages>()...};
+}
+
+/// The sample as a tree in which the value under the key is replaced, or removed when there is none.
+json::Tree SampleWith(const MessageInfo& info, const char* key, const std::string& value)
 {
     std::string error;
     json::Tree holder = json::NewObject();
-    Sample<T>().ToJSON(holder.get(), "message");
+    info.sample()->ToJSON(holder.get(), "message");
     json::Tree read = json::ParseText(json::PrintText(holder->child), error);
     cJSON_DeleteItemFromObjectCaseSensitive(read.get(), key);
-    if (value)
-        json::Attach(read.get(), key, std::move(value));
-    return read;
+    if (!value.empty())
+        json::Attach(read.get(), key, json::NewRaw(value));
+    return json::ParseText(json::PrintText(read.get()), error);
 }
 
-bool Names(const std::string& line, const std::string& key)
+void ExpectRefused(const MessageInfo& info, const json::Tree& item, const std::string& key)
 {
-    return line.find("Key: [" + key + "]") != std::string::npos;
-}
-
-template<typename T>
-void ExpectRefused(const cJSON* item, const std::string& key)
-{
-    T message = Sample<T>();
+    const Message message = info.sample();
     const CapturedLog log;
-    EXPECT_FALSE(message.FromJSON(item)) << key;
-    EXPECT_TRUE(message == Sample<T>()) << "a refused body must not change the message: " << key;
+    EXPECT_FALSE(message->FromJSON(item.get())) << key;
+    EXPECT_TRUE(info.equal(*message, *info.sample()))
+        << "a refused body must not change the message: " << key;
     const auto lines = log.Lines();
     ASSERT_EQ(lines.size(), 1u) << key;
-    EXPECT_TRUE(Names(lines[0].message, key)) << lines[0].message;
+    EXPECT_THAT(lines[0].message, testing::HasSubstr("Key: [" + key + "]"));
 }
 
-/// The values under keys, each of them replaced by a wrong one or left out.
-template<typename T, typename F>
-void CheckField(const F& field)
+void CheckWithout(const MessageInfo& info, const FieldInfo& field)
 {
-    using Member = std::decay_t<decltype(T{}.*field.member)>;
-    if constexpr (!std::is_same_v<Member, RawJSON>)
-        ExpectRefused<T>(SampleWith<T>(field.key, WrongFor<Member>()).get(), field.key);
-
-    const json::Tree without = SampleWith<T>(field.key, nullptr);
+    const json::Tree without = SampleWith(info, field.key, "");
     if (field.mandatory)
-        return ExpectRefused<T>(without.get(), field.key);
-    T message = Sample<T>();
-    ASSERT_TRUE(message.FromJSON(without.get())) << field.key;
-    EXPECT_TRUE(message.*field.member == T{}.*field.member) << field.key << " keeps its default";
+        return ExpectRefused(info, without, field.key);
+    const Message message = info.sample();
+    ASSERT_TRUE(message->FromJSON(without.get())) << field.key;
+    EXPECT_TRUE(info.equal(*message, *field.sampleWithDefault())) << field.key << " has its default";
 }
 
-} // namespace
-
-template<typename T>
-class EveryMessage : public ::testing::Test
+class EveryMessage : public testing::TestWithParam<MessageInfo>
 {};
-TYPED_TEST_SUITE(EveryMessage, AsTypes<AllMessages>::Type);
+INSTANTIATE_TEST_SUITE_P(Rows, EveryMessage, testing::ValuesIn(Describe(AllMessages())), [](const auto& row) {
+    return std::to_string(row.index) + "_" + row.param.empty()->Key();
+});
 
-TYPED_TEST(EveryMessage, ComesBackAsItWasWritten)
+TEST_P(EveryMessage, ComesBackAsItWasWritten)
 {
-    const TypeParam written = Sample<TypeParam>();
-    TypeParam read;
-    ASSERT_TRUE(TParseJSONStr(read, WriteJSONStr(written)));
-    EXPECT_TRUE(read == written) << WriteJSONStr(written) << "\n" << WriteJSONStr(read);
-}
-
-TYPED_TEST(EveryMessage, ComesBackWithItsDefaults)
-{
-    TypeParam read = Sample<TypeParam>();
-    ASSERT_TRUE(TParseJSONStr(read, WriteJSONStr(TypeParam{})));
-    EXPECT_TRUE(read == TypeParam{});
-}
-
-TYPED_TEST(EveryMessage, ListsAllItsMembers)
-{
-    EXPECT_TRUE(ListCoversStructure<TypeParam>());
-}
-
-TYPED_TEST(EveryMessage, DiffersWhenAnyFieldDiffers)
-{
-    const TypeParam sample = Sample<TypeParam>();
-    ForEachField<TypeParam>([&](const auto& field) {
-        TypeParam changed = sample;
-        changed.*field.member = TypeParam{}.*field.member;
-        EXPECT_TRUE(changed != sample);
-    });
-}
-
-TYPED_TEST(EveryMessage, UsesEachKeyOnce)
-{
-    if constexpr (!IsWhole<decltype(TypeParam::Fields())>::value) {
-        std::set<std::string> keys;
-        ForEachField<TypeParam>(
-            [&](const auto& field) { EXPECT_TRUE(keys.insert(field.key).second) << field.key; });
+    const MessageInfo& info = GetParam();
+    const std::pair<Message, Message> rows[] = {{info.sample(), info.empty()}, {info.empty(), info.sample()}};
+    for (const auto& [written, read] : rows) {
+        ASSERT_TRUE(ParseJSONStr(*read, WriteJSONStr(*written))) << WriteJSONStr(*written);
+        EXPECT_TRUE(info.equal(*read, *written)) << WriteJSONStr(*written) << "\n" << WriteJSONStr(*read);
     }
 }
 
-TYPED_TEST(EveryMessage, RefusesAWrongOrMissingFieldByItsName)
+TEST_P(EveryMessage, ListsEachOfItsMembersOnce)
 {
-    if constexpr (IsWhole<decltype(TypeParam::Fields())>::value)
-        ExpectRefused<TypeParam>(json::NewObject().get(), TypeParam::kKey);
-    else
-        ForEachField<TypeParam>([](const auto& field) { CheckField<TypeParam>(field); });
+    EXPECT_TRUE(GetParam().listCoversStructure);
+    std::set<std::string> keys;
+    for (const FieldInfo& field : GetParam().fields) {
+        const std::string key = field.key ? field.key : "";
+        EXPECT_TRUE(keys.insert(key).second) << key;
+        EXPECT_FALSE(GetParam().equal(*field.sampleWithDefault(), *GetParam().sample())) << key;
+    }
 }
 
-TYPED_TEST(EveryMessage, IgnoresUnknownKeysAndTakesTheFirstOfTwo)
+TEST_P(EveryMessage, RefusesAWrongOrMissingFieldByItsName)
 {
-    if constexpr (!IsWhole<decltype(TypeParam::Fields())>::value) {
-        json::Tree item = SampleWith<TypeParam>("unknown", json::NewObject());
-        ForEachField<TypeParam>(
-            [&](const auto& field) { json::Attach(item.get(), field.key, json::NewObject()); });
-        TypeParam message;
-        ASSERT_TRUE(message.FromJSON(item.get()));
-        EXPECT_TRUE(message == Sample<TypeParam>());
+    const MessageInfo& info = GetParam();
+    if (info.IsWhole())
+        return ExpectRefused(info, json::NewObject(), info.empty()->Key());
+    for (const FieldInfo& field : info.fields) {
+        if (!field.wrong.empty())
+            ExpectRefused(info, SampleWith(info, field.key, field.wrong), field.key);
+        CheckWithout(info, field);
     }
+}
+
+TEST_P(EveryMessage, IgnoresUnknownKeysAndTakesTheFirstOfTwo)
+{
+    const MessageInfo& info = GetParam();
+    if (info.IsWhole())
+        return;
+    const json::Tree item = SampleWith(info, "unknown", "{}");
+    for (const FieldInfo& field : info.fields)
+        json::Attach(item.get(), field.key, json::NewObject());
+    const Message message = info.empty();
+    ASSERT_TRUE(message->FromJSON(item.get()));
+    EXPECT_TRUE(info.equal(*message, *info.sample()));
 }
 
 TEST(NestedStructures, ListAllTheirMembers)
@@ -213,3 +241,5 @@ TEST(MessageFields, TestSeesAForgottenMember)
     };
     EXPECT_FALSE(ListCoversStructure<Forgetful>());
 }
+
+} // namespace

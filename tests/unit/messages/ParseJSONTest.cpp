@@ -57,15 +57,20 @@ const BadBody kBadBodies[] = {
      R"({"password":"hunter2")",
      {R"(Failed to cJSON_Parse( [{"password":***] ). Error info: [syntax error at byte 21].)"}},
     {"OtherKey",
-     R"({"localfileresult":{"path":"a"}})",
-     {R"(Failed to cJSON_GetObjectItem([localFileResult]). Error info: [{"localfileresult":{"path":"a"}}].)"}},
+     R"({"localFile":{"path":"a"}})",
+     {R"(Failed to cJSON_GetObjectItem([localFileResult]). Error info: [{"localFile":{"path":"a"}}].)"}},
     {"NoObject", "[1]", {"Failed to cJSON_GetObjectItem([localFileResult]). Error info: [[1]]."}},
     {"WrongType",
      R"({"localFileResult":{"path":5}})",
-     {"Failed to read message [localFileResult]. Key: [path]. Error info: [expected a text]."}},
+     {R"(Failed to read message [localFileResult]. Key: [path]. Error info: [expected a text]. Text: [{"path":5}].)"}},
     {"WrongWhole",
      R"({"localFileResult":"a"})",
-     {"Failed to read message [localFileResult]. Key: [localFileResult]. Error info: [expected an object]."}},
+     {"Failed to read message [localFileResult]. Key: [localFileResult]. Error info: [expected an object]. "
+      "Text: [\"a\"]."}},
+    {"WrongTypeAndCredentials",
+     R"({"localFileResult":{"path":5,"password":"hunter2"}})",
+     {"Failed to read message [localFileResult]. Key: [path]. Error info: [expected a text]. "
+      "Text: [{\"path\":5,\"password\":***}]."}},
 };
 INSTANTIATE_TEST_SUITE_P(Rows, BodyThatIsNoMessage, ::testing::ValuesIn(kBadBodies),
                          [](const auto& info) { return info.param.name; });
@@ -117,6 +122,13 @@ TEST(MessageBody, HasTheKeyAsItsOnlyMember)
               R"({"timeSyncResultList":[{"deviceGuid":"d","result":{"errorCode":7,"errorModuleCode":0}}]})");
 }
 
+TEST(MessageBody, IsReadWhateverTheLetterCaseOfItsKeys)
+{
+    LocalFileResult result;
+    EXPECT_TRUE(TParseJSONStr(result, R"({"localfileresult":{"Path":"a"}})"));
+    EXPECT_EQ(result.path, "a");
+}
+
 TEST(LPCEnvelope, ReadsThePayloadFromData)
 {
     GetWndHandleRequestData payload;
@@ -145,13 +157,16 @@ TEST(LPCEnvelope, RefusesWithOneLineWhatIsNoEnvelope)
 {
     const std::pair<const char*, const char*> rows[] = {
         {"{", "Failed to cJSON_Parse( [{] ). Error info: [syntax error at byte 1]."},
-        {"[]", "Failed to read message [LPCRequestData]. Key: [method]. Error info: [expected a text]."},
+        {"[]", "Failed to read message [LPCRequestData]. Key: [method]. Error info: [expected a text]. Text: "
+               "[[]]."},
         {R"({"method":1,"data":{}})",
-         "Failed to read message [LPCRequestData]. Key: [method]. Error info: [expected a text]."},
+         "Failed to read message [LPCRequestData]. Key: [method]. Error info: [expected a text]. "
+         "Text: [{\"method\":1,\"data\":{}}]."},
         {R"({"method":"getWndHandle"})",
-         "Failed to cJSON_GetObjectItem([data]). Error info: [getWndHandle]."},
-        {R"({"method":"getWndHandle","data":{"Type":"MainView"}})",
-         "Failed to read message [getWndHandle]. Key: [type]. Error info: [missing]."},
+         R"(Failed to cJSON_GetObjectItem([data]). Error info: [{"method":"getWndHandle"}].)"},
+        {R"({"method":"getWndHandle","data":{"kind":"MainView"}})",
+         "Failed to read message [getWndHandle]. Key: [type]. Error info: [missing]. "
+         "Text: [{\"kind\":\"MainView\"}]."},
     };
     for (const auto& [body, line] : rows) {
         GetWndHandleRequestData payload;

@@ -57,9 +57,10 @@ std::function<bool(commlayer::ITransport&)> OfDevice(bool (*request)(const std::
 
 bool ModifyGroups(commlayer::ITransport& transport)
 {
-    ModifyAllGroupsData groups;
-    groups.groups.push_back({"g", "", "Gates", {"c1", "c2"}});
-    return commlayer::CModifyAllGroups::request(groups, transport);
+    ModifyGroupCondition condition;
+    condition.allSmartRule = 1;
+    GroupListData groups;
+    return commlayer::CModifyAllGroupsComm::request(groups, condition, transport);
 }
 
 bool ResizeFrame(commlayer::ITransport& transport)
@@ -144,8 +145,7 @@ const Row kRows[] = {
     {"FrameResize", &ResizeFrame, "PUT", "/vantor/v1/internal/framework/system/frameResize",
      R"({"frameResize":{"type":"MainView","width":800,"height":600}})", "", nullptr},
     {"ModifyAllGroups", &ModifyGroups, "PUT", "/vantor/v1/deviceManagement/groups",
-     R"({"groupList":[{"guid":"g","parentGuid":"","name":"Gates","channelGuids":["c1","c2"]}]})", kGood,
-     nullptr},
+     R"({"modifyGroupCondition":{"allSmartRule":1}})", R"({"groupList":[]})", nullptr},
     {"Devices", Query(&commlayer::CGetDevices::request), "GET", "/vantor/v1/deviceManagement/devices", "",
      R"({"deviceList":[]})", nullptr},
     {"Device", OfDevice(&commlayer::CGetDevice::request), "GET",
@@ -240,6 +240,8 @@ TEST(EveryCommand, FailsWithTheErrorNumberOfTheCommonResponse)
               (Lines{"Failed to request [url-/vantor/v1/deviceManagement/devices/d/alarmOutputs/o/controls]. "
                      "[error-11-22].",
                      "Failed to LPCSendData. msg:[ requestAlarmControl ]"}));
+    for (const CapturedLog::Line& line : log.Lines())
+        EXPECT_EQ(line.logger, "VideoLogger");
 }
 
 TEST(EveryCommand, ForgetsTheResultOfAnEarlierCall)
@@ -279,10 +281,12 @@ TEST(DeviceRequests, GiveNoCredentialsThatDoNotOpen)
     FakeTransport transport(
         R"({"device":{"guid":"d","name":"n","typeCode":1,"address":"a","port":80,"userName":"x","password":"y"}})");
     DeviceResponseData device;
+    Base::Error::SetLastError(0);
     const CapturedLog log;
     EXPECT_FALSE(video::CDeviceComm(transport).RequestDevice("d", device));
     EXPECT_EQ(device.guid, "d");
     EXPECT_EQ(device.userName + device.password, "");
+    EXPECT_EQ(Base::Error::GetLastError(), commlayer::kBadAnswer);
     EXPECT_TRUE(log.Has("CDecryptionComm failed!"));
 }
 

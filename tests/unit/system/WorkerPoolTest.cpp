@@ -35,16 +35,4 @@ TEST(WorkerPool, StopRunsWhatIsQueuedAndRefusesWhatComesLater)
     EXPECT_EQ(done, 1000);
 }
 
-TEST(WorkerPool, TaskMayStopThePoolItRunsOn)
-{
-    CWorkerPool pool;
-    std::promise<void> stopped;
-    ASSERT_TRUE(pool.PostTask([&] {
-        pool.Stop();
-        stopped.set_value();
-    }));
-    EXPECT_EQ(stopped.get_future().wait_for(kLimit), std::future_status::ready);
-    EXPECT_FALSE(pool.PostTask([] {}));
-}
-
 } // namespace

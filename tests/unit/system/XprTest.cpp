@@ -181,22 +181,4 @@ TEST(XprMutex, OneThreadMayLockTwiceAndOthersWaitUntilBothAreOpened)
     XPR_DestroyMutex(nullptr);
 }
 
-TEST(XprMutex, NoIncrementIsLostBetweenThreads)
-{
-    XPR_Mutex mutex;
-    int count = 0;
-    std::vector<std::thread> threads;
-    for (int t = 0; t < 4; ++t)
-        threads.emplace_back([&] {
-            for (int i = 0; i < 10000; ++i) {
-                XPR_LockMutex(&mutex);
-                ++count;
-                XPR_UnlockMutex(&mutex);
-            }
-        });
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(count, 40000);
-}
-
 } // namespace

@@ -84,13 +84,24 @@ struct GroupInfo
     }
 };
 
-/// Replaces all groups.
-struct ModifyAllGroupsData : CMessage<ModifyAllGroupsData, IInboundData>
+struct GroupListData : CMessage<GroupListData, IInboundData>
 {
     static constexpr const char* kKey = "groupList";
     std::vector<GroupInfo> groups;
 
-    static constexpr auto Fields() { return Whole(&ModifyAllGroupsData::groups); }
+    static constexpr auto Fields() { return Whole(&GroupListData::groups); }
+};
+
+/// What to change in all groups at once.
+struct ModifyGroupCondition : CMessage<ModifyGroupCondition, IInboundData>
+{
+    static constexpr const char* kKey = "modifyGroupCondition";
+    std::int32_t allSmartRule = -1; ///< show the rules of smart events: 1 yes, 0 no, -1 as it is
+
+    static constexpr auto Fields()
+    {
+        return std::make_tuple(May("allSmartRule", &ModifyGroupCondition::allSmartRule));
+    }
 };
 
 } // namespace protocol

@@ -1,6 +1,7 @@
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
 
 #include "Protocol/JSONStruct/JSONKinds.h"
+#include "Protocol/JSONStruct/LoggableText.h"
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 
 namespace protocol {
@@ -33,12 +34,13 @@ bool LPCRequestData::FromJSON(const cJSON* item)
     json::ReadError error;
     if (!json::ReadText(json::Member(item, kMethod), name, error)) {
         json::RefuseUnder(kMethod, error);
-        json::LogReadFailure("LPCRequestData", error);
+        json::LogReadFailure("LPCRequestData", item, error);
         return false;
     }
     const cJSON* const data = json::Member(item, kData);
     if (m_payload && !data) {
-        BASE_ERROR("Failed to cJSON_GetObjectItem([%s]). Error info: [%s].", kData, name.c_str());
+        BASE_ERROR("Failed to cJSON_GetObjectItem([%s]). Error info: [%s].", kData,
+                   LoggableText(json::PrintText(item)).c_str());
         return false;
     }
     if (m_payload && !m_payload->FromJSON(data))

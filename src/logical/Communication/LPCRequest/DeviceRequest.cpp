@@ -1,19 +1,31 @@
 #include "logical/Communication/LPCRequest/DeviceRequest.h"
 
+#include "Base/Error.h"
 #include "CommonMethod/DecryptionComm.h"
 
 namespace video {
 
+namespace {
+
+bool Opened(bool opened)
+{
+    if (!opened)
+        Base::Error::SetLastError(commlayer::kBadAnswer);
+    return opened;
+}
+
+} // namespace
+
 bool CDeviceComm::RequestDevices(protocol::DeviceResponseListData& devices) const
 {
     return commlayer::CGetDevices::request(devices, m_transport) &&
-           comm_method::decryptDeviceResponseList(devices);
+           Opened(comm_method::decryptDeviceResponseList(devices));
 }
 
 bool CDeviceComm::RequestDevice(const std::string& deviceId, protocol::DeviceResponseData& device) const
 {
     return commlayer::CGetDevice::request(deviceId, device, m_transport) &&
-           comm_method::decryptDeviceResponse(device);
+           Opened(comm_method::decryptDeviceResponse(device));
 }
 
 bool CDeviceComm::RequestChannels(const std::string& deviceId,

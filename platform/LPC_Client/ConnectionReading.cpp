@@ -1,0 +1,153 @@
+// What a connection does with the bytes that arrive, and with their end.
+
+#include "LPC_Client/Connection.h"
+
+#include "Base/Log.h"
+
+namespace lpcclient {
+namespace {
+
+InboundItem LossNotification()
+{
+    InboundItem item;
+    item.data.headers = {{"method", "clientDisconnected"}};
+    return item;
+}
+
+} // namespace
+
+// ---- reading ----
+
+void CConnection::ReadNow()
+{
+    const auto room = m_reader.Room();
+    TakeIn(m_socket.Read(room.data(), room.size()));
+}
+
+/// One call into the system instead of two; the system counts the time itself.
+void CConnection::ReadWaiting(std::uint32_t timeoutMs)
+{
+    const auto room = m_reader.Room();
+    TakeIn(m_socket.ReadWaiting(room.data(), room.size(), timeoutMs));
+}
+
+void CConnection::TakeIn(const lpc::IoResult& result)
+{
+    if (result.state == lpc::IoState::Closed)
+        End(true);
+    if (result.state != lpc::IoState::Done)
+        return;
+    m_reader.Commit(result.bytes);
+    HandOut();
+}
+
+void CConnection::HandOut()
+{
+    lpc::WireMessage message;
+    bool good = true;
+    while (good && m_reader.Next(message))
+        good = Dispatch(message);
+    if (good && m_reader.GetFault() == lpc::Fault::None)
+        return;
+    LogFault(good ? m_reader.GetFault() : lpc::Fault::Order);
+    End(true);
+}
+
+bool CConnection::Dispatch(lpc::WireMessage& message)
+{
+    switch (message.kind) {
+    case lpc::Kind::Request:
+    case lpc::Kind::Notification:
+        TakeMessage(message);
+        return true;
+    case lpc::Kind::Answer:
+        TakeAnswer(lpc::kNoError, message);
+        return true;
+    case lpc::Kind::Refusal:
+        TakeAnswer(lpc::RefusalError(message.headers), message);
+        return message.id != 0;
+    default:
+        return false;
+    }
+}
+
+void CConnection::TakeMessage(lpc::WireMessage& message)
+{
+    InboundItem item;
+    item.data = {message.id, std::move(message.headers), std::move(message.body)};
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_ended)
+            return;
+        m_inbound.Push(std::move(item));
+    }
+    if (!OnLibraryThread())
+        m_poller.Wake();
+}
+
+void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    if (Waiter* const waiter = TakeWaiter(message.id)) {
+        waiter->answer = {std::move(message.headers), std::move(message.body)};
+        waiter->error = error;
+        waiter->done = true;
+        if (m_holder != waiter)
+            waiter->turn.notify_one();
+        return;
+    }
+    if (const auto pending = m_pending.find(message.id); pending != m_pending.end()) {
+        InboundItem item{
+            {0, std::move(message.headers), std::move(message.body)}, std::move(pending->second), error};
+        m_pending.erase(pending);
+        m_inbound.Push(std::move(item));
+        lock.unlock();
+        if (!OnLibraryThread())
+            m_poller.Wake();
+        return;
+    }
+    unsigned skipped = 0;
+    if (message.id > m_lastId && m_strayAnswers.Allows(0, skipped))
+        BASE_WARN_TO("VideoLogger", "LPC: dropped an answer to a request that was never sent. [skipped-%u]",
+                     skipped);
+}
+
+// ---- the end ----
+
+void CConnection::Close()
+{
+    m_outbound.Flush();
+    End(false);
+}
+
+void CConnection::End(bool lost)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_ended.exchange(true))
+            return;
+        for (Waiter* const waiter : m_waiters) {
+            waiter->done = true;
+            waiter->error = lpc::kConnectionLost;
+            waiter->turn.notify_one();
+        }
+        m_waiters.clear();
+        for (auto& [id, onAnswer] : m_pending)
+            m_inbound.Push({{}, std::move(onAnswer), lpc::kConnectionLost});
+        m_pending.clear();
+        if (lost)
+            m_inbound.Push(LossNotification());
+    }
+    m_watch.Stop();
+    m_outbound.Break();
+    m_poller.Wake();
+    if (lost)
+        BASE_WARN_TO("VideoLogger", "LPC: the connection to the server was lost.");
+}
+
+void CConnection::LogFault(lpc::Fault fault)
+{
+    BASE_ERROR_TO("VideoLogger", "LPC: the server sent what is not understood: %s.", lpc::FaultText(fault));
+}
+
+} // namespace lpcclient
