@@ -153,7 +153,6 @@ int main(int argc, char** argv)
     const Rounds rounds = quick ? Rounds{1000, 1000, 30} : Rounds{10000, 10000, 300};
     const std::string root = Base::FileUtil::UserDataRoot() + "bench-" + Base::GuidUtil::CreateGuid() + "/";
     RunKind("plain", "", root, rounds);
-    RunKind("keyed", Base::Encrypt::ToHex(Base::Encrypt::RandomBytes(Base::Encrypt::kKeyBytes)), root,
-            rounds);
+    RunKind("keyed", Base::Encrypt::RandomKeyText(), root, rounds);
     return 0;
 }

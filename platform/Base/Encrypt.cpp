@@ -4,6 +4,7 @@
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 
+#include <algorithm>
 #include <climits>
 #include <memory>
 #include <mutex>
@@ -28,13 +29,6 @@ Shared& TheShared()
 {
     static Shared* const instance = new Shared();
     return *instance;
-}
-
-void WipeParams(std::optional<AESParams>& params)
-{
-    if (params)
-        OPENSSL_cleanse(params->key.data(), params->key.size());
-    params.reset();
 }
 
 const unsigned char* Bytes(const std::string& text)
@@ -111,10 +105,14 @@ std::optional<std::string> Decrypt(const AESParams& params, const std::string& b
 
 } // namespace
 
+AESParams::~AESParams()
+{
+    OPENSSL_cleanse(key.data(), key.size());
+}
+
 void SetAESParams(const AESParams& params)
 {
     std::lock_guard<std::mutex> lock(TheShared().mutex);
-    WipeParams(TheShared().params);
     TheShared().params = params;
 }
 
@@ -127,7 +125,7 @@ std::optional<AESParams> GetAESParams()
 void ClearAESParams()
 {
     std::lock_guard<std::mutex> lock(TheShared().mutex);
-    WipeParams(TheShared().params);
+    TheShared().params.reset();
 }
 
 std::string Seal(const AESParams& params, const std::string& plain)
@@ -165,6 +163,20 @@ std::string RandomBytes(std::size_t count)
     std::string bytes(count, '\0');
     Require(RAND_bytes(Bytes(bytes), static_cast<int>(count)) == 1);
     return bytes;
+}
+
+std::string RandomKeyText()
+{
+    std::string bytes = RandomBytes(kKeyBytes);
+    std::string text = ToHex(bytes);
+    Wipe(bytes);
+    return text;
+}
+
+bool IsKeyText(const std::string& text)
+{
+    return text.size() == 2 * kKeyBytes &&
+           std::all_of(text.begin(), text.end(), [](char c) { return HexDigit(c) >= 0; });
 }
 
 std::string ToHex(const std::string& bytes)

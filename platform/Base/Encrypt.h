@@ -13,11 +13,16 @@ constexpr std::size_t kNonceBytes = 12;
 constexpr std::size_t kTagBytes = 16;
 
 /// The process-wide parameters of the data encryption. label is authenticated with every text, so that a text
-/// sealed under one label does not open under another.
+/// sealed under one label does not open under another. The key is wiped with the object.
 struct AESParams
 {
     std::array<std::uint8_t, kKeyBytes> key{};
     std::string label;
+
+    AESParams() = default;
+    AESParams(const AESParams&) = default;
+    AESParams& operator=(const AESParams&) = default;
+    ~AESParams();
 };
 
 /// Installs, reads and removes the process-wide parameters. Any thread.
@@ -33,6 +38,12 @@ std::optional<std::string> Open(const AESParams& params, const std::string& seal
 
 /// count random bytes from the system.
 std::string RandomBytes(std::size_t count);
+
+/// A new random key of kKeyBytes, as hexadecimal digits.
+std::string RandomKeyText();
+
+/// Whether the text is a key of kKeyBytes, as hexadecimal digits.
+bool IsKeyText(const std::string& text);
 
 std::string ToHex(const std::string& bytes);
 /// Nothing for a text of odd length or with another character.

@@ -27,15 +27,14 @@ struct DBCheckImplHelperParams
 /// ran is the file's version, kept in the file itself (PRAGMA user_version).
 ///
 /// - A database that does not exist is made; one of an older version is migrated, each script in a
-/// transaction of its own,
-///   so that a script that fails changes nothing. Before the first script of a database that holds tables, a
-///   copy is kept as "<file>.backup-<version>", encrypted as the database is.
+///   transaction of its own, so that a script that fails changes nothing. Before the first script of a
+///   database that holds tables, a copy is kept as "<file>.backup-<version>", encrypted as the database is.
 /// - A newer or damaged database, or one that the key does not open, is refused and left as it is.
-/// - A name without a folder of scripts belongs to somebody else: its file is not made. If it exists, it must
-/// open.
+/// - A name without a folder of scripts belongs to somebody else: its file is not made. If it exists, it
+///   must open.
 /// - With a key in force (CDataEncryptionMgr), a plain file is first converted: a copy is encrypted, checked
-/// against the
-///   original and then put in its place in one step. Plain "backup" copies beside it are converted too.
+///   against the original and then put in its place in one step. Plain "backup" copies beside it are
+///   converted too.
 ///
 /// What a script may hold is anything but transactions, attached files and pragmas.
 class CDBCheckImplHelper

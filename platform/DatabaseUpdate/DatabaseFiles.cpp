@@ -4,11 +4,18 @@
 
 namespace DatabaseUpdate {
 
+void RemoveJournals(const std::string& path)
+{
+    std::error_code ignored;
+    for (const char* suffix : {"-journal", "-wal", "-shm"})
+        std::filesystem::remove(std::filesystem::u8path(path + suffix), ignored);
+}
+
 void RemoveDatabaseFile(const std::string& path)
 {
     std::error_code ignored;
-    for (const char* suffix : {"", "-journal", "-wal", "-shm"})
-        std::filesystem::remove(std::filesystem::u8path(path + suffix), ignored);
+    std::filesystem::remove(std::filesystem::u8path(path), ignored);
+    RemoveJournals(path);
 }
 
 } // namespace DatabaseUpdate

@@ -87,6 +87,7 @@ void CDatabaseUpdater::TakeDelivered() const
     const std::string delivered = m_params.installPath + m_name;
     if (m_params.installPath.empty() || !fs::is_regular_file(delivered))
         return;
+    RemoveJournals(m_path);
     if (!Base::FileUtil::ReadFile(delivered, content) ||
         !Base::FileUtil::WriteFileAtomically(m_params.dataPath + m_name, content))
         Refuse("the delivered database cannot be copied");
@@ -163,6 +164,7 @@ void CDatabaseUpdater::KeepCopy(CSQLite3Engine& database, int version) const
     try {
         database.CopyTo(unfinished, m_key);
         CSQLite3Engine(unfinished, CSQLite3Engine::Mode::Inspect, m_key).RequireSound();
+        RemoveJournals(copy);
         if (!ReplaceFile(unfinished, copy))
             Refuse("no copy can be kept at " + copy);
     } catch (...) {

@@ -2,7 +2,6 @@
 
 #include "DatabaseUpdate/DatabaseFiles.h"
 #include "Sqlite3DO/SQLite3Engine.h"
-#include "Sqlite3DO/Statement.h"
 
 #include <vector>
 
@@ -68,6 +67,7 @@ void EncryptFile(const std::string& path, const std::string& key)
     RemoveDatabaseFile(copy);
     try {
         WriteEncryptedCopy(path, copy, key);
+        RemoveJournals(path);
         if (!ReplaceFile(copy, path))
             throw CSQLite3Exception(Sqlite3DO::kErrorCantOpen,
                                     "the encrypted copy cannot take the file's place");

@@ -57,6 +57,7 @@ bool CSQLite3Conn::Execute(const std::string& sql)
 
 bool CSQLite3Conn::Execute(const std::string& sql, CSQLite3Recordset& rows)
 {
+    rows = CSQLite3Recordset(); // also when the statement never runs
     return Execute(sql, &rows);
 }
 
@@ -67,20 +68,21 @@ bool CSQLite3Conn::Execute(const std::string& sql, CSQLite3Recordset* rows)
     try {
         m_engine->Run(sql, rows, CSQLite3Engine::Allowed::Statements);
     } catch (...) {
-        m_statementFailed = m_owner != 0;
+        m_mustTakeBack = m_onFailure == OnFailure::TakeAllBack;
         throw;
     }
     return true;
 }
 
-bool CSQLite3Conn::Begin() const
+bool CSQLite3Conn::Begin(OnFailure onFailure) const
 {
     const Lock lock = Enter();
     if (m_owner == ThisThread())
         throw CSQLite3Exception(kErrorMisuse, "this thread's transaction is open already");
     m_engine->Run("BEGIN IMMEDIATE");
     m_owner = ThisThread();
-    m_statementFailed = false;
+    m_onFailure = onFailure;
+    m_mustTakeBack = false;
     return true;
 }
 
@@ -91,7 +93,7 @@ bool CSQLite3Conn::Commit() const
     if (m_owner != ThisThread())
         throw CSQLite3Exception(kErrorMisuse, "this thread has no open transaction");
     try {
-        if (m_statementFailed || !m_engine->InTransaction())
+        if (m_mustTakeBack || !m_engine->InTransaction())
             throw CSQLite3Exception(kErrorAbort,
                                     "a statement of the transaction failed, everything is taken back");
         m_engine->Run("COMMIT");
@@ -101,6 +103,12 @@ bool CSQLite3Conn::Commit() const
     }
     EndTransaction();
     return true;
+}
+
+bool CSQLite3Conn::InTransaction() const
+{
+    const Lock lock(m_mutex);
+    return m_owner == ThisThread();
 }
 
 void CSQLite3Conn::Rollback() const noexcept

@@ -42,15 +42,24 @@ public:
     /// Runs exactly one statement, which must not begin or end a transaction. True, or an exception.
     bool Execute(const std::string& sql);
 
-    /// The same for a query; rows is filled before the call returns.
+    /// The same for a query; rows is filled before the call returns, and empty when it fails.
     bool Execute(const std::string& sql, CSQLite3Recordset& rows);
 
-    /// Starts a transaction that may write. A second Begin by the same thread fails at once (kErrorMisuse).
-    bool Begin() const;
+    /// What a statement that fails does to the transaction that it is part of.
+    enum class OnFailure {
+        TakeAllBack, ///< Commit takes everything back and fails
+        KeepOthers,  ///< the other statements stand
+    };
 
-    /// Ends the calling thread's transaction. When one of its statements failed, or the commit itself does,
+    /// Starts a transaction that may write. A second Begin by the same thread fails at once (kErrorMisuse).
+    bool Begin(OnFailure onFailure = OnFailure::TakeAllBack) const;
+
+    /// Ends the calling thread's transaction. When a failed statement demands it, or the commit itself fails,
     /// everything since Begin is taken back and the call fails.
     bool Commit() const;
+
+    /// Whether the calling thread is between Begin and the end of its transaction.
+    bool InTransaction() const;
 
     /// Takes back the calling thread's transaction; nothing happens when it has none.
     void Rollback() const noexcept;
@@ -72,7 +81,8 @@ private:
     mutable std::condition_variable m_ended;
     std::unique_ptr<CSQLite3Engine> m_engine;
     mutable std::uint64_t m_owner = 0; // the thread of the open transaction; 0: none is open
-    mutable bool m_statementFailed = false;
+    mutable OnFailure m_onFailure = OnFailure::TakeAllBack;
+    mutable bool m_mustTakeBack = false;
 };
 
 /// A transaction from here to the end of the block, taken back unless Commit was reached.

@@ -4,8 +4,6 @@
 
 #include <sqlcipher/sqlite3.h>
 
-#include <algorithm>
-#include <cctype>
 #include <climits>
 #include <cstring>
 #include <filesystem>
@@ -41,7 +39,11 @@ private:
 class RawKey : Base::CNoncopyable
 {
 public:
-    explicit RawKey(const std::string& key) : m_text("x'" + key + "'") {}
+    explicit RawKey(const std::string& key)
+    {
+        m_text.reserve(key.size() + 3); // growing would leave parts of the key behind
+        m_text.append("x'").append(key).append("'");
+    }
     ~RawKey() { Base::Encrypt::Wipe(m_text); }
 
     const char* Data() const { return m_text.data(); }
@@ -120,7 +122,7 @@ CSQLite3Engine::~CSQLite3Engine()
 
 void CSQLite3Engine::SetKey(const std::string& key)
 {
-    if (!IsKeyText(key))
+    if (!Base::Encrypt::IsKeyText(key))
         throw CSQLite3Exception(kErrorMisuse, "the database key is not of 64 hexadecimal digits");
     // A plain engine takes any key without a word and writes the file unencrypted.
     CSQLite3Recordset version;
@@ -295,12 +297,6 @@ bool IsPlainDatabase(const std::string& path)
     std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
     char header[sizeof kPlainHeader] = {};
     return file.read(header, sizeof header) && std::memcmp(header, kPlainHeader, sizeof header) == 0;
-}
-
-bool IsKeyText(const std::string& key)
-{
-    return key.size() == 2 * Base::Encrypt::kKeyBytes &&
-           std::all_of(key.begin(), key.end(), [](unsigned char c) { return std::isxdigit(c) != 0; });
 }
 
 } // namespace Sqlite3DO

@@ -22,7 +22,7 @@ class CSQLite3Engine : Base::CNoncopyable
 {
 public:
     enum class Mode {
-        Inspect,    ///< the file must exist, and nothing in it is changed by opening it
+        Inspect,    ///< the file must exist; opening it changes nothing but what a crash left in its log
         Existing,   ///< the file must exist
         Create,     ///< a file that does not exist is made
         CreateCopy, ///< the same with a roll-back journal, so that it is one whole file at any time
@@ -83,8 +83,5 @@ private:
 
 /// Whether the file begins as an unencrypted database does.
 bool IsPlainDatabase(const std::string& path);
-
-/// Whether the text has the form of a raw key: 64 hexadecimal digits.
-bool IsKeyText(const std::string& key);
 
 } // namespace Sqlite3DO

@@ -19,13 +19,13 @@ std::string Quoted(std::string_view text)
     return quoted;
 }
 
-std::optional<std::string> FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
+std::string FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
 {
     std::string buffer(size, '\0');
     const int length = std::vsnprintf(buffer.data(), size, format, arguments);
     if (length < 0 || static_cast<std::size_t>(length) >= size) {
         BASE_ERROR("The statement does not fit, needed: [%d], room: [%zu].", length, size);
-        return std::nullopt;
+        return std::string();
     }
     buffer.resize(static_cast<std::size_t>(length));
     return buffer;

@@ -2,13 +2,13 @@
 
 #include <cstdarg>
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
 /// How statement texts are formed: values are placed by one bounded formatter, text values after Quoted.
 ///
-///     FormatStatement<500>("DELETE FROM VideoFile WHERE FilePath = '%s'", Quoted(path).c_str())
+///     conn.Execute(FormatStatement<500>("DELETE FROM VideoFile WHERE FilePath = '%s'",
+///     Quoted(path).c_str()))
 namespace Sqlite3DO {
 
 /// The text with every "'" doubled, to stand between two "'". A zero byte, which no statement can hold,
@@ -16,17 +16,18 @@ namespace Sqlite3DO {
 std::string Quoted(std::string_view text);
 
 /// FormatStatement with the size as an argument.
-std::optional<std::string> FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
+std::string FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
     __attribute__((format(printf, 2, 0)));
 
 /// printf into a buffer of Size bytes, the closing zero byte included. A statement that does not fit gives
-/// one error line and nothing, so that a statement cut short is never executed.
+/// one error line and an empty text, whose execution fails as that of any bad statement does: one cut short
+/// is never executed.
 template<std::size_t Size>
-__attribute__((format(printf, 1, 2))) std::optional<std::string> FormatStatement(const char* format, ...)
+__attribute__((format(printf, 1, 2))) std::string FormatStatement(const char* format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);
-    auto statement = FormatStatementV(Size, format, arguments);
+    std::string statement = FormatStatementV(Size, format, arguments);
     va_end(arguments);
     return statement;
 }

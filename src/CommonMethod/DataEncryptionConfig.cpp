@@ -62,16 +62,11 @@ std::optional<std::string> SealedText(xmlDoc* document)
     return text ? std::optional<std::string>(reinterpret_cast<const char*>(text.get())) : std::nullopt;
 }
 
-bool IsHexKey(const std::string& text)
-{
-    return text.size() == kKeyDigits && Encrypt::FromHex(text).has_value();
-}
-
 std::optional<Encrypt::AESParams> ParamsOf(const std::string& hexKey, const std::string& label)
 {
-    auto bytes = hexKey.size() == kKeyDigits ? Encrypt::FromHex(hexKey) : std::nullopt;
-    if (!bytes)
+    if (!Encrypt::IsKeyText(hexKey))
         return std::nullopt;
+    auto bytes = Encrypt::FromHex(hexKey);
     Encrypt::AESParams params;
     std::copy(bytes->begin(), bytes->end(), params.key.begin());
     params.label = label;
@@ -81,7 +76,13 @@ std::optional<Encrypt::AESParams> ParamsOf(const std::string& hexKey, const std:
 
 std::string PlainText(const DataEncryption& encryption)
 {
-    return "id=" + encryption.id + "\nkey=" + encryption.databaseKey + "\ndata=" + encryption.dataKey + "\n";
+    std::string text;
+    text.reserve(encryption.id.size() + 2 * kKeyDigits + 16); // growing would leave parts of the keys behind
+    text.append("id=").append(encryption.id);
+    text.append("\nkey=").append(encryption.databaseKey);
+    text.append("\ndata=").append(encryption.dataKey);
+    text.append("\n");
+    return text;
 }
 
 /// Takes the line "name=value" from the front of the text; false when another one stands there.
@@ -101,9 +102,18 @@ std::optional<DataEncryption> FromPlainText(std::string_view text)
     const bool complete = TakeLine(text, "id=", encryption.id) &&
                           TakeLine(text, "key=", encryption.databaseKey) &&
                           TakeLine(text, "data=", encryption.dataKey);
-    if (!complete || !text.empty() || !IsHexKey(encryption.databaseKey) || !IsHexKey(encryption.dataKey))
+    if (!complete || !text.empty() || !Encrypt::IsKeyText(encryption.databaseKey) ||
+        !Encrypt::IsKeyText(encryption.dataKey))
         return std::nullopt;
     return encryption;
+}
+
+void PutAside(const std::string& file)
+{
+    std::error_code error;
+    fs::rename(file, file + ".damaged", error);
+    if (error && error != std::errc::no_such_file_or_directory)
+        BASE_WARN("Failed to put the file [%s] aside, [%s].", file.c_str(), error.message().c_str());
 }
 
 void Delete(const std::string& file)
@@ -141,8 +151,8 @@ DataEncryption CDataEncryptionConfig::Generate()
 {
     DataEncryption encryption;
     encryption.id = Base::GuidUtil::CreateGuid();
-    encryption.databaseKey = Encrypt::ToHex(Encrypt::RandomBytes(Encrypt::kKeyBytes));
-    encryption.dataKey = Encrypt::ToHex(Encrypt::RandomBytes(Encrypt::kKeyBytes));
+    encryption.databaseKey = Encrypt::RandomKeyText();
+    encryption.dataKey = Encrypt::RandomKeyText();
     return encryption;
 }
 
@@ -206,7 +216,7 @@ std::optional<Encrypt::AESParams> CDataEncryptionConfig::ReadSealingKey() const
 
 std::optional<Encrypt::AESParams> CDataEncryptionConfig::MakeSealingKey() const
 {
-    std::string text = Encrypt::ToHex(Encrypt::RandomBytes(Encrypt::kKeyBytes));
+    std::string text = Encrypt::RandomKeyText();
     auto params = ParamsOf(text, kLabel);
     const bool written = Base::FileUtil::WriteFileAtomically(m_keyFile, text);
     Encrypt::Wipe(text);
@@ -237,18 +247,17 @@ bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
     return false;
 }
 
+// The setup file goes last: while it is there, the next start takes the rest up again.
 void CDataEncryptionConfig::Remove() const
 {
-    Delete(m_file);
     Delete(m_keyFile);
+    Delete(m_file);
 }
 
 void CDataEncryptionConfig::SetAside() const
 {
-    std::error_code error;
-    fs::rename(m_file, m_file + ".damaged", error);
-    if (error)
-        BASE_WARN("Failed to put the file [%s] aside, [%s].", m_file.c_str(), error.message().c_str());
+    PutAside(m_keyFile);
+    PutAside(m_file);
 }
 
 } // namespace comm_method

@@ -55,7 +55,7 @@ public:
     /// Deletes the setup file and its sealing key.
     void Remove() const;
 
-    /// Puts a setup file that cannot be read aside, as "<file>.damaged".
+    /// Puts a setup that cannot be read aside, its two files as "<file>.damaged".
     void SetAside() const;
 
 private:

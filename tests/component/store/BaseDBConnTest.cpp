@@ -1,10 +1,12 @@
 #include "CommonMethodLib/UserDataPath.h"
+#include "Sqlite3DO/Statement.h"
 #include "StoreWorld.h"
 #include "logical/Local/DatabaseSession/VideoSystemDB.h"
 #include "support/CapturedLog.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <future>
 
 using Sqlite3DO::CSQLite3Recordset;
@@ -49,6 +51,19 @@ TEST_F(BaseDBConn, LogsOneFatalLineForABadStatementAndWorksOn)
     EXPECT_FALSE(conn.Execute("SELECT missing FROM T", rows));
     EXPECT_FALSE(rows.Next()) << "a failed query has no rows";
     EXPECT_EQ(log.Lines().size(), 2u);
+}
+
+TEST_F(BaseDBConn, LogsOneFatalLineForAStatementThatDoesNotFitAndChangesNothing)
+{
+    CBaseDBConn conn(m_root.Path(), "VideoSystem");
+    conn.Execute("CREATE TABLE T (n)");
+    conn.Execute("INSERT INTO T VALUES (1)");
+    const CapturedLog log;
+    const char* const format = "UPDATE T SET n = 2 WHERE n = '%s'";
+    EXPECT_FALSE(conn.Execute(Sqlite3DO::FormatStatement<20>(format, "no such row")));
+    EXPECT_EQ(Fatal(log), std::vector<std::string>{
+                              "data base error, error code: 21, error message: the text holds no statement"});
+    EXPECT_EQ(store::Query(m_root.Path() + "VideoSystem", "", "SELECT n FROM T"), "1");
 }
 
 TEST_F(BaseDBConn, LogsEveryUseOfADatabaseThatDidNotOpen)
@@ -103,6 +118,50 @@ TEST_F(BaseDBConn, SaysAtCommitThatABracketedSaveFailed)
     EXPECT_FALSE(conn.Commit());
     EXPECT_EQ(Fatal(log).size(), 2u);
     EXPECT_EQ(store::Query(m_root.Path() + "VideoSystem", "", "SELECT n FROM T"), "1");
+}
+
+TEST_F(BaseDBConn, ShowsNobodyAStateBetweenStatementsThatBelongTogether)
+{
+    CBaseDBConn conn(m_root.Path(), "VideoSystem");
+    conn.Execute("CREATE TABLE T (n)");
+    conn.Execute("INSERT INTO T VALUES (1)");
+    std::atomic<bool> done{false};
+    auto reader = std::async(std::launch::async, [&] {
+        CBaseDBConn other(m_root.Path(), "VideoSystem");
+        CSQLite3Recordset rows;
+        bool whole = true;
+        do {
+            whole = other.Execute("SELECT n FROM T", rows) && rows.RowCount() == 1 && whole;
+        } while (!done);
+        return whole;
+    });
+    bool worked = true;
+    for (int round = 0; round < 200; ++round)
+        worked = conn.ExecuteTogether({"DELETE FROM T", "INSERT INTO T VALUES (2)"}) && worked;
+    done = true;
+    EXPECT_TRUE(worked);
+    EXPECT_TRUE(reader.get()) << "a kill at that moment would have left the table empty";
+}
+
+TEST_F(BaseDBConn, KeepsTheOthersOfStatementsThatBelongTogetherWhenOneFails)
+{
+    const std::string path = m_root.Path() + "VideoSystem";
+    CBaseDBConn conn(m_root.Path(), "VideoSystem");
+    conn.Execute("CREATE TABLE T (n)");
+    conn.Execute("INSERT INTO T VALUES (1)");
+    conn.Execute("CREATE TRIGGER Kept BEFORE DELETE ON T BEGIN SELECT RAISE(ABORT, 'kept'); END");
+    const std::vector<std::string> save{"DELETE FROM T", "INSERT INTO T VALUES (2)"};
+    const CapturedLog log;
+    EXPECT_FALSE(conn.ExecuteTogether(save));
+    EXPECT_EQ(Fatal(log), std::vector<std::string>{"data base error, error code: 19, error message: kept"});
+    EXPECT_EQ(store::Query(path, "", "SELECT n FROM T"), "1 2");
+
+    EXPECT_TRUE(conn.Begin());
+    EXPECT_FALSE(conn.ExecuteTogether(save));
+    EXPECT_FALSE(conn.Commit()) << "in a bracket the bracket's rule holds";
+    EXPECT_EQ(store::Query(path, "", "SELECT n FROM T"), "1 2");
+    EXPECT_TRUE(conn.ExecuteTogether({"INSERT INTO T VALUES (3)"}));
+    EXPECT_EQ(store::Query(path, "", "SELECT n FROM T"), "1 2 3");
 }
 
 TEST_F(BaseDBConn, IsOneForAllThreadsAndLiesInTheComponentsFolder)

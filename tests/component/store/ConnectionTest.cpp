@@ -180,8 +180,11 @@ TEST_F(Connection, GivesUpWaitingForATransactionThatDoesNotEnd)
 {
     CSQLite3Conn impatient(20ms);
     impatient.Open(Path(), false, "");
+    CSQLite3Recordset rows;
+    impatient.Execute("SELECT 'of the query before'", rows);
     std::thread([&] { impatient.Begin(); }).join();
-    EXPECT_EQ(ErrorOf([&] { impatient.Execute("SELECT 1"); }), kErrorBusy);
+    EXPECT_EQ(ErrorOf([&] { impatient.Execute("SELECT 1", rows); }), kErrorBusy);
+    EXPECT_FALSE(rows.Next()) << "a failed query has no rows";
     EXPECT_EQ(ErrorOf([&] { impatient.Begin(); }), kErrorBusy);
     EXPECT_EQ(ErrorOf([&] { m_conn.Execute("SELECT 1"); }), 0) << "another connection reads on";
 }

@@ -49,7 +49,7 @@ TEST_F(DataEncryptionConfig, GeneratesDifferentKeysEachTime)
 {
     const DataEncryption one = CDataEncryptionConfig::Generate();
     const DataEncryption two = CDataEncryptionConfig::Generate();
-    EXPECT_TRUE(Sqlite3DO::IsKeyText(one.databaseKey));
+    EXPECT_TRUE(Base::Encrypt::IsKeyText(one.databaseKey));
     EXPECT_NE(one.databaseKey, one.dataKey);
     EXPECT_NE(one.databaseKey, two.databaseKey);
     EXPECT_NE(one.dataKey, two.dataKey);

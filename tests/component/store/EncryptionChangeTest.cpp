@@ -124,12 +124,17 @@ TEST_F(EncryptionChange, ConvertsTheKeptCopiesToo)
 {
     MakeWithRow("");
     std::filesystem::copy_file(Path(), Path() + ".backup-0");
+    // A conversion of it was killed before.
+    Sqlite3DO::CSQLite3Engine(Path() + ".backup-0", Sqlite3DO::CSQLite3Engine::Mode::Inspect, "")
+        .Run("PRAGMA journal_mode = DELETE");
+    store::WriteAll(Path() + ".backup-0-journal", std::string(512, '\0'));
     store::WriteAll(Path() + ".backup-9", std::string("SQLite format 3\0", 16) + "damaged");
     UseKey(kKey);
     const CapturedLog log;
     ASSERT_TRUE(Update()) << "a damaged copy must not stop it: " << m_message;
     EXPECT_EQ(store::Query(Path() + ".backup-0", kKey, "SELECT s FROM T"), "a readable row");
     EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 1u);
+    EXPECT_FALSE(store::Exists(Path() + ".backup-0-journal"));
 }
 
 TEST_F(EncryptionChange, RefusesAnEncryptedFileWithoutItsKeyAndDestroysNothing)

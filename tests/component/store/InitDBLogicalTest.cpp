@@ -176,7 +176,7 @@ TEST_F(InitDBLogical, ExPrefersTheFrameworksOwnSetup)
     const CapturedLog log;
     ASSERT_TRUE(InitEx());
     EXPECT_EQ(store::ReadAll(Root() + kFramework), before);
-    const std::vector<std::string> deleted{"ClientDESetup.xml", "ClientDESetup.key"};
+    const std::vector<std::string> deleted{"ClientDESetup.key", "ClientDESetup.xml"};
     EXPECT_EQ(Deleted(log), deleted);
     EXPECT_EQ(store::Query(Database(), encryption.databaseKey, "PRAGMA user_version"), "1");
 }
@@ -206,12 +206,17 @@ TEST_F(InitDBLogical, ExAlsoProvesDatabasesThatItDoesNotMaintain)
     EXPECT_TRUE(Deleted(log).empty());
 }
 
-TEST_F(InitDBLogical, ExKeepsADamagedFrameworkSetupAside)
+TEST_F(InitDBLogical, ExKeepsADamagedFrameworkSetupAsideWithItsSealingKey)
 {
+    const std::string keyFile = Root() + "Framework.C/DESetup.key";
+    Setup(kFramework);
+    const std::string setup = store::ReadAll(Root() + kFramework);
+    const std::string key = store::ReadAll(keyFile);
     Setup(kOlder[2]);
-    store::WriteAll(Root() + kFramework, "damaged");
+    store::WriteAll(keyFile, key + "\n"); // as an editor leaves it
     ASSERT_TRUE(InitEx());
-    EXPECT_EQ(store::ReadAll(Root() + kFramework + ".damaged"), "damaged");
+    EXPECT_EQ(store::ReadAll(Root() + kFramework + ".damaged"), setup);
+    EXPECT_EQ(store::ReadAll(keyFile + ".damaged"), key + "\n");
     EXPECT_TRUE(CDataEncryptionConfig(Root() + kFramework).Read());
     EXPECT_FALSE(store::Exists(Root() + kOlder[2]));
 }

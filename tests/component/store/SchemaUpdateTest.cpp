@@ -114,6 +114,19 @@ TEST_P(SchemaUpdate, CopiesWhatStillLiesInTheLogOfACrashedProgram)
     EXPECT_EQ(Query("SELECT n FROM T"), "11 17");
 }
 
+TEST_P(SchemaUpdate, AppliesNoOlderLogToTheCopyItKeeps)
+{
+    Script("0001_first.sql", kFirst);
+    ASSERT_TRUE(Update()) << m_message;
+    const std::string copy = Path() + ".backup-1";
+    std::filesystem::copy_file(Path(), copy);
+    const std::string log = store::CrashLog(copy, Key(), "DELETE FROM T");
+    store::WriteAll(copy + "-wal", log);
+    Script("0002_second.sql", kSecond);
+    ASSERT_TRUE(Update()) << m_message;
+    EXPECT_EQ(store::Query(copy, Key(), "SELECT n FROM T"), "1");
+}
+
 TEST_P(SchemaUpdate, LeavesACurrentDatabaseAsItIs)
 {
     Script("0001_first.sql", kFirst);
@@ -249,6 +262,19 @@ TEST_P(SchemaUpdate, StartsFromADeliveredDatabase)
     ASSERT_TRUE(Update()) << m_message;
     EXPECT_EQ(Query("SELECT n FROM T"), "110");
     EXPECT_EQ(Sqlite3DO::IsPlainDatabase(Path()), Key().empty());
+}
+
+TEST_P(SchemaUpdate, AppliesNoLogOfALostDatabaseToTheDeliveredOne)
+{
+    Script("0001_first.sql", kFirst);
+    ASSERT_TRUE(Update()) << m_message;
+    const std::string log = store::CrashLog(Path(), Key(), "DELETE FROM T");
+    std::filesystem::remove(Path());
+    store::WriteAll(Path() + "-wal", log);
+    store::Write(m_params.installPath + "VideoSystem", "", "CREATE TABLE T (n); INSERT INTO T VALUES (100)",
+                 1);
+    ASSERT_TRUE(Update()) << m_message;
+    EXPECT_EQ(Query("SELECT n FROM T"), "100");
 }
 
 TEST_P(SchemaUpdate, WorksInAFolderOutsideAscii)

@@ -53,6 +53,15 @@ inline void Write(const std::string& path, const std::string& key, const std::st
         database.Run("PRAGMA user_version = " + std::to_string(version));
 }
 
+/// The write-ahead log that a program would leave which crashed after running a statement in the file; the
+/// file itself is then closed in order.
+inline std::string CrashLog(const std::string& path, const std::string& key, const std::string& sql)
+{
+    Sqlite3DO::CSQLite3Engine crashed(path, Sqlite3DO::CSQLite3Engine::Mode::Existing, key);
+    crashed.Run(sql);
+    return ReadAll(path + "-wal");
+}
+
 /// The first column of every row, joined by blanks.
 inline std::string Query(const std::string& path, const std::string& key, const std::string& sql)
 {

@@ -84,3 +84,14 @@ TEST(Hex, ReadsBothCasesAndRefusesEverythingElse)
     for (const char* text : {"0", "0g", " 00", "0x00"})
         EXPECT_FALSE(Encrypt::FromHex(text)) << text;
 }
+
+TEST(KeyText, IsAKeyInHexadecimalDigitsAndNothingElse)
+{
+    const std::string key = Encrypt::RandomKeyText();
+    EXPECT_TRUE(Encrypt::IsKeyText(key));
+    EXPECT_NE(key, Encrypt::RandomKeyText());
+    EXPECT_TRUE(Encrypt::IsKeyText(std::string(32, 'a') + std::string(32, 'F')));
+    for (const std::string& text : {std::string(), key.substr(1), key + "0", key.substr(1) + "g",
+                                    key.substr(1) + " ", key.substr(1) + std::string(1, '\0')})
+        EXPECT_FALSE(Encrypt::IsKeyText(text)) << text;
+}

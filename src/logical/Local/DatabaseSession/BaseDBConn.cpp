@@ -55,6 +55,18 @@ bool CBaseDBConn::Execute(const std::string& sql, Sqlite3DO::CSQLite3Recordset& 
     return Guarded(DB_LOCATION, [&] { return m_connection.Execute(sql, rows); });
 }
 
+bool CBaseDBConn::ExecuteTogether(const std::vector<std::string>& statements)
+{
+    using OnFailure = Sqlite3DO::CSQLite3Conn::OnFailure;
+    const bool bracketed = m_connection.InTransaction();
+    if (!bracketed && !Guarded(DB_LOCATION, [&] { return m_connection.Begin(OnFailure::KeepOthers); }))
+        return false;
+    bool worked = true;
+    for (const std::string& sql : statements)
+        worked = Execute(sql) && worked;
+    return (bracketed || Commit()) && worked;
+}
+
 bool CBaseDBConn::Begin()
 {
     return Guarded(DB_LOCATION, [&] { return m_connection.Begin(); });

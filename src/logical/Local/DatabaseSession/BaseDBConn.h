@@ -4,6 +4,7 @@
 #include "Sqlite3DO/SQLite3Conn.h"
 
 #include <string>
+#include <vector>
 
 namespace video {
 
@@ -26,6 +27,12 @@ public:
 
     /// Runs a query; rows is empty when it fails.
     bool Execute(const std::string& sql, Sqlite3DO::CSQLite3Recordset& rows);
+
+    /// Runs statements that reach the disk together, even if the process is killed between them; those of
+    /// other threads come before or after. One that fails takes back nothing but itself, and the rest still
+    /// runs. Inside the calling thread's Begin and Commit they are part of that transaction and its rules.
+    /// False when one failed.
+    bool ExecuteTogether(const std::vector<std::string>& statements);
 
     /// Gives the connection to the calling thread until Commit; not reentrant. After a Begin that failed the
     /// statements stand for themselves. CBaseDBTransaction ends the transaction on every path.
