@@ -81,9 +81,14 @@ const AuxiliaryScreenRow* AuxiliaryScreenOf(const std::string& view)
 }
 
 /// For a slot whose page this edition does not have.
+void LogNotServed(const char* method)
+{
+    BASE_INFO("[%s] is not served.", method);
+}
+
 void LogNotServed(const LPCCallBackData& data)
 {
-    BASE_INFO("[%s] is not served.", data.Header(kMethodHeader).c_str());
+    LogNotServed(data.Header(kMethodHeader).c_str());
 }
 
 } // namespace
@@ -108,6 +113,8 @@ void CSignalTransmit::ConnectAll()
 {
     for (const MethodRow& row : kMethods)
         connect(this, row.signal, this, row.slot);
+    connect(this, &T::SignalTabSwitch, this, [] { LogNotServed("tabSwitch"); });
+    connect(this, &T::SignalStopVoiceTalk, this, [] { LogNotServed("stopVideoVoiceTalk"); });
 }
 
 void CSignalTransmit::ServeMethods(CRouteTable& methods)
@@ -186,7 +193,10 @@ void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
 
 void CSignalTransmit::OnSignalSetMainViewStateProgress(const LPCCallBackData& data)
 {
-    LogNotServed(data);
+    protocol::MainViewState state;
+    protocol::LPCRequestData envelope(state);
+    if (envelope.Parse(data.body))
+        LogNotServed(data);
 }
 
 void CSignalTransmit::OnSingnalShowMenuWnd(const LPCCallBackData& data)

@@ -1,3 +1,4 @@
+#include "Base/AsyncTask.h"
 #include "Base/FileUtil.h"
 #include "Base/Log.h"
 #include "Base/ProcessUtil.h"
@@ -54,7 +55,7 @@ int main(int argc, char* argv[])
     PreparePaths();
     Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
     CrashAPI_PrepareThread();
-    std::future<void> crashSetup = std::async(std::launch::async, video::crashAPIInit);
+    std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
     auto application = std::make_unique<video::CVantorApplication>(kTitle, argc, argv);

@@ -17,7 +17,7 @@ std::string Quoted(std::string_view text);
 
 /// FormatStatement with the size as an argument.
 std::string FormatStatementV(std::size_t size, const char* format, std::va_list arguments)
-    __attribute__((format(printf, 2, 0)));
+    BASE_PRINTF_FORMAT(2, 0);
 
 /// printf into a buffer of Size bytes, the closing zero byte included. A statement that does not fit gives
 /// one error line and an empty text, whose execution fails as that of any bad statement does: one cut short

@@ -1,5 +1,6 @@
 #include "logical/Communication/LPCClientPackage.h"
 
+#include "Base/AsyncTask.h"
 #include "Base/Log.h"
 #include "CommonMethodLib/WorkerPool.h"
 #include "CommunicationLayer/FrameworkRequests.h"
@@ -38,7 +39,7 @@ private:
 
 } // namespace
 
-CLPCClientPackage::CLPCClientPackage(PostTask postTask) : m_postTask(postTask), m_inOrder(std::move(postTask))
+CLPCClientPackage::CLPCClientPackage(PostTask postTask) : m_postTask(postTask), m_inOrder(postTask), m_alarmTasks(std::move(postTask))
 {}
 
 CLPCClientPackage::~CLPCClientPackage() = default;
@@ -71,7 +72,7 @@ void CLPCClientPackage::Init()
     }
     RegisterServedUrls();
     BASE_INFO("alarmRegisteredRet async start.");
-    m_alarmRegistered = std::async(std::launch::async, [this] { RegisterAlarm(); });
+    m_alarmRegistered = Base::RunAsync("alarm-register", [this] { RegisterAlarm(); });
 }
 
 void CLPCClientPackage::UnInit()
@@ -132,6 +133,16 @@ void CLPCClientPackage::RegisterAlarm()
         BASE_INFO("Register alarm success.");
     else
         BASE_ERROR_TO(kLogger, "Failed to register alarm.");
+}
+
+void CLPCClientPackage::RegisterAlarmLater()
+{
+    if (m_alarmAsked.exchange(true))
+        return;
+    m_alarmTasks.PostTask([this] {
+        m_alarmAsked = false;
+        RegisterAlarm();
+    });
 }
 
 bool CLPCClientPackage::OnInvoke(const lpcclient::LPCCallBackData& data)

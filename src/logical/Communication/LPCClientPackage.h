@@ -5,6 +5,7 @@
 #include "Protocol/JSONStruct/IJSONStruct.h"
 #include "logical/Communication/LPCDispatcher.h"
 
+#include <atomic>
 #include <future>
 #include <string>
 
@@ -57,6 +58,9 @@ public:
     /// Registers for the framework's alarms; waits for the answer.
     void RegisterAlarm();
 
+    /// The same on a pool thread. One registration is under way at a time; what is asked for meanwhile is one more.
+    void RegisterAlarmLater();
+
 private:
     bool OnInvoke(const lpcclient::LPCCallBackData& data);
     void RegisterServedUrls();
@@ -65,6 +69,8 @@ private:
     Base::CSerialTasks m_inOrder; ///< methods and websocket notifications; "http" requests run side by side
     CLPCDispatcher m_dispatcher;
     std::vector<std::string> m_servedUrls;
+    Base::CSerialTasks m_alarmTasks;
+    std::atomic<bool> m_alarmAsked{false};
     std::future<void> m_alarmRegistered;
 };
 

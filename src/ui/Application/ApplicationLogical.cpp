@@ -1,5 +1,6 @@
 // The application's logical libraries and its link: their start, and the whole of the shut-down.
 
+#include "Base/AsyncTask.h"
 #include "Base/FileUtil.h"
 #include "Base/Log.h"
 #include "Base/MessageLoop.h"
@@ -40,7 +41,7 @@ constexpr int kThreadPoolWaitMs = 5000;
 std::future<void> StartMultimediaComm()
 {
     BASE_INFO("fInitMultimediaComm async start.");
-    return std::async(std::launch::async, [] {
+    return Base::RunAsync("multimedia", [] {
         multimediacomm::Init();
         BASE_INFO("InitMultimediaComm Success.");
     });
@@ -49,7 +50,7 @@ std::future<void> StartMultimediaComm()
 std::future<void> StartCloudP2PManager()
 {
     BASE_INFO("fInitCloudP2PManager async start.");
-    return std::async(std::launch::async, [] {
+    return Base::RunAsync("cloud", [] {
         auto& cloud = cloudreport::CCloudP2PManager::Instance();
         cloud.loadConfig(Base::FileUtil::GetCurExeDir());
         cloud.init();
@@ -84,6 +85,7 @@ void CVantorApplication::InitManager()
     });
     ServeAllRoutes(CLPCClientPackage::Instance(), CSignalTransmit::Instance());
     RegisterForNotifications();
+    UiDataController::CSystemStatusMonitor::Instance().beginWatch();
     BASE_INFO("InitManager Success.");
 }
 

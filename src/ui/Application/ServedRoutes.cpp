@@ -1,7 +1,6 @@
 #include "ui/Application/ServedRoutes.h"
 
 #include "ClientCommonLogical/NotifyCenterManager.h"
-#include "CommonMethodLib/WorkerPool.h"
 #include "SignalTransmit.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
@@ -24,9 +23,7 @@ void ServeLinkMethods(CLPCClientPackage& link)
     CRouteTable& methods = link.Dispatcher().Methods();
     methods.Bind("hideShadeFrame", [](const lpcclient::LPCCallBackData&) {});
     // The registration waits for its answer; the methods behind it in the queue do not wait with it.
-    methods.Bind("notifyRegisterAlarm", [&link](const lpcclient::LPCCallBackData&) {
-        comm_methodlib::CWorkerPool::Instance().PostTask([&link] { link.RegisterAlarm(); });
-    });
+    methods.Bind("notifyRegisterAlarm", [&link](const lpcclient::LPCCallBackData&) { link.RegisterAlarmLater(); });
 }
 
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)

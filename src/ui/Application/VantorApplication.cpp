@@ -1,5 +1,6 @@
 #include "ui/Application/VantorApplication.h"
 
+#include "Base/AsyncTask.h"
 #include "Base/FileUtil.h"
 #include "Base/Log.h"
 #include "Base/StringUtil.h"
@@ -86,7 +87,7 @@ void CVantorApplication::InitSysParameter(int argc, char** argv)
     const int versionType = fields.value(2).toInt();
 
     BASE_INFO("fInitReportManager async start");
-    m_fInitReportManager = std::async(std::launch::async, [texts = ToTexts(fields)] {
+    m_fInitReportManager = Base::RunAsync("report-manager", [texts = ToTexts(fields)] {
         cloudreport::CReportManager::Instance().init(texts);
     });
     CVantorApplicationManager::Instance().SetStartParameters(m_skin, language, versionType);
@@ -121,7 +122,7 @@ bool CVantorApplication::Init()
 
 std::future<bool> CVantorApplication::StartDatabase()
 {
-    return std::async(std::launch::async, [] {
+    return Base::RunAsync("database", [] {
         const bool ready = comm_method::initComponentDBLogical(
             {"MainView", "PlayBack", "VideoSystem", "VideoClient"}, {{"VideoClient", "Video", "Video.S"}});
         if (ready)
@@ -167,7 +168,7 @@ void CVantorApplication::LoadLook()
 void CVantorApplication::StartWinIDAndSystemManager()
 {
     BASE_INFO("m_fInitWinIDAndSystemManager async start.");
-    m_fInitWinIDAndSystemManager = std::async(std::launch::async, [] {
+    m_fInitWinIDAndSystemManager = Base::RunAsync("windows", [] {
                                        CWndIdManager::Instance().Init();
                                        BASE_INFO("CWndIdManager init end");
                                        CVideoSystemManager::Instance().Init();
