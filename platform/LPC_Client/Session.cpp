@@ -20,10 +20,15 @@ CSession::CSession(std::string name, bool traceTraffic)
     : m_name(std::move(name)), m_traceTraffic(traceTraffic), m_inbound([this](RequestId id) { Refuse(id); })
 {}
 
-void CSession::Start()
+bool CSession::Start()
 {
+    if (const std::string why = m_poller.Failure(); !why.empty()) {
+        BASE_ERROR_TO("VideoLogger", "LPC: the client cannot start: %s.", why.c_str());
+        return false;
+    }
     std::lock_guard<std::mutex> lock(m_mutex);
     m_thread = std::thread([self = shared_from_this()] { self->Run(); });
+    return true;
 }
 
 void CSession::Stop()

@@ -14,7 +14,8 @@ class CSession : public std::enable_shared_from_this<CSession>
 public:
     CSession(std::string name, bool traceTraffic);
 
-    void Start();
+    /// False, with a line in the log, when the system has no handles left.
+    bool Start();
 
     /// Ends connection and thread; waits for the thread unless called on it.
     void Stop();
