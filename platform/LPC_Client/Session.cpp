@@ -33,6 +33,10 @@ bool CSession::Start()
 
 void CSession::Stop()
 {
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_ending = true;
+    }
     Disconnect();
     m_stop = true;
     m_poller.Wake();
@@ -110,7 +114,7 @@ int CSession::Connect(const std::string& serverName)
     std::shared_ptr<CConnection> connection;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_stop)
+        if (m_ending)
             return lpc::kNotInitialised;
         connection = std::make_shared<CConnection>(std::move(socket), std::move(reader), m_inbound, m_poller,
                                                    ++m_key, m_lastId);

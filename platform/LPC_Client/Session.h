@@ -52,6 +52,7 @@ private:
     mutable std::mutex m_mutex;
     std::shared_ptr<CConnection> m_connection;
     std::uint64_t m_key = 0;
+    bool m_ending = false; ///< no connection is made any more
 };
 
 } // namespace lpcclient
