@@ -75,6 +75,9 @@ int CConnection::Exchange(RequestId id, const lpc::Message& request, std::uint32
     const lpc::CFrameSet frames(lpc::Kind::Request, id, request.headers, request.body);
     if (frames.Error() != lpc::kNoError)
         return frames.Error();
+    // On the library's own thread nobody would ever make room.
+    if (OnLibraryThread() && IsHeldBack())
+        return lpc::kTryAgain;
 
     Waiter self;
     self.id = id;
@@ -128,7 +131,7 @@ CConnection::Waiter* CConnection::TakeWaiter(RequestId id)
 
 /// Stays until the request is written, reading meanwhile if it has the role: two ends that only write would
 /// wait for each other.
-int CConnection::WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::TimePoint deadline,
+int CConnection::WriteRequest(const lpc::CFrameSet& frames, const Waiter& self, lpc::TimePoint deadline,
                               bool& waited)
 {
     lpc::COutbound::Ticket ticket = 0;
@@ -136,11 +139,17 @@ int CConnection::WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::T
     if (ticket == 0)
         return error;
     waited = true;
-    const bool reads = Holds(self);
-    while (error == lpc::kNoError && m_outbound.IsWaiting(ticket)) {
-        const bool read = reads && !m_inbound.IsFull();
-        const unsigned ready = m_socket.Wait(lpc::kWritable | (read ? lpc::kReadable : 0U), deadline);
-        if (read && (ready & lpc::kReadable))
+    bool reads = Holds(self);
+    while (error == lpc::kNoError && !m_ended && m_outbound.IsWaiting(ticket)) {
+        if (reads && IsHeldBack()) {
+            error = OnLibraryThread() ? lpc::kTryAgain : lpc::kNoError;
+            reads = false;
+            std::lock_guard<std::mutex> lock(m_mutex);
+            Stall();
+            continue;
+        }
+        const unsigned ready = m_socket.Wait(lpc::kWritable | (reads ? lpc::kReadable : 0U), deadline);
+        if (reads && (ready & lpc::kReadable))
             ReadNow();
         if (ready & lpc::kWritable)
             m_outbound.Flush();
@@ -159,11 +168,10 @@ int CConnection::AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimeP
     bool first = firstWaitMs >= kCoarseWaitMs || deadline == lpc::kForever;
     while (!self.done) {
         if (!TakeRole(self)) {
-            Park(self, lock, deadline);
-        } else if (m_inbound.IsFull()) {
-            // On the library's own thread nobody would ever make room.
-            if (OnLibraryThread())
+            if (m_role == Role::Stalled && OnLibraryThread())
                 return lpc::kTryAgain;
+            Park(self, lock, deadline);
+        } else if (IsHeldBack()) {
             Stall();
         } else {
             lock.unlock();
@@ -225,19 +233,22 @@ void CConnection::PassRole()
     m_holder->turn.notify_one();
 }
 
-/// The library's thread is woken because it may have made room just before.
+/// The library's thread is woken because it may have made room just before, and the callers because it may be
+/// among them: then it must go and make room.
 void CConnection::Stall()
 {
     m_role = Role::Stalled;
     m_holder = nullptr;
     m_watch.Read(false);
     m_poller.Wake();
+    for (Waiter* const waiter : m_waiters)
+        waiter->turn.notify_one();
 }
 
 void CConnection::ResumeReading()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_role == Role::Stalled && m_inbound.HasRoom())
+    if (m_role == Role::Stalled && (m_inbound.HasRoom() || m_socket.HasHungUp()))
         PassRole();
 }
 
@@ -255,7 +266,7 @@ void CConnection::ReadAsLibrary()
         std::lock_guard<std::mutex> lock(m_mutex);
         if (m_role != Role::Free)
             return;
-        if (m_inbound.IsFull()) {
+        if (IsHeldBack()) {
             Stall();
             return;
         }

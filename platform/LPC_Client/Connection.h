@@ -21,7 +21,7 @@ namespace lpcclient {
 /// Exactly one thread reads at a time: a caller that waits for an answer reads the socket itself, without any
 /// thread between; the library's thread watches the socket only while no caller reads. The role goes from
 /// hand to hand under m_mutex, so what arrives keeps its order whoever reads it. While the receive queue is
-/// full nobody reads.
+/// full nobody reads, unless the server is gone: then the rest is little, and its end must be seen.
 class CConnection
 {
 public:
@@ -50,7 +50,8 @@ public:
     /// The library's thread: lets reading go on that had stopped because the receive queue was full.
     void ResumeReading();
 
-    /// Ends the connection from this side, without "clientDisconnected".
+    /// Ends the connection from this side, without "clientDisconnected". What waits to be written still
+    /// leaves, within kFarewellMs.
     void Close();
 
 private:
@@ -65,13 +66,14 @@ private:
     };
     enum class Role { Free, Library, Caller, Stalled };
 
-    int WriteRequest(const lpc::CFrameSet& frames, Waiter& self, lpc::TimePoint deadline, bool& waited);
+    int WriteRequest(const lpc::CFrameSet& frames, const Waiter& self, lpc::TimePoint deadline, bool& waited);
     int AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimePoint deadline);
     void Park(Waiter& self, std::unique_lock<std::mutex>& lock, lpc::TimePoint deadline);
     void Enter(Waiter& self);
     void Leave(Waiter& self, std::string&& spareBody);
     Waiter* TakeWaiter(RequestId id);
     bool Holds(const Waiter& self) const;
+    bool IsHeldBack() const { return m_inbound.IsFull() && !m_socket.HasHungUp(); }
 
     bool TakeRole(Waiter& self);
     void PassRole();

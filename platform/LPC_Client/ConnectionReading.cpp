@@ -2,6 +2,8 @@
 
 #include "LPC_Client/Connection.h"
 
+#include "LPC_Wire/Limits.h"
+
 #include "Base/Log.h"
 
 namespace lpcclient {
@@ -116,7 +118,6 @@ void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
 
 void CConnection::Close()
 {
-    m_outbound.Flush();
     End(false);
 }
 
@@ -139,8 +140,10 @@ void CConnection::End(bool lost)
             m_inbound.Push(LossNotification());
     }
     m_watch.Stop();
-    m_outbound.Break();
     m_poller.Wake();
+    if (!lost)
+        m_outbound.FlushUntil(lpc::DeadlineAfter(lpc::kFarewellMs));
+    m_outbound.Break();
     if (lost)
         BASE_WARN_TO("VideoLogger", "LPC: the connection to the server was lost.");
 }

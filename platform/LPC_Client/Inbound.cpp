@@ -7,8 +7,9 @@
 namespace lpcclient {
 namespace {
 
-/// What an item costs beside its texts.
+/// What an item and a header cost beside their texts.
 constexpr std::size_t kItemBytes = 256;
+constexpr std::size_t kHeaderBytes = 96;
 
 } // namespace
 
@@ -16,7 +17,7 @@ std::size_t InboundItem::Bytes() const
 {
     std::size_t bytes = kItemBytes + data.body.size();
     for (const auto& [key, value] : data.headers)
-        bytes += key.size() + value.size();
+        bytes += kHeaderBytes + key.size() + value.size();
     return bytes;
 }
 
@@ -50,6 +51,9 @@ bool CInbound::DeliverOne()
     if (!item)
         return false;
     Deliver(*item, receiver);
+    // What the callbacks hold goes before anybody who waits for the end of the call.
+    item.reset();
+    receiver = {};
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         m_delivering = {};

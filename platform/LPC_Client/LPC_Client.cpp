@@ -50,8 +50,10 @@ bool Init(const std::string& clientName, bool traceTraffic)
     std::lock_guard<std::mutex> lock(client.mutex);
     if (client.session)
         return Report(lpc::kInvalidArgument);
-    client.session = std::make_shared<CSession>(clientName, traceTraffic);
-    client.session->Start();
+    const auto session = std::make_shared<CSession>(clientName, traceTraffic);
+    if (!session->Start())
+        return Report(lpc::kNotInitialised);
+    client.session = session;
     return true;
 }
 

@@ -31,7 +31,8 @@ using InvokeCallBack = std::function<bool(const LPCCallBackData& data, void* use
 using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& answer)>;
 
 /// Gives the client the name under which the server sees it (1 to 128 bytes). traceTraffic writes each
-/// message's headers and size to the log at debug level.
+/// message's headers and size to the log at debug level. Fails with lpc::kNotInitialised when the system has
+/// no handles left.
 [[nodiscard]] bool Init(const std::string& clientName, bool traceTraffic);
 
 /// Connects to the server of that name in this user's data root and exchanges the hello. Waits at most 5
@@ -60,9 +61,10 @@ using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& 
 /// Answers a request that the invoke callback received.
 [[nodiscard]] bool Reply(const tag_LPCReplyData& reply);
 
-/// Closes the connection; waiting SendEx calls fail at once with lpc::kConnectionLost. No
-/// "clientDisconnected" is delivered for it. Succeeds when there is no connection any more. From within the
-/// invoke callback it does not wait for the library's thread.
+/// Closes the connection; waiting SendEx calls fail at once with lpc::kConnectionLost. What was sent before
+/// still leaves; a server that does not read it holds this up, and the caller that reads, for at most 2
+/// seconds. No "clientDisconnected" is delivered for it. Succeeds when there is no connection any more. From
+/// within the invoke callback it does not wait for the library's thread.
 [[nodiscard]] bool DisconnectToServer();
 
 /// Ends the library's thread and forgets the name. Fails with lpc::kNotInitialised when there was no Init.

@@ -20,14 +20,23 @@ CSession::CSession(std::string name, bool traceTraffic)
     : m_name(std::move(name)), m_traceTraffic(traceTraffic), m_inbound([this](RequestId id) { Refuse(id); })
 {}
 
-void CSession::Start()
+bool CSession::Start()
 {
+    if (const std::string why = m_poller.Failure(); !why.empty()) {
+        BASE_ERROR_TO("VideoLogger", "LPC: the client cannot start: %s.", why.c_str());
+        return false;
+    }
     std::lock_guard<std::mutex> lock(m_mutex);
     m_thread = std::thread([self = shared_from_this()] { self->Run(); });
+    return true;
 }
 
 void CSession::Stop()
 {
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_ending = true;
+    }
     Disconnect();
     m_stop = true;
     m_poller.Wake();
@@ -105,7 +114,7 @@ int CSession::Connect(const std::string& serverName)
     std::shared_ptr<CConnection> connection;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_stop)
+        if (m_ending)
             return lpc::kNotInitialised;
         connection = std::make_shared<CConnection>(std::move(socket), std::move(reader), m_inbound, m_poller,
                                                    ++m_key, m_lastId);

@@ -14,7 +14,8 @@ class CSession : public std::enable_shared_from_this<CSession>
 public:
     CSession(std::string name, bool traceTraffic);
 
-    void Start();
+    /// False, with a line in the log, when the system has no handles left.
+    bool Start();
 
     /// Ends connection and thread; waits for the thread unless called on it.
     void Stop();
@@ -51,6 +52,7 @@ private:
     mutable std::mutex m_mutex;
     std::shared_ptr<CConnection> m_connection;
     std::uint64_t m_key = 0;
+    bool m_ending = false; ///< no connection is made any more
 };
 
 } // namespace lpcclient

@@ -60,8 +60,9 @@ public:
     /// that of a living one gives lpc::kCannotListen.
     [[nodiscard]] int Start(const std::string& serverName);
 
-    /// Closes all connections and ends the thread; waiting requests fail with lpc::kConnectionLost. May be
-    /// called again. From within an event the thread ends after that event.
+    /// Closes all connections and ends the thread; waiting requests fail with lpc::kConnectionLost, and what
+    /// a client has not read yet may be lost. May be called again. From within an event the thread ends after
+    /// that event.
     void Stop();
 
     /// While not accepting, connected clients' requests are refused with lpc::kTryAgain. Accepting at the
@@ -76,7 +77,7 @@ public:
     [[nodiscard]] int Reply(ClientId client, const lpc::ReplyData& reply);
 
     /// Sends a request. onAnswer is called exactly once when the result is lpc::kNoError, after timeoutMs
-    /// milliseconds at the latest, and never otherwise.
+    /// milliseconds (0: the end of the connection) at the latest, and never otherwise.
     [[nodiscard]] int Send(ClientId client, const lpc::Message& request, std::uint32_t timeoutMs,
                            AnswerCallBack onAnswer);
 

@@ -14,6 +14,9 @@ namespace {
 constexpr std::uint64_t kListenerKey = 0;
 constexpr std::size_t kEvents = 16;
 
+/// Connections taken in a row before those that stand are served again.
+constexpr int kAcceptInARow = 16;
+
 /// How long no connection is taken after the system gave none, for example because all descriptors are in
 /// use.
 constexpr std::chrono::seconds kAcceptPause{1};
@@ -30,8 +33,8 @@ int CServerLoop::Start(const std::string& serverName)
             return lpc::kInvalidArgument;
         m_thread.join();
     }
-    std::string why;
-    const std::string path = lpc::SocketPath(serverName, why);
+    std::string why = m_poller.Failure();
+    const std::string path = why.empty() ? lpc::SocketPath(serverName, why) : std::string();
     if (path.empty() || !m_listener.Listen(path, why)) {
         BASE_ERROR_TO("VideoLogger", "LPC: cannot listen for [%s]: %s.", serverName.c_str(), why.c_str());
         return lpc::kCannotListen;
@@ -44,11 +47,13 @@ int CServerLoop::Start(const std::string& serverName)
 
 void CServerLoop::Stop()
 {
+    if (OnOwnThread()) {
+        m_stop = true;
+        return;
+    }
+    std::lock_guard<std::mutex> starting(m_starting);
     m_stop = true;
     m_poller.Wake();
-    if (OnOwnThread())
-        return;
-    std::lock_guard<std::mutex> starting(m_starting);
     if (m_thread.joinable())
         m_thread.join();
 }
@@ -79,7 +84,7 @@ void CServerLoop::CloseAll()
 void CServerLoop::OnEvent(const lpc::CPoller::Event& event)
 {
     if (event.key == kListenerKey) {
-        AcceptAll();
+        AcceptSome();
         return;
     }
     if (const ClientPtr client = Find(event.key))
@@ -88,9 +93,9 @@ void CServerLoop::OnEvent(const lpc::CPoller::Event& event)
 
 // ---- new connections ----
 
-void CServerLoop::AcceptAll()
+void CServerLoop::AcceptSome()
 {
-    for (;;) {
+    for (int i = 0; i < kAcceptInARow; ++i) {
         lpc::CLocalSocket socket;
         const lpc::IoState state = m_listener.Accept(socket);
         if (state == lpc::IoState::Done) {
@@ -196,13 +201,14 @@ bool CServerLoop::Greet(const ClientPtr& client, const lpc::WireMessage& message
         CloseFaulty(client, lpc::Fault::Hello);
         return false;
     }
+    // The answer comes first: from the name on, others may send to the client.
+    client->Post(lpc::Kind::HelloAnswer, 0, lpc::HelloAnswerHeaders(), {});
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         client->name = lpc::HelloName(message.headers);
     }
     --m_newcomers;
     client->helloDeadline = lpc::kForever;
-    client->Post(lpc::Kind::HelloAnswer, 0, lpc::HelloAnswerHeaders(), {});
     m_events.OnClientConnected(client->Id(), client->name);
     return true;
 }

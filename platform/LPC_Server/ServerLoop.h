@@ -61,7 +61,7 @@ private:
     void OnEvent(const lpc::CPoller::Event& event);
     void CloseAll();
 
-    void AcceptAll();
+    void AcceptSome();
     void Welcome(lpc::CLocalSocket socket);
     void WatchRoom(lpc::SocketHandle handle, ClientId id, bool watch);
 

@@ -33,4 +33,7 @@ constexpr std::size_t kMaxPendingAnswers = 65536;
 
 constexpr int kConnectTimeoutMs = 5000;
 
+/// How long a client that disconnects goes on writing what waits.
+constexpr int kFarewellMs = 2000;
+
 } // namespace lpc

@@ -20,6 +20,10 @@ inline TimePoint DeadlineAfter(std::uint32_t timeoutMs)
                           : std::chrono::steady_clock::now() + std::chrono::milliseconds(timeoutMs);
 }
 
+/// The time left as the system's polls take it: whole milliseconds, at most an hour, rounded up so that the
+/// deadline has come when the wait ends; -1 is never.
+int MillisecondsUntil(TimePoint deadline);
+
 using SocketHandle = std::intptr_t;
 constexpr SocketHandle kNoSocket = -1;
 
@@ -67,6 +71,9 @@ public:
     /// Waits until one of the wanted Readiness bits, or the end of the connection, holds; 0 when the deadline
     /// came first.
     unsigned Wait(unsigned wanted, TimePoint deadline) const;
+
+    /// Whether the other end is gone, so that nothing more comes than what the system still holds.
+    bool HasHungUp() const;
 
     /// Ends the connection in both directions and wakes everybody who waits for it; the handle stays until
     /// Close.

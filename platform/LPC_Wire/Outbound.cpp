@@ -82,6 +82,15 @@ void COutbound::Flush()
     FlushLocked();
 }
 
+void COutbound::FlushUntil(TimePoint deadline)
+{
+    Flush();
+    while (WaitingSince() != kForever && std::chrono::steady_clock::now() < deadline) {
+        m_socket.Wait(kWritable, deadline);
+        Flush();
+    }
+}
+
 void COutbound::Break()
 {
     std::lock_guard<std::mutex> lock(m_mutex);

@@ -42,6 +42,9 @@ public:
     /// Writes what the socket takes.
     void Flush();
 
+    /// Goes on writing until nothing waits, the deadline comes or the connection breaks.
+    void FlushUntil(TimePoint deadline);
+
     /// Shuts the connection down and drops everything; from now on every Post gives kConnectionLost. Happens
     /// by itself when the socket takes no more for good.
     void Break();

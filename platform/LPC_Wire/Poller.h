@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <string>
 
 namespace lpc {
 
@@ -24,6 +25,9 @@ public:
     ~CPoller();
     CPoller(const CPoller&) = delete;
     CPoller& operator=(const CPoller&) = delete;
+
+    /// Why the system gave no handle to wait with, which makes the object useless; empty when all is well.
+    std::string Failure() const;
 
     /// Watches a socket for the wanted Readiness bits; its events carry the key. With nothing wanted only its
     /// end may be told, once.

@@ -101,6 +101,8 @@ bool CChildProcess::Start(const std::vector<std::string>& command, const std::st
     int pipe[2];
     if ((!outputPath.empty() && output < 0) || pipe2(pipe, O_CLOEXEC) != 0) {
         error = std::strerror(errno);
+        if (output >= 0)
+            close(output);
         return false;
     }
     const pid_t parent = getpid();

@@ -27,6 +27,8 @@ using std::chrono::seconds;
 /// What the system allows at most without privileges; fewer turns between the two ends for long bodies.
 constexpr int kSocketBufferBytes = 1024 * 1024;
 
+constexpr int kEndOfConnection = POLLERR | POLLHUP | POLLNVAL;
+
 std::string Reason(const char* what)
 {
     return std::string(what) + ": " + std::strerror(errno);
@@ -56,6 +58,17 @@ timeval ToTimeval(nanoseconds time)
     timeval value{};
     value.tv_sec = static_cast<time_t>(whole.count());
     value.tv_usec = static_cast<suseconds_t>(duration_cast<microseconds>(time - whole).count());
+    return value;
+}
+
+/// For kForever the result means nothing.
+timespec TimeUntil(TimePoint deadline)
+{
+    const nanoseconds time =
+        std::max<nanoseconds>(deadline - std::chrono::steady_clock::now(), nanoseconds(0));
+    timespec value{};
+    value.tv_sec = static_cast<time_t>(duration_cast<seconds>(time).count());
+    value.tv_nsec = static_cast<long>((time % seconds(1)).count());
     return value;
 }
 
@@ -106,12 +119,18 @@ CLocalSocket CLocalSocket::Connect(const std::string& path, TimePoint deadline, 
         return {};
     }
     CLocalSocket socket(NewSocket());
+    if (!socket.IsValid()) {
+        why = Reason("socket");
+        return {};
+    }
     const int handle = static_cast<int>(socket.Handle());
     const nanoseconds left =
         std::max<nanoseconds>(deadline - std::chrono::steady_clock::now(), std::chrono::milliseconds(1));
     const timeval timeout = ToTimeval(left);
     setsockopt(handle, SOL_SOCKET, SO_SNDTIMEO, &timeout, sizeof timeout);
-    if (connect(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
+    while (connect(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
+        if (errno == EINTR && std::chrono::steady_clock::now() < deadline)
+            continue;
         why = Reason("connect");
         return {};
     }
@@ -161,18 +180,22 @@ unsigned CLocalSocket::Wait(unsigned wanted, TimePoint deadline) const
     pollfd watched{static_cast<int>(m_handle), 0, 0};
     watched.events =
         static_cast<short>(((wanted & kReadable) ? POLLIN : 0) | ((wanted & kWritable) ? POLLOUT : 0));
-    timespec left{};
-    if (deadline != kForever) {
-        const nanoseconds time =
-            std::max<nanoseconds>(deadline - std::chrono::steady_clock::now(), nanoseconds(0));
-        left.tv_sec = static_cast<time_t>(duration_cast<seconds>(time).count());
-        left.tv_nsec = static_cast<long>((time - duration_cast<seconds>(time)).count());
-    }
-    if (ppoll(&watched, 1, deadline == kForever ? nullptr : &left, nullptr) <= 0)
+    int found = 0;
+    do {
+        const timespec left = TimeUntil(deadline);
+        found = ppoll(&watched, 1, deadline == kForever ? nullptr : &left, nullptr);
+    } while (found < 0 && errno == EINTR);
+    if (found <= 0)
         return 0;
-    if ((watched.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0)
+    if ((watched.revents & kEndOfConnection) != 0)
         return wanted;
     return ((watched.revents & POLLIN) ? kReadable : 0U) | ((watched.revents & POLLOUT) ? kWritable : 0U);
+}
+
+bool CLocalSocket::HasHungUp() const
+{
+    pollfd watched{static_cast<int>(m_handle), 0, 0};
+    return poll(&watched, 1, 0) > 0 && (watched.revents & kEndOfConnection) != 0;
 }
 
 void CLocalSocket::Shutdown()
@@ -215,7 +238,7 @@ bool CLocalListener::Listen(const std::string& path, std::string& why)
     unlink(path.c_str());
     m_handle = NewSocket();
     const int handle = static_cast<int>(m_handle);
-    if (bind(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+    if (handle < 0 || bind(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         chmod(path.c_str(), 0600) != 0 || listen(handle, SOMAXCONN) != 0 ||
         fcntl(handle, F_SETFL, O_NONBLOCK) != 0) {
         why = Reason("listen");

@@ -1,6 +1,8 @@
 #include "LPC_Wire/Poller.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 
 #include <sys/epoll.h>
 #include <sys/eventfd.h>
@@ -27,27 +29,20 @@ unsigned ReadyBits(std::uint32_t events)
     return ((events & EPOLLIN) ? kReadable : 0U) | ((events & EPOLLOUT) ? kWritable : 0U);
 }
 
-/// Whole milliseconds, rounded up so that the deadline has come when the wait ends.
-int MillisecondsUntil(TimePoint deadline)
-{
-    using std::chrono::milliseconds;
-    if (deadline == kForever)
-        return -1;
-    const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
-    return static_cast<int>(std::clamp<long long>(left.count(), 0, 3600 * 1000));
-}
-
 } // namespace
 
 struct CPoller::System
 {
-    int epoll = epoll_create1(EPOLL_CLOEXEC);
-    int wake = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    const int epoll = epoll_create1(EPOLL_CLOEXEC);
+    const int wake = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
+    const int error = epoll < 0 || wake < 0 ? errno : 0;
 
     ~System()
     {
-        close(wake);
-        close(epoll);
+        if (wake >= 0)
+            close(wake);
+        if (epoll >= 0)
+            close(epoll);
     }
 
     void Control(int operation, SocketHandle handle, std::uint64_t key, std::uint32_t bits) const
@@ -65,6 +60,12 @@ CPoller::CPoller() : m_system(std::make_unique<System>())
 }
 
 CPoller::~CPoller() = default;
+
+std::string CPoller::Failure() const
+{
+    return m_system->error == 0 ? std::string()
+                                : std::string("no poll handle: ") + std::strerror(m_system->error);
+}
 
 void CPoller::Add(SocketHandle handle, std::uint64_t key, unsigned wanted)
 {

@@ -46,15 +46,6 @@ void SetNonBlocking(SOCKET socket)
     ioctlsocket(socket, FIONBIO, &on);
 }
 
-int MillisecondsUntil(TimePoint deadline)
-{
-    using std::chrono::milliseconds;
-    if (deadline == kForever)
-        return -1;
-    const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
-    return static_cast<int>(std::clamp<long long>(left.count(), 0, 3600 * 1000));
-}
-
 } // namespace
 
 CLocalSocket& CLocalSocket::operator=(CLocalSocket&& other) noexcept
@@ -134,6 +125,13 @@ unsigned CLocalSocket::Wait(unsigned wanted, TimePoint deadline) const
            ((watched.revents & POLLWRNORM) ? kWritable : 0U);
 }
 
+bool CLocalSocket::HasHungUp() const
+{
+    WSAPOLLFD watched{};
+    watched.fd = Socket(m_handle);
+    return WSAPoll(&watched, 1, 0) > 0 && (watched.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0;
+}
+
 void CLocalSocket::Shutdown()
 {
     shutdown(Socket(m_handle), SD_BOTH);
@@ -171,7 +169,8 @@ bool CLocalListener::Listen(const std::string& path, std::string& why)
         return false;
     DeleteFileA(path.c_str());
     m_handle = static_cast<SocketHandle>(socket(AF_UNIX, SOCK_STREAM, 0));
-    if (bind(Socket(m_handle), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
+    if (m_handle == kNoSocket ||
+        bind(Socket(m_handle), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
         listen(Socket(m_handle), SOMAXCONN) != 0) {
         why = Reason("listen");
         Close();

@@ -16,15 +16,6 @@ struct Watched
     unsigned wanted;
 };
 
-int MillisecondsUntil(TimePoint deadline)
-{
-    using std::chrono::milliseconds;
-    if (deadline == kForever)
-        return -1;
-    const auto left = std::chrono::ceil<milliseconds>(deadline - std::chrono::steady_clock::now());
-    return static_cast<int>(std::clamp<long long>(left.count(), 0, 3600 * 1000));
-}
-
 WSAPOLLFD ToPoll(const Watched& watched)
 {
     WSAPOLLFD entry{};
@@ -69,9 +60,13 @@ struct CPoller::System
 
     ~System() { closesocket(wake); }
 
+    /// Begins with another one each time, so that none is passed over when there are more events than asked
+    /// for.
     std::vector<Watched> WithSomethingWanted()
     {
         std::lock_guard<std::mutex> lock(mutex);
+        if (!watched.empty())
+            std::rotate(watched.begin(), watched.begin() + 1, watched.end());
         std::vector<Watched> wanted;
         std::copy_if(watched.begin(), watched.end(), std::back_inserter(wanted),
                      [](const Watched& entry) { return entry.wanted != 0; });
@@ -89,6 +84,11 @@ struct CPoller::System
 CPoller::CPoller() : m_system(std::make_unique<System>()) {}
 
 CPoller::~CPoller() = default;
+
+std::string CPoller::Failure() const
+{
+    return m_system->wake == INVALID_SOCKET ? "no poll handle" : "";
+}
 
 void CPoller::Add(SocketHandle handle, std::uint64_t key, unsigned wanted)
 {

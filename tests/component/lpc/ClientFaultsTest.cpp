@@ -2,6 +2,11 @@
 
 #include <algorithm>
 
+#include <csignal>
+
+#include <pthread.h>
+#include <sys/socket.h>
+
 using namespace std::chrono_literals;
 
 namespace {
@@ -173,6 +178,98 @@ TEST_F(ClientFaults, ACallFromWithinTheReceiverDoesNotWaitForRoomThatOnlyTheRece
         nullptr));
     EXPECT_EQ(std::vector<int>{lpc::kTryAgain}, errors.WaitFor(1));
     EXPECT_EQ(0, SendExError({}, 20000));
+}
+
+/// Whoever found the queue full, the library's thread must not lie down beside it.
+TEST_F(ClientFaults, ACallFromWithinTheReceiverFailsAlsoWhenReadingHadStoppedBefore)
+{
+    RawServer server([](RawPeer& peer) {
+        for (int i = 0; i < 40; ++i)
+            peer.Send(Kind::Notification, 0, {}, std::string(1000000, 'n'));
+        Echo(peer);
+    });
+    Collected<int> errors;
+    const Client client;
+    EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200)); // has read until the queue was full
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData&, void*) {
+            if (errors.Size() == 0)
+                errors.Add(SendExError({}, 10000));
+            return true;
+        },
+        nullptr));
+    EXPECT_EQ(std::vector<int>{lpc::kTryAgain}, errors.WaitFor(1));
+    EXPECT_EQ(0, SendExError({}, 20000));
+}
+
+TEST_F(ClientFaults, TheEndOfTheServerIsSeenThoughTheReceiveQueueIsFull)
+{
+    constexpr int kFull = 17;
+    RawServer server([](RawPeer& peer) {
+        for (int i = 0; i < kFull; ++i)
+            peer.Send(Kind::Notification, 0, {{"n", std::to_string(i)}}, std::string(1000000, 'n'));
+        peer.Send(Kind::Notification, 0, {{"n", std::to_string(kFull)}}, "what the socket still holds");
+        peer.Receive();
+    });
+    const Client client;
+    EXPECT_EQ(lpc::kConnectionLost, SendExError({}, 10000));
+    CollectNumbers();
+    std::vector<std::string> expected = Numbers(kFull + 1);
+    expected.emplace_back("clientDisconnected");
+    EXPECT_EQ(expected, received.WaitFor(expected.size()));
+}
+
+TEST_F(ClientFaults, WhatWasSentBeforeDisconnectingArrivesWhole)
+{
+    const std::string large(20000000, 'x');
+    Collected<std::size_t> arrived;
+    RawServer server([&](RawPeer& peer) {
+        while (const auto message = peer.Receive())
+            arrived.Add(message->body.size());
+    });
+    const Client client;
+    ASSERT_TRUE(lpcclient::Notify({{}, large}));
+    ASSERT_TRUE(lpcclient::DisconnectToServer());
+    EXPECT_EQ(std::vector<std::size_t>{large.size()}, arrived.WaitFor(1));
+}
+
+TEST_F(ClientFaults, DisconnectingDoesNotWaitLongForAServerThatReadsNothing)
+{
+    Once disconnected;
+    RawServer server([&](RawPeer&) { disconnected.Wait(); });
+    const Client client;
+    ASSERT_TRUE(lpcclient::Notify({{}, std::string(20000000, 'x')}));
+    auto waiting = std::async(std::launch::async, [] { return SendExError({}, 0); });
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(lpcclient::DisconnectToServer());
+    EXPECT_LT(std::chrono::steady_clock::now() - start, kLimit / 2);
+    disconnected.Happens();
+    ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
+    EXPECT_NE(0, waiting.get());
+}
+
+/// A signal that some library of the program handles is no time limit.
+TEST(LocalSocket, SignalsDoNotEndAWait)
+{
+    struct sigaction handler
+    {};
+    handler.sa_handler = [](int) {};
+    sigaction(SIGUSR1, &handler, nullptr);
+    int ends[2];
+    ASSERT_EQ(0, socketpair(AF_UNIX, SOCK_STREAM, 0, ends));
+    const lpc::CLocalSocket silent(ends[0]);
+    const lpc::CLocalSocket other(ends[1]);
+    std::atomic<bool> over{false};
+    auto signals = std::async(std::launch::async, [&over, waiting = pthread_self()] {
+        while (!over) {
+            pthread_kill(waiting, SIGUSR1);
+            std::this_thread::yield();
+        }
+    });
+    const auto deadline = std::chrono::steady_clock::now() + 100ms;
+    EXPECT_EQ(0U, silent.Wait(lpc::kReadable, deadline));
+    EXPECT_GE(std::chrono::steady_clock::now(), deadline);
+    over = true;
 }
 
 /// While a caller reads, the library's thread does not watch the socket; it has to take it up again.

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -182,6 +183,55 @@ TEST_F(Loss, ALivingServerKeepsItsNameADeadOnesSocketIsReplaced)
     ASSERT_TRUE(std::filesystem::exists(path));
     EchoServer heir;
     EXPECT_EQ(lpc::kNoError, heir.server.Start("other"));
+}
+
+/// Every descriptor that the process may still have, until the object goes.
+class DescriptorFamine
+{
+public:
+    DescriptorFamine()
+    {
+        getrlimit(RLIMIT_NOFILE, &m_limit);
+        rlimit low = m_limit;
+        low.rlim_cur = 64;
+        setrlimit(RLIMIT_NOFILE, &low);
+        for (int taken = dup(0); taken >= 0; taken = dup(0))
+            m_taken.push_back(taken);
+    }
+    ~DescriptorFamine()
+    {
+        for (const int taken : m_taken)
+            close(taken);
+        setrlimit(RLIMIT_NOFILE, &m_limit);
+    }
+    DescriptorFamine(const DescriptorFamine&) = delete;
+    DescriptorFamine& operator=(const DescriptorFamine&) = delete;
+
+private:
+    rlimit m_limit{};
+    std::vector<int> m_taken;
+};
+
+TEST_F(Loss, WithoutDescriptorsEveryStartFailsWithTheReason)
+{
+    ASSERT_TRUE(lpcclient::Init("client", false));
+    {
+        const DescriptorFamine famine;
+        EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
+        EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
+        EchoServer starved;
+        EXPECT_EQ(lpc::kCannotListen, starved.Start());
+    }
+    EXPECT_TRUE(log.Has("LPC: no connection to [lpc-test-server]: socket: Too many open files."));
+    EXPECT_TRUE(log.Has("LPC: cannot listen for [lpc-test-server]: no poll handle: Too many open files."));
+    ASSERT_TRUE(lpcclient::Uninit());
+    {
+        const DescriptorFamine famine;
+        EXPECT_FALSE(lpcclient::Init("client", false));
+        EXPECT_EQ(lpc::kNotInitialised, lpcclient::GetLPCLastError());
+    }
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    const Client client;
 }
 
 TEST_F(Loss, ServersOfAnotherDataRootAreNotMet)

@@ -21,7 +21,7 @@ public:
 
     /// Passes the message of a client (shown as name) on to the component (0: not connected). A request is
     /// always answered: by the component, or with status 404 (nobody serves it), 503 (not connected), 504 (no
-    /// answer in time) or 502 (connection lost).
+    /// answer in time) or 502 (connection lost, or not taken).
     void Forward(lpcserver::ClientId client, const std::string& name, const lpc::CallBackData& data,
                  lpcserver::ClientId component);
 
