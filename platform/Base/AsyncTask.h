@@ -8,8 +8,8 @@
 
 namespace Base {
 
-/// Runs work on a thread of its own that carries the name (at most 15 bytes are kept). Waiting for the future, or
-/// destroying it, waits for the thread.
+/// Runs work on a thread of its own that carries the name (at most 15 bytes are kept). Waiting for the
+/// future, or destroying it, waits for the thread.
 template<typename Work>
 auto RunAsync(std::string name, Work work)
 {

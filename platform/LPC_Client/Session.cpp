@@ -4,6 +4,7 @@
 #include "LPC_Wire/Limits.h"
 #include "LPC_Wire/SocketName.h"
 
+#include "Base/CredentialName.h"
 #include "Base/Log.h"
 #include "Base/ProcessUtil.h"
 
@@ -258,7 +259,7 @@ void CSession::Trace(const char* what, RequestId id, const HeaderMap& headers, s
         return;
     std::string text;
     for (const auto& [key, value] : headers)
-        text += " [" + key + "-" + value + "]";
+        text += " [" + key + "-" + (Base::IsCredentialName(key) ? "***" : value) + "]";
     BASE_DEBUG("LPC %s %llu%s [%zu bytes]", what, static_cast<unsigned long long>(id), text.c_str(),
                bodyBytes);
 }

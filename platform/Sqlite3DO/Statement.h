@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Base/PrintfFormat.h"
+
 #include <cstdarg>
 #include <cstddef>
 #include <string>
@@ -7,8 +9,7 @@
 
 /// How statement texts are formed: values are placed by one bounded formatter, text values after Quoted.
 ///
-///     conn.Execute(FormatStatement<500>("DELETE FROM VideoFile WHERE FilePath = '%s'",
-///     Quoted(path).c_str()))
+///     conn.Execute(FormatStatement<500>("DELETE FROM VideoFile WHERE ID = '%s'", Quoted(id).c_str()))
 namespace Sqlite3DO {
 
 /// The text with every "'" doubled, to stand between two "'". A zero byte, which no statement can hold,
@@ -23,7 +24,10 @@ std::string FormatStatementV(std::size_t size, const char* format, std::va_list 
 /// one error line and an empty text, whose execution fails as that of any bad statement does: one cut short
 /// is never executed.
 template<std::size_t Size>
-__attribute__((format(printf, 1, 2))) std::string FormatStatement(const char* format, ...)
+std::string FormatStatement(const char* format, ...) BASE_PRINTF_FORMAT(1, 2);
+
+template<std::size_t Size>
+std::string FormatStatement(const char* format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);

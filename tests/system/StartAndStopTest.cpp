@@ -70,7 +70,14 @@ const std::string kQuit = R"({"notify": {"method": "componentUninit"}})"
 TEST(TheComponent, StartsAndEndsInItsOrder)
 {
     ComponentRun run;
-    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    auto framework = std::async(std::launch::async, [&] {
+        return run.Play(kUntilReady + R"({"expect_exit": 0, "within_ms": 60000})");
+    });
+    // Both come from threads of their own; the end is asked for when all is up.
+    EXPECT_TRUE(run.WaitForLog("Register alarm success.", 30));
+    EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
+    run.Terminate();
+    ASSERT_EQ(framework.get(), 0) << run.Output();
     EXPECT_THAT(run.MissingInOrder(Join({kParameters,
                                          kStagesBeforeDatabase,
                                          kStagesAfterDatabase,

@@ -39,7 +39,8 @@ private:
 
 } // namespace
 
-CLPCClientPackage::CLPCClientPackage(PostTask postTask) : m_postTask(postTask), m_inOrder(postTask), m_alarmTasks(std::move(postTask))
+CLPCClientPackage::CLPCClientPackage(PostTask postTask)
+    : m_postTask(postTask), m_inOrder(postTask), m_alarmTasks(std::move(postTask))
 {}
 
 CLPCClientPackage::~CLPCClientPackage() = default;

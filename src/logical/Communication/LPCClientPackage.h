@@ -58,7 +58,8 @@ public:
     /// Registers for the framework's alarms; waits for the answer.
     void RegisterAlarm();
 
-    /// The same on a pool thread. One registration is under way at a time; what is asked for meanwhile is one more.
+    /// The same on a pool thread. One registration is under way at a time; what is asked for meanwhile is one
+    /// more.
     void RegisterAlarmLater();
 
 private:

@@ -23,7 +23,8 @@ void ServeLinkMethods(CLPCClientPackage& link)
     CRouteTable& methods = link.Dispatcher().Methods();
     methods.Bind("hideShadeFrame", [](const lpcclient::LPCCallBackData&) {});
     // The registration waits for its answer; the methods behind it in the queue do not wait with it.
-    methods.Bind("notifyRegisterAlarm", [&link](const lpcclient::LPCCallBackData&) { link.RegisterAlarmLater(); });
+    methods.Bind("notifyRegisterAlarm",
+                 [&link](const lpcclient::LPCCallBackData&) { link.RegisterAlarmLater(); });
 }
 
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)

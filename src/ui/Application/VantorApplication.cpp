@@ -87,9 +87,8 @@ void CVantorApplication::InitSysParameter(int argc, char** argv)
     const int versionType = fields.value(2).toInt();
 
     BASE_INFO("fInitReportManager async start");
-    m_fInitReportManager = Base::RunAsync("report-manager", [texts = ToTexts(fields)] {
-        cloudreport::CReportManager::Instance().init(texts);
-    });
+    m_fInitReportManager = Base::RunAsync(
+        "report-manager", [texts = ToTexts(fields)] { cloudreport::CReportManager::Instance().init(texts); });
     CVantorApplicationManager::Instance().SetStartParameters(m_skin, language, versionType);
     if (argc > kStartArgument && fields.size() >= kFieldsForConfiguration)
         InitConfiguration(fields);

@@ -1,7 +1,7 @@
 #include "component/lpctool/HostRun.h"
 
-#include "lpc/json/Json.h"
 #include "lpc/Names.h"
+#include "lpc/json/Json.h"
 
 #include "Base/StringUtil.h"
 

@@ -10,8 +10,8 @@
 // when it is asked to, "broken" exits with 3 at once.
 
 #include "LPC_Client/LPC_Client.h"
-#include "lpc/json/Json.h"
 #include "lpc/Names.h"
+#include "lpc/json/Json.h"
 
 #include <condition_variable>
 #include <csignal>
