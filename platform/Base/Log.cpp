@@ -39,21 +39,13 @@ Gate& TheGate()
     return *gate;
 }
 
-log4cxx::LevelPtr Level(LogLevel level)
+/// log4cxx's levels by ours.
+const log4cxx::LevelPtr& Level(LogLevel level)
 {
-    switch (level) {
-    case LogLevel::Debug:
-        return log4cxx::Level::getDebug();
-    case LogLevel::Info:
-        return log4cxx::Level::getInfo();
-    case LogLevel::Warn:
-        return log4cxx::Level::getWarn();
-    case LogLevel::Error:
-        return log4cxx::Level::getError();
-    case LogLevel::Fatal:
-        return log4cxx::Level::getFatal();
-    }
-    return log4cxx::Level::getFatal();
+    using log4cxx::Level;
+    static const auto* const levels = new std::array<log4cxx::LevelPtr, 5>{
+        Level::getDebug(), Level::getInfo(), Level::getWarn(), Level::getError(), Level::getFatal()};
+    return (*levels)[static_cast<std::size_t>(level)];
 }
 
 log4cxx::LoggerPtr Logger(const char* name)
