@@ -61,7 +61,7 @@ TEST(Encrypt, DoesNotOpenWhatIsNoSealedText)
 TEST(Encrypt, OpensAKnownText)
 {
     // Key of zero bytes, nonce of zero bytes, empty label, plain text of 16 zero bytes: test case 14 of the
-    // GCM specification (McGrew and Viega, 2005).
+    // GCM paper (McGrew and Viega, 2005).
     const auto bytes = Encrypt::FromHex("00000000000000000000000000000000");
     EXPECT_EQ(
         Encrypt::Open(ParamsWith(0, ""), "AAAAAAAAAAAAAAAAzqdAPU1ga24HTsXTuvOdGNDRyKeZmWvwJluYtdSKuRk="),
