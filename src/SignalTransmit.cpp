@@ -51,7 +51,7 @@ struct PlainMethodRow
 };
 
 constexpr std::array<PlainMethodRow, 4> kPlainMethods = {{
-    {"clientDisconnected", &T::SignalQuit},
+    {lpc::kClientDisconnectedMethod, &T::SignalQuit},
     {"componentUninit", &T::SignalQuit},
     {"tabSwitch", &T::SignalTabSwitch},
     {"stopVideoVoiceTalk", &T::SignalStopVoiceTalk},

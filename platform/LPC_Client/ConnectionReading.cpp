@@ -3,6 +3,7 @@
 #include "LPC_Client/Connection.h"
 
 #include "LPC_Wire/Limits.h"
+#include "LPC_Wire/WellKnownNames.h"
 
 #include "Base/Log.h"
 
@@ -12,7 +13,7 @@ namespace {
 InboundItem LossNotification()
 {
     InboundItem item;
-    item.data.headers = {{"method", "clientDisconnected"}};
+    item.data.headers = {{"method", lpc::kClientDisconnectedMethod}};
     return item;
 }
 

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "LPC_Wire/WellKnownNames.h"
+
 /// Fixed names of the local channel between this component and the framework.
 namespace video {
 
-/// The component's client name; the lower-case "d" is part of it.
-constexpr const char* kLPCClientName = "Video.C_9AA5C3F1D41D467D813dE671443AF127";
-constexpr const char* kLPCServerName = "Vantor_ClientFramework_LPCServer_7F0AA04D76F64B58AB20037B4D99073F";
+constexpr const char* kLPCClientName = lpc::kVideoComponentName;
+constexpr const char* kLPCServerName = lpc::kFrameworkServerName;
 
 constexpr const char* kUrlHeader = "url";
 constexpr const char* kMethodHeader = "method";
