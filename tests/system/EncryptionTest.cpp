@@ -1,0 +1,75 @@
+#include "Base/FileUtil.h"
+#include "CommonMethod/DataEncryptionConfig.h"
+#include "system/ComponentRun.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+const std::string kStartAndEnd = R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})"
+                                 "\n"
+                                 R"({"notify": {"method": "componentUninit"}})"
+                                 "\n"
+                                 R"({"expect_exit": 0, "within_ms": 15000})"
+                                 "\n";
+
+/// The content of every file below the folder.
+std::string EverythingWritten(const std::string& folder)
+{
+    std::string all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        std::string content;
+        if (entry.is_regular_file() && Base::FileUtil::ReadFile(entry.path(), content))
+            all += content;
+    }
+    return all;
+}
+
+bool IsPlain(const std::string& database)
+{
+    std::string content;
+    EXPECT_TRUE(Base::FileUtil::ReadFile(database, content));
+    return content.rfind("SQLite format 3", 0) == 0;
+}
+
+TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndEncryptedFromThenOn)
+{
+    ComponentRun run;
+    const std::string setupFile = run.Path() + "Framework.C/DESetup.xml";
+    ASSERT_EQ(run.Play(kStartAndEnd), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(), Contains("[" + setupFile + "] is not exist."));
+    EXPECT_TRUE(IsPlain(run.DataPath() + "VideoSystem"));
+
+    std::filesystem::remove(run.DataPath() + "log/Video.C.log");
+    std::filesystem::create_directories(run.Path() + "Framework.C");
+    const comm_method::DataEncryption setup = comm_method::CDataEncryptionConfig::Generate();
+    ASSERT_TRUE(comm_method::CDataEncryptionConfig(setupFile).Write(setup));
+    for (int start = 0; start < 2; ++start)
+        ASSERT_EQ(run.Play(kStartAndEnd), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(), Contains("Database [VideoSystem] is encrypted from here on."));
+    EXPECT_THAT(run.LogMessages(), Not(Contains(HasSubstr("is not exist."))));
+    EXPECT_FALSE(IsPlain(run.DataPath() + "VideoSystem"));
+    EXPECT_THAT(EverythingWritten(run.DataPath()), Not(HasSubstr(setup.databaseKey)));
+}
+
+TEST(TheComponentsDatabase, IsLeftAsItIsWhenTheSetupIsDamaged)
+{
+    ComponentRun run;
+    ASSERT_EQ(run.Play(kStartAndEnd), 0) << run.Output();
+    const auto size = std::filesystem::file_size(run.DataPath() + "VideoSystem");
+    std::filesystem::create_directories(run.Path() + "Framework.C");
+    ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(run.Path() + "Framework.C/DESetup.xml", "<DESetup"));
+    ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(), Contains("InitDatabase Failed."));
+    EXPECT_EQ(std::filesystem::file_size(run.DataPath() + "VideoSystem"), size);
+    EXPECT_TRUE(IsPlain(run.DataPath() + "VideoSystem"));
+}
+
+} // namespace
