@@ -57,10 +57,9 @@ TEST_F(ClientFaults, AHelloThatIsNotAnsweredWellIsRefused)
     };
     const Row rows[] = {
         {"garbage", std::string(30, 'x'), lpc::kRefused},
-        {"another version", RawPeer::Bytes(Kind::HelloAnswer, 0, {{"version", "2"}}, ""), lpc::kRefused},
-        {"something else", RawPeer::Bytes(Kind::Notification, 0, {}, ""), lpc::kRefused},
-        {"a refusal", RawPeer::Bytes(Kind::Refusal, 0, lpc::RefusalHeaders(lpc::kTryAgain), ""),
-         lpc::kTryAgain},
+        {"another version", WireBytes(Kind::HelloAnswer, 0, {{"version", "2"}}, ""), lpc::kRefused},
+        {"something else", WireBytes(Kind::Notification, 0, {}, ""), lpc::kRefused},
+        {"a refusal", WireBytes(Kind::Refusal, 0, lpc::RefusalHeaders(lpc::kTryAgain), ""), lpc::kTryAgain},
         {"the end", "", lpc::kConnectionLost},
     };
     ASSERT_TRUE(lpcclient::Init("client", false));

@@ -3,11 +3,11 @@
 #include "LpcWorld.h"
 
 #include "LPC_Wire/FrameReader.h"
-#include "LPC_Wire/FrameSet.h"
 #include "LPC_Wire/Hello.h"
 #include "LPC_Wire/LocalSocket.h"
 #include "LPC_Wire/Poller.h"
 #include "LPC_Wire/SocketName.h"
+#include "support/WireBytes.h"
 
 #include <optional>
 #include <thread>
@@ -55,17 +55,7 @@ public:
     }
     bool Send(lpc::Kind kind, lpc::RequestId id, const lpc::HeaderMap& headers, const std::string& body)
     {
-        return Send(Bytes(kind, id, headers, body));
-    }
-
-    static std::string Bytes(lpc::Kind kind, lpc::RequestId id, const lpc::HeaderMap& headers,
-                             const std::string& body)
-    {
-        const lpc::CFrameSet frames(kind, id, headers, body);
-        std::string bytes;
-        for (const lpc::ConstSpan& span : frames.Spans())
-            bytes.append(span.data, span.size);
-        return bytes;
+        return Send(WireBytes(kind, id, headers, body));
     }
 
     /// The next message; nothing when the connection ended or nothing comes.

@@ -23,7 +23,7 @@ protected:
     /// A whole good request with some bytes overwritten.
     static std::string Damaged(std::size_t at, const std::string& bytes)
     {
-        std::string request = RawPeer::Bytes(Kind::Request, 1, {{"k", "v"}}, "body");
+        std::string request = WireBytes(Kind::Request, 1, {{"k", "v"}}, "body");
         return request.replace(at, bytes.size(), bytes);
     }
 };
@@ -48,7 +48,7 @@ TEST_F(ServerFaults, EndOnlyTheirOwnConnectionWithOneLineThatNamesThem)
         {Damaged(16, "\xff\xff\xff\xff"), "header length out of range"},
         {Damaged(20, "\xff\xff\xff\xff"), "body length out of range"},
         {Damaged(24, "\xff\xff"), "malformed headers"},
-        {RawPeer::Bytes(Kind::Hello, 0, lpc::HelloHeaders("again"), ""), "kind of frame not expected here"},
+        {WireBytes(Kind::Hello, 0, lpc::HelloHeaders("again"), ""), "kind of frame not expected here"},
     };
     for (const FaultRow& row : rows) {
         SCOPED_TRACE(row.line);
@@ -84,7 +84,7 @@ TEST_F(ServerFaults, ADisconnectInsideAMessageIsNamed)
     EchoServer server;
     ASSERT_EQ(lpc::kNoError, server.Start());
     RawPeer peer = RawPeer::Greeted("faulty");
-    ASSERT_TRUE(peer.Send(RawPeer::Bytes(Kind::Request, 1, {}, "whole").substr(0, 27)));
+    ASSERT_TRUE(peer.Send(WireBytes(Kind::Request, 1, {}, "whole").substr(0, 27)));
     peer.Close();
     EXPECT_EQ(1U, server.disconnected.WaitFor(1).size());
     EXPECT_EQ(1U, Lines("[faulty]: ended inside a message"));
@@ -98,15 +98,15 @@ TEST_F(ServerFaults, AHelloThatDoesNotFitIsRefused)
         std::string bytes;
         bool refused;
     };
-    std::string otherVersion = RawPeer::Bytes(Kind::Hello, 0, lpc::HelloHeaders("n"), "");
+    std::string otherVersion = WireBytes(Kind::Hello, 0, lpc::HelloHeaders("n"), "");
     otherVersion[4] = 2;
     const Row rows[] = {
         {"another version of the frames", otherVersion, true},
-        {"another version in the hello",
-         RawPeer::Bytes(Kind::Hello, 0, {{"name", "n"}, {"version", "2"}}, ""), true},
-        {"no name", RawPeer::Bytes(Kind::Hello, 0, {{"version", "1"}}, ""), true},
-        {"a long name", RawPeer::Bytes(Kind::Hello, 0, lpc::HelloHeaders(std::string(129, 'n')), ""), true},
-        {"a request first", RawPeer::Bytes(Kind::Request, 1, {}, ""), false},
+        {"another version in the hello", WireBytes(Kind::Hello, 0, {{"name", "n"}, {"version", "2"}}, ""),
+         true},
+        {"no name", WireBytes(Kind::Hello, 0, {{"version", "1"}}, ""), true},
+        {"a long name", WireBytes(Kind::Hello, 0, lpc::HelloHeaders(std::string(129, 'n')), ""), true},
+        {"a request first", WireBytes(Kind::Request, 1, {}, ""), false},
     };
     EchoServer server;
     ASSERT_EQ(lpc::kNoError, server.Start());
@@ -204,7 +204,7 @@ TEST_F(ServerFaults, RequestsInMassesToAServerThatDoesNotAcceptStayBounded)
     RawPeer peer = RawPeer::Greeted("flood");
     std::string requests;
     for (int i = 0; i < 1000; ++i)
-        requests += RawPeer::Bytes(Kind::Request, 1, {}, "");
+        requests += WireBytes(Kind::Request, 1, {}, "");
     int rounds = 0;
     while (rounds < 1000 && peer.Send(requests))
         ++rounds;

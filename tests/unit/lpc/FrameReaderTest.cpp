@@ -18,7 +18,7 @@ TEST(FrameReader, GivesTheSameMessagesHoweverTheBytesAreCut)
     std::vector<std::string> bodies;
     for (const std::size_t size : {0U, 1U, 100U, 70000U, 200000U, 5U, 1048577U, 3U}) {
         bodies.emplace_back(size, static_cast<char>('a' + bodies.size()));
-        bytes += Written(Kind::Request, bodies.size(), {{"n", std::to_string(size)}}, bodies.back());
+        bytes += WireBytes(Kind::Request, bodies.size(), {{"n", std::to_string(size)}}, bodies.back());
     }
     for (const std::size_t piece : {std::size_t{1}, std::size_t{7}, std::size_t{24}, std::size_t{4096},
                                     std::size_t{65537}, std::size_t{300000}, bytes.size()}) {
@@ -33,7 +33,7 @@ TEST(FrameReader, GivesTheSameMessagesHoweverTheBytesAreCut)
 
 TEST(FrameReader, KnowsWhetherTheBytesEndInsideAMessage)
 {
-    const std::string bytes = Written(Kind::Request, 1, {{"k", "v"}}, "body");
+    const std::string bytes = WireBytes(Kind::Request, 1, {{"k", "v"}}, "body");
     for (std::size_t cut = 1; cut < bytes.size(); ++cut)
         EXPECT_TRUE(ReadAll(bytes.substr(0, cut)).insideMessage) << cut;
     EXPECT_TRUE(ReadAll(Frame(Kind::Request, 1, lpc::kMoreFollows, NoHeaders(), "half")).insideMessage);
@@ -113,8 +113,8 @@ TEST(FrameReader, SurvivesDamagedBytes)
 {
     std::mt19937 random(20240501);
     const std::string good =
-        Written(Kind::Hello, 0, {{"name", "n"}, {"version", "1"}}, "") +
-        Written(Kind::Request, 1, {{"url", "/a"}, {"method", "GET"}}, "body of the request") +
+        WireBytes(Kind::Hello, 0, {{"name", "n"}, {"version", "1"}}, "") +
+        WireBytes(Kind::Request, 1, {{"url", "/a"}, {"method", "GET"}}, "body of the request") +
         Frame(Kind::Answer, 1, lpc::kMoreFollows, NoHeaders(), "a") + Frame(Kind::Answer, 1, 0, "", "b");
     for (int round = 0; round < 20000; ++round) {
         std::string bytes = good;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "LPC_Wire/FrameReader.h"
-#include "LPC_Wire/FrameSet.h"
+#include "support/WireBytes.h"
 
 #include <algorithm>
 #include <cstring>
@@ -40,17 +40,6 @@ inline Reading ReadAll(const std::string& bytes, std::size_t piece = std::string
     }
     reading.insideMessage = reader.InsideMessage();
     return reading;
-}
-
-/// The bytes that a message takes on the wire.
-inline std::string Written(lpc::Kind kind, lpc::RequestId id, const lpc::HeaderMap& headers,
-                           const std::string& body)
-{
-    const lpc::CFrameSet frames(kind, id, headers, body);
-    std::string bytes;
-    for (const lpc::ConstSpan& span : frames.Spans())
-        bytes.append(span.data, span.size);
-    return bytes;
 }
 
 /// One frame, whatever its fields say.
