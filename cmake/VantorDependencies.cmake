@@ -10,6 +10,11 @@ find_package(benchmark REQUIRED)
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Gui Widgets Network)
 pkg_check_modules(LOG4CXX REQUIRED IMPORTED_TARGET liblog4cxx)
 pkg_check_modules(CJSON REQUIRED IMPORTED_TARGET libcjson)
+if(NOT WIN32)
+    find_package(Qt5 5.15 REQUIRED COMPONENTS X11Extras)
+    pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
+    pkg_check_modules(XCB_XTEST REQUIRED IMPORTED_TARGET xcb-xtest)
+endif()
 pkg_check_modules(AVCODEC REQUIRED IMPORTED_TARGET libavcodec libavutil)
 
 # SQLCipher exports the symbols of libsqlite3. Linking its archive, with the symbols kept inside, makes sure that no

@@ -5,7 +5,8 @@
 # takes every *.cpp of the folder and of its posix/ or win32/ folder, or only SOURCES where these are given. FLOOR is a
 # number; the fraction gives the order within floor 0.
 
-set(VANTOR_SOURCE_ROOTS platform src)
+# Includes are written from these folders; those of framework/ from the project's root ("framework/core/Users.h").
+set(VANTOR_SOURCE_ROOTS platform src .)
 
 function(vantor_sources out dir)
     file(GLOB found CONFIGURE_DEPENDS "${dir}/*.cpp" "${dir}/*.h")
@@ -153,8 +154,9 @@ function(vantor_check_includes target)
         foreach(line IN LISTS includes)
             string(REGEX REPLACE "^#include \"([^\"]+)\".*" "\\1" path "${line}")
             foreach(root IN LISTS VANTOR_SOURCE_ROOTS)
-                if(EXISTS "${CMAKE_SOURCE_DIR}/${root}/${path}")
-                    vantor_owner(used "${CMAKE_SOURCE_DIR}/${root}/${path}")
+                get_filename_component(included "${CMAKE_SOURCE_DIR}/${root}/${path}" ABSOLUTE)
+                if(EXISTS "${included}")
+                    vantor_owner(used "${included}")
                     if(used AND NOT used IN_LIST reach)
                         message(SEND_ERROR "${file} includes ${path} of ${used}, which ${target} does not link")
                     endif()

@@ -8,6 +8,7 @@
 #include "Protocol/JSONStruct/HTTP/SystemJSONStruct.h"
 #include "Protocol/JSONStruct/HTTP/ToolJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/UserJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/WndJSONStruct.h"
 #include "Protocol/JSONStruct/WebSocket/WebSocketCommonJSONStruct.h"
 
@@ -18,15 +19,15 @@ struct MessageList
 {};
 
 /// Every message that has a list of fields; the tests of the whole family run over it.
-using AllMessages =
-    MessageList<AlarmInputInfoData, AlarmOutputControlData, AlarmOutputInfoData, AlarmRegisterData,
-                BroadCastNotify, BroadCastNotifyResult, CommonResponseData, ComponentListData,
-                ComponentRegisterInfo, DateTimeFormatData, DefaultFilePathData, DeviceChannelListData,
-                DeviceList, DeviceResponseData, DeviceResponseListData, FileNotifyResult, FrameResizeData,
-                GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
-                GetWndHandleResponseData, GroupListData, LoadComponentsRequestData,
-                LoadComponentsResponseData, LocalFile, LocalFileNotify, LocalFileQuery, LocalFileQueryResult,
-                LocalFileResult, MainViewState, ModifyGroupCondition, ShowWndRequestData,
-                TimeSyncResultListData, WebSocketNotifyData, WiperControlData, WiperControlResultListData>;
+using AllMessages = MessageList<
+    AlarmInputInfoData, AlarmOutputControlData, AlarmOutputInfoData, AlarmRegisterData, AppTabRemovedData,
+    BroadCastNotify, BroadCastNotifyResult, CommonResponseData, ComponentListData, ComponentRegisterInfo,
+    DateTimeFormatData, DefaultFilePathData, DeviceChannelListData, DeviceList, DeviceResponseData,
+    DeviceResponseListData, FileNotifyResult, FrameResizeData, FrameworkMoveData,
+    GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
+    GetWndHandleResponseData, GroupListData, LoadComponentsRequestData, LoadComponentsResponseData, LocalFile,
+    LocalFileNotify, LocalFileQuery, LocalFileQueryResult, LocalFileResult, MainViewState,
+    ModifyGroupCondition, ShowWndRequestData, SwitchUserStopWorkingData, SwitchUserUpdateFrameData,
+    TabSwitchData, TimeSyncResultListData, WebSocketNotifyData, WiperControlData, WiperControlResultListData>;
 
 } // namespace protocol

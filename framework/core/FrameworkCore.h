@@ -1,0 +1,79 @@
+#pragma once
+
+#include "framework/core/FrameworkEvents.h"
+#include "framework/core/FrameworkSettings.h"
+#include "framework/core/Resources.h"
+#include "framework/core/Users.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace framework {
+
+/// How the framework is started.
+struct FrameworkOptions
+{
+    std::string dataFolder;       ///< the framework's own folder, "<root>/Framework.C/"; made when missing
+    std::string componentProgram; ///< path of the component; empty: it is started by somebody else
+    std::string componentOutput;  ///< file for what the component prints; empty: as this process
+};
+
+/// Everything of the framework but its window: the server that components and other clients join, the
+/// component's process, and what is kept on disk. Neither the window's thread nor the server's ever waits for
+/// the other.
+class CFrameworkCore : Base::CNoncopyable
+{
+public:
+    /// A window's identifier, or none when the component has no such window or is not there. Called once, on
+    /// a thread of the core.
+    using WindowAnswer = std::function<void(std::optional<std::uint64_t> wnd)>;
+
+    CFrameworkCore(IFrameworkEvents& events, FrameworkOptions options);
+    /// Stops.
+    ~CFrameworkCore();
+
+    /// Reads what is on disk, writes the data-encryption setup when there is none and listens. False with an
+    /// English sentence: another framework runs, or the folder cannot be written. To be called once, first.
+    [[nodiscard]] bool Start(std::string& error);
+
+    /// Starts the component with the settings' skin, language and edition, or again after it was given up or
+    /// stopped.
+    void StartComponent();
+    /// Ends the component with "componentUninit" and, after five seconds, by force; it is not started again.
+    void StopComponent();
+    /// Stop and start, as after a change of skin or language.
+    void RestartComponent();
+    /// Ends the component and the server. May be called again.
+    void Stop();
+
+    ComponentState State() const;
+
+    // The component's windows, by name.
+    void GetWndHandle(const std::string& name, WindowAnswer onAnswer);
+    void ShowWnd(const std::string& name);
+    void TabRemoved(const std::string& name);
+    void TabSwitched(const std::string& name);
+    void WindowMoved(int x, int y);
+
+    /// Tells the component to stop working, changes the user, and tells it to bring its pages up to date.
+    /// False: as CUsers::Login.
+    [[nodiscard]] bool SwitchUser(const std::string& name, const std::string& password);
+
+    /// Sends an alarm message to the registered components and adds it to the notices.
+    void RaiseAlarm(const std::string& deviceGuid, const std::string& text);
+
+    CResources& Resources();
+    CUsers& Users();
+    CFrameworkSettings& Settings();
+    CJournal& Operations(); ///< the operation log
+    CJournal& Notices();    ///< the notification centre
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace framework

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "Base/Encrypt.h"
+#include "Base/Noncopyable.h"
+#include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
+#include "Protocol/JSONStruct/HTTP/DeviceJSONStruct.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace framework {
+
+/// The kinds of device, as "typeCode" has them.
+enum DeviceType : int { Encoder = 1, Recorder = 2, StorageServer = 128 };
+
+/// A device as the user enters it.
+struct DeviceEntry
+{
+    std::string name; ///< 1 to 64 characters
+    int typeCode = Encoder;
+    std::string address; ///< host name or IP address
+    int port = 8000;     ///< 1 to 65535
+    std::string userName;
+    std::string password;
+    int channels = 4; ///< 0 to 64; inputs and outputs: 2 each where there are channels
+};
+
+/// Devices with their channels, alarm inputs and outputs, and the groups of channels. Kept on disk, passwords
+/// sealed. Any thread.
+class CResources : Base::CNoncopyable
+{
+public:
+    /// A change, as the component is told it: a notification type such as "deviceAdd" with the guid and,
+    /// where the thing still exists, its JSON text without credentials.
+    using OnChange =
+        std::function<void(const std::string& type, const std::string& guid, const std::string& data)>;
+
+    /// path: of the file; its folder exists. seal: for the passwords.
+    CResources(std::string path, const Base::Encrypt::AESParams& seal, OnChange onChange);
+    ~CResources();
+
+    /// Devices with their credentials in clear text, for use in this process only.
+    std::vector<protocol::DeviceResponseData> Devices() const;
+    std::vector<protocol::DeviceChannelInfo> Channels(const std::string& deviceGuid) const;
+    std::vector<protocol::AlarmInputInfo> AlarmInputs(const std::string& deviceGuid) const;
+    /// Of all devices when deviceGuid is empty.
+    std::vector<protocol::AlarmOutputInfo> AlarmOutputs(const std::string& deviceGuid) const;
+    std::vector<protocol::GroupInfo> Groups() const;
+
+    /// The new device's guid, or "" with the reason in error (an English sentence naming the field). Its
+    /// channels, a group of its name, inputs and outputs are made with it.
+    [[nodiscard]] std::string Add(const DeviceEntry& entry, std::string& error);
+    /// Changes what was entered; the number of channels may grow or shrink.
+    [[nodiscard]] bool Edit(const std::string& guid, const DeviceEntry& entry, std::string& error);
+    [[nodiscard]] bool Remove(const std::string& guid);
+    /// The entry of a device, for editing it.
+    [[nodiscard]] bool EntryOf(const std::string& guid, DeviceEntry& entry) const;
+
+    void SetOnline(const std::string& guid, bool online);
+    [[nodiscard]] bool SwitchOutput(const std::string& deviceGuid, const std::string& outputGuid,
+                                    bool active);
+    /// Applies the condition to all groups; the groups that it changed.
+    std::vector<protocol::GroupInfo> ModifyGroups(const protocol::ModifyGroupCondition& condition);
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+} // namespace framework
