@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+namespace VantorGUIToolkit {
+
+/// An icon of the skin by its name, such as "device": ":/VantorGUIToolKit/Icons/device.svg", with the
+/// pictures "device-disabled.svg" and "device-selected.svg" for these states where the skin has them. Empty,
+/// with one log line for each name, when the skin has no such icon or none is loaded. GUI thread, after the
+/// skin is loaded.
+QIcon icon(const QString& name);
+
+} // namespace VantorGUIToolkit
