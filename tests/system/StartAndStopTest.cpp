@@ -265,7 +265,6 @@ TEST(ThePages, SpeakTheLanguageOfTheStartParameters)
     } rows[] = {
         {"1", "Made the page [MainView], titled [Main View]."},
         {"3", "Made the page [MainView], titled [Hauptansicht]."},
-        {"34", "Made the page [MainView], titled [العرض الرئيسي]."},
     };
     for (const auto& row : rows) {
         ComponentRun run;
