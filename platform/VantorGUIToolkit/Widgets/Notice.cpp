@@ -45,7 +45,7 @@ CNotice::CNotice(const QString& text, NoticeTone tone)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_DeleteOnClose);
     setFocusPolicy(Qt::NoFocus);
-    setSurface(this, Surface::Card);
+    setAttribute(Qt::WA_StyledBackground);
     setTone(this, tone);
     setAccessibleName(text);
     setFixedWidth(kWidth);

@@ -4,8 +4,8 @@
 #include "VantorGUIToolkit/Widgets/SearchEdit.h"
 #include "VantorGUIToolkit/Widgets/Switch.h"
 #include "VantorGUIToolkit/Widgets/TableView.h"
+#include "component/widgets/GuiDriving.h"
 #include "support/TestDataRoot.h"
-#include "widgets/GuiDriving.h"
 
 #include <QDir>
 #include <QLabel>

@@ -1,6 +1,6 @@
 #include "VantorGUIToolkit/Widgets/Notice.h"
 #include "VantorGUIToolkit/Widgets/NoticeStack.h"
-#include "widgets/GuiDriving.h"
+#include "component/widgets/GuiDriving.h"
 
 #include <QScreen>
 #include <QToolButton>

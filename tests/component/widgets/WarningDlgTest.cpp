@@ -1,5 +1,5 @@
 #include "VantorGUIToolkit/Widgets/WarningDlg.h"
-#include "widgets/GuiDriving.h"
+#include "component/widgets/GuiDriving.h"
 
 #include <QLabel>
 #include <QPushButton>
