@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
 #include <QTextCharFormat>
 #include <QVariant>
 #include <QWindow>
@@ -171,6 +172,14 @@ void DressCalendar(QCalendarWidget* calendar, const SkinPalette& colors)
         calendar->setWeekdayTextFormat(day, format);
 }
 
+// The delegate that Qt gives the list of a combo box leaves style sheets aside; one that a page has set
+// stays.
+void DressComboList(QAbstractItemView* list)
+{
+    if (list->itemDelegate()->inherits("QComboBoxDelegate"))
+        list->setItemDelegate(new QStyledItemDelegate(list));
+}
+
 } // namespace
 
 CVantorStyle::CVantorStyle() : QProxyStyle("Fusion")
@@ -234,6 +243,8 @@ void CVantorStyle::polish(QWidget* widget)
         widget->setAttribute(Qt::WA_StyledBackground);
     if (auto* header = qobject_cast<QHeaderView*>(widget); header && header->orientation() == Qt::Horizontal)
         header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    if (widget->inherits("QComboBoxListView"))
+        DressComboList(static_cast<QAbstractItemView*>(widget));
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget); calendar && m_colors)
         DressCalendar(calendar, *m_colors);
 }
