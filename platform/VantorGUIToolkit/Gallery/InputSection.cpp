@@ -98,8 +98,8 @@ void CInputSection::AddCombos()
 void CInputSection::AddNumbers()
 {
     auto* number = Named(new QSpinBox(this), tr("Number"));
-    number->setRange(0, 65'535);
-    number->setValue(8'000);
+    number->setRange(0, 65535);
+    number->setValue(8000);
     auto* disabled = Named(new QSpinBox(this), tr("Disabled"));
     disabled->setEnabled(false);
     auto* fraction = Named(new QDoubleSpinBox(this), tr("Fraction"));
