@@ -20,15 +20,19 @@
 #include "UiDataController/LocalLogManager.h"
 #include "UiDataController/RemoteConfigController.h"
 #include "UiDataController/SystemStatusMonitor.h"
+#include "WindowEmbedding/GuestWindow.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/System/VideoSystemManager.h"
+#include "ui/Application/PageCatalogue.h"
 #include "ui/Application/ServedRoutes.h"
 #include "ui/Application/VantorApplication.h"
-#include "ui/Public/UnavailablePage.h"
+#include "ui/Public/OpenPopups.h"
 #include "ui/System/SystemconfigUIManager.h"
 
+#include <QThread>
 #include <QThreadPool>
+#include <QTimer>
 
 #include <libxml/parser.h>
 
@@ -37,6 +41,11 @@ namespace video {
 namespace {
 
 constexpr int kThreadPoolWaitMs = 5000;
+
+/// A dialog or menu of a page runs an event loop of its own, above the main one. The page must not go before
+/// that loop has ended.
+constexpr int kMainLoop = 1;
+constexpr int kQuitAgainMs = 20;
 
 std::future<void> StartMultimediaComm()
 {
@@ -80,9 +89,10 @@ void CVantorApplication::InitManager()
 {
     cloudreport::CCloudReportInfoManager::Instance().init();
     commlayer::CommunicationLayerInit(std::make_shared<comm_method::CHTTPOverLPCClient>());
-    CWndIdManager::Instance().SetPageFactory([](const std::string& name) {
-        return std::make_unique<CUnavailablePage>(QString::fromStdString(name));
-    });
+    embedding::FollowMouseWithFocus();
+    CWndIdManager::Instance().SetPageFactory(MakePage);
+    for (const SettingsPageRow& page : SettingsPageCatalogue())
+        CSystemconfigUIManager::Instance().SetPageCreator(page.name, page.create);
     ServeAllRoutes(CLPCClientPackage::Instance(), CSignalTransmit::Instance());
     RegisterForNotifications();
     UiDataController::CSystemStatusMonitor::Instance().beginWatch();
@@ -115,6 +125,11 @@ void CVantorApplication::onQuit()
 {
     if (m_quitting)
         return;
+    if (QThread::currentThread()->loopLevel() > kMainLoop) {
+        CloseModalDialogs();
+        QTimer::singleShot(kQuitAgainMs, this, &CVantorApplication::onQuit);
+        return;
+    }
     m_quitting = true;
     BASE_INFO("Start UnInit Video.C");
     UnInit();
