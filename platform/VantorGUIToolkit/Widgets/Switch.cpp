@@ -44,12 +44,12 @@ void CSwitch::PaintTrack(QPainter& painter) const
     const QRectF track = TrackRect();
     const qreal round = track.height() / 2;
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(group, QPalette::Highlight), 1));
+        painter.setPen(QPen(palette().color(group, QPalette::WindowText), 1.5));
         painter.setBrush(Qt::NoBrush);
         painter.drawRoundedRect(track.adjusted(-1.5, -1.5, 1.5, 1.5), round + 1.5, round + 1.5);
     }
     painter.setPen(Qt::NoPen);
-    const QColor off = palette().color(group, QPalette::Mid);
+    const QColor off = palette().color(group, QPalette::Dark);
     painter.setBrush(isChecked() ? palette().color(group, QPalette::Highlight) : off);
     painter.drawRoundedRect(track, round, round);
     const qreal side = track.height() - 2 * kKnobGap;
