@@ -59,6 +59,19 @@ void CSwitch::PaintTrack(QPainter& painter) const
 void CSwitch::PaintKnob(QPainter& painter) const
 {
     const QRectF track = TrackRect();
+<<<<<<< HEAD
+=======
+    const qreal round = track.height() / 2;
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(group, QPalette::WindowText), 1.5));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(track.adjusted(-1.5, -1.5, 1.5, 1.5), round + 1.5, round + 1.5);
+    }
+    painter.setPen(Qt::NoPen);
+    const QColor off = palette().color(group, QPalette::Dark);
+    painter.setBrush(isChecked() ? palette().color(group, QPalette::Highlight) : off);
+    painter.drawRoundedRect(track, round, round);
+>>>>>>> looks
     const qreal side = track.height() - 2 * kKnobGap;
     const bool atRight = isChecked() != (layoutDirection() == Qt::RightToLeft);
     const qreal left = atRight ? track.right() - kKnobGap - side : track.left() + kKnobGap;
