@@ -13,6 +13,8 @@
 
 namespace framework {
 
+struct FrameworkParts;
+
 /// How the framework is started.
 struct FrameworkOptions
 {
@@ -27,16 +29,18 @@ struct FrameworkOptions
 class CFrameworkCore : Base::CNoncopyable
 {
 public:
-    /// A window's identifier, or none when the component has no such window or is not there. Called once, on
-    /// a thread of the core.
+    /// A window's identifier, or none when the component has no such window, is not there or does not answer
+    /// within ten seconds. Called once, on a thread of the core.
     using WindowAnswer = std::function<void(std::optional<std::uint64_t> wnd)>;
 
     CFrameworkCore(IFrameworkEvents& events, FrameworkOptions options);
     /// Stops.
     ~CFrameworkCore();
 
-    /// Reads what is on disk, writes the data-encryption setup when there is none and listens. False with an
-    /// English sentence: another framework runs, or the folder cannot be written. To be called once, first.
+    /// Listens, reads what is on disk and writes the data-encryption setup when there is none. False with an
+    /// English sentence: another framework runs, the folder cannot be written, or there is a setup that
+    /// cannot be read, which is left as it is because databases depend on it. To be called once, first, from
+    /// a thread that may touch the disk.
     [[nodiscard]] bool Start(std::string& error);
 
     /// Starts the component with the settings' skin, language and edition, or again after it was given up or
@@ -46,7 +50,8 @@ public:
     void StopComponent();
     /// Stop and start, as after a change of skin or language.
     void RestartComponent();
-    /// Ends the component and the server. May be called again.
+    /// Ends the component, waiting for it as StopComponent says, and the server. May be called again. Not
+    /// from within an event.
     void Stop();
 
     ComponentState State() const;
@@ -65,6 +70,7 @@ public:
     /// Sends an alarm message to the registered components and adds it to the notices.
     void RaiseAlarm(const std::string& deviceGuid, const std::string& text);
 
+    // What is kept on disk; to be used from a successful Start on.
     CResources& Resources();
     CUsers& Users();
     CFrameworkSettings& Settings();
@@ -72,8 +78,7 @@ public:
     CJournal& Notices();    ///< the notification centre
 
 private:
-    struct Parts;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<FrameworkParts> m_parts;
 };
 
 } // namespace framework

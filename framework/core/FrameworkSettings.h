@@ -3,7 +3,8 @@
 #include "Base/Noncopyable.h"
 #include "Protocol/JSONStruct/JSONMessage.h"
 
-#include <mutex>
+#include <functional>
+#include <memory>
 #include <string>
 
 namespace framework {
@@ -36,15 +37,21 @@ class CFrameworkSettings : Base::CNoncopyable
 {
 public:
     /// path: of the file; its folder exists. dataRoot: where the default folders lie, UTF-8, ending in "/".
-    CFrameworkSettings(std::string path, const std::string& dataRoot);
+    /// onChanged is called with the names of the changed choices, for example "skin, language".
+    CFrameworkSettings(std::string path, const std::string& dataRoot,
+                       std::function<void(const std::string& names)> onChanged = {});
+    ~CFrameworkSettings();
+
+    /// Why the file of an earlier start was set aside, in one sentence; empty when it was not.
+    const std::string& LoadProblem() const;
 
     FrameworkChoices Get() const;
+    /// An unknown skin, and formats or folders that are empty, are replaced by the defaults.
     void Set(const FrameworkChoices& choices);
 
 private:
-    const std::string m_path;
-    mutable std::mutex m_mutex;
-    FrameworkChoices m_choices;
+    struct State;
+    std::unique_ptr<State> m_state;
 };
 
 } // namespace framework

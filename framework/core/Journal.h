@@ -4,6 +4,7 @@
 #include "Protocol/JSONStruct/JSONMessage.h"
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <mutex>
 #include <string>
@@ -37,18 +38,23 @@ public:
     /// path: of the file; its folder exists. onEntry is called for each new entry.
     CJournal(std::string path, std::function<void(const JournalEntry&)> onEntry);
 
-    /// Adds an entry with the present time.
+    /// Adds an entry with the present time. A text is cut after 1000 bytes.
     void Add(const std::string& user, const std::string& kind, const std::string& text);
 
     /// The newest last.
     std::vector<JournalEntry> Entries() const;
 
 private:
+    void Load();
+    bool Parse(const std::string& line);
+    void Write(const JournalEntry& entry);
+
     const std::string m_path;
     const std::function<void(const JournalEntry&)> m_onEntry;
+    std::mutex m_writing; ///< before m_mutex, so that readers never wait for the disk
     mutable std::mutex m_mutex;
-    std::vector<JournalEntry> m_entries;
-    std::size_t m_linesOnDisk = 0;
+    std::deque<JournalEntry> m_entries;
+    std::size_t m_linesOnDisk = 0; ///< under m_writing
 };
 
 } // namespace framework

@@ -27,19 +27,29 @@ struct DeviceEntry
     int channels = 4; ///< 0 to 64; inputs and outputs: 2 each where there are channels
 };
 
+/// One change, as components are told it.
+struct ResourceChange
+{
+    std::string type; ///< of the notification, for example "deviceAdd"
+    std::string guid;
+    std::string data; ///< the thing as JSON, without credentials; empty when it is gone
+    std::string text; ///< for the operation log; empty for what merely follows from another change
+};
+
 /// Devices with their channels, alarm inputs and outputs, and the groups of channels. Kept on disk, passwords
 /// sealed. Any thread.
 class CResources : Base::CNoncopyable
 {
 public:
-    /// A change, as the component is told it: a notification type such as "deviceAdd" with the guid and,
-    /// where the thing still exists, its JSON text without credentials.
-    using OnChange =
-        std::function<void(const std::string& type, const std::string& guid, const std::string& data)>;
+    /// Called for each change, in order.
+    using OnChange = std::function<void(const ResourceChange& change)>;
 
     /// path: of the file; its folder exists. seal: for the passwords.
     CResources(std::string path, const Base::Encrypt::AESParams& seal, OnChange onChange);
     ~CResources();
+
+    /// Why the file of an earlier start was set aside, in one sentence; empty when it was not.
+    const std::string& LoadProblem() const;
 
     /// Devices with their credentials in clear text, for use in this process only.
     std::vector<protocol::DeviceResponseData> Devices() const;
@@ -48,6 +58,9 @@ public:
     /// Of all devices when deviceGuid is empty.
     std::vector<protocol::AlarmOutputInfo> AlarmOutputs(const std::string& deviceGuid) const;
     std::vector<protocol::GroupInfo> Groups() const;
+
+    /// Whether the device is known, and whether it is online.
+    [[nodiscard]] bool Find(const std::string& deviceGuid, bool& online) const;
 
     /// The new device's guid, or "" with the reason in error (an English sentence naming the field). Its
     /// channels, a group of its name, inputs and outputs are made with it.

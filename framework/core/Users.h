@@ -3,7 +3,7 @@
 #include "Base/Noncopyable.h"
 
 #include <functional>
-#include <mutex>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -38,35 +38,37 @@ struct User
 };
 
 /// The users of the client and who of them is at work. Kept on disk with salted, stretched hashes of the
-/// passwords. At the first start there are "admin" (everything), "operator" (live view, playback, local
-/// files, broadcast, alarm outputs, wiper) and "guest" (live view only), each with an empty password; "admin"
-/// is at work. Any thread.
+/// passwords (scrypt). At the first start there are "admin" (everything), "operator" (live view, playback,
+/// local files, broadcast, alarm outputs, wiper) and "guest" (live view only), each with an empty password;
+/// "admin" is at work. Any thread.
 class CUsers : Base::CNoncopyable
 {
 public:
     /// path: of the file; its folder exists. onChanged is called after each change, without a lock held.
     CUsers(std::string path, std::function<void()> onChanged);
+    ~CUsers();
+
+    /// Why the file of an earlier start was set aside, in one sentence; empty when it was not.
+    const std::string& LoadProblem() const;
 
     std::vector<User> All() const;
     User Current() const;
 
     /// Makes another user the current one; false for an unknown name or a wrong password, which take the same
-    /// time.
-    [[nodiscard]] bool Login(const std::string& name, const std::string& password);
+    /// time (about a tenth of a second). beforeChange is called when the password was right, with who leaves.
+    [[nodiscard]] bool Login(const std::string& name, const std::string& password,
+                             const std::function<void(const User& leaving)>& beforeChange = {});
 
-    /// Adds the user or replaces permissions and, when given, the password. False with the reason: a bad
-    /// name, or the last user that may manage users would lose that.
+    /// Adds the user (without a password: with an empty one) or replaces permissions and, when given, the
+    /// password. False with the reason: a bad name, an unknown permission, or the last user that may manage
+    /// users would lose that.
     [[nodiscard]] bool Put(const User& user, const std::optional<std::string>& password, std::string& error);
+    /// False with the reason: there is no such user, it is at work, or it is the last that may manage users.
     [[nodiscard]] bool Remove(const std::string& name, std::string& error);
 
 private:
-    struct Record;
-
-    const std::string m_path;
-    const std::function<void()> m_onChanged;
-    mutable std::mutex m_mutex;
-    std::vector<Record> m_records;
-    std::string m_current;
+    struct State;
+    std::unique_ptr<State> m_state;
 };
 
 } // namespace framework
