@@ -87,6 +87,7 @@ TEST_F(Component, IsStartedAgainAfterItWasKilled)
 TEST_F(Component, ThatDoesNotEndWhenItIsAskedToIsKilled)
 {
     setenv("FAKE_COMPONENT_WAY", "stubborn", 1);
+    endLimit = std::chrono::milliseconds(100);
     StartCore(Script());
     core->StartComponent();
     ASSERT_TRUE(events.texts.Take("state ready"));
