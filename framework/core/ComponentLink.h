@@ -83,7 +83,7 @@ private:
     const Events m_events;
     CRouteTable m_routes;
     std::atomic<lpcserver::ClientId> m_component{0};
-    std::atomic<int> m_waiting{0}; ///< requests that the worker has not begun
+    std::atomic<std::size_t> m_waitingBytes{0}; ///< of requests that the worker has not begun
     mutable std::mutex m_mutex;
     std::map<lpcserver::ClientId, Client> m_clients;
     lpcserver::CLPCServer m_server;
