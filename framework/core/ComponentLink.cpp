@@ -114,6 +114,14 @@ void CComponentLink::OnClientDisconnected(lpcserver::ClientId client)
     m_events.onLeft();
 }
 
+void CComponentLink::ForgetComponent()
+{
+    if (m_component.exchange(0) == 0)
+        return;
+    BASE_WARN("A client that joined before the component was started has its name; it is not taken for it.");
+    m_forwarder.SetServed({});
+}
+
 void CComponentLink::OnData(lpcserver::ClientId client, const lpc::CallBackData& data)
 {
     const std::string url = data.Header("url");

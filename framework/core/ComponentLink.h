@@ -43,6 +43,9 @@ public:
 
     bool IsJoined() const { return m_component != 0; }
 
+    /// To be called before a component is started: who has its name now is another client from then on.
+    void ForgetComponent();
+
     /// Sends the component a method's notification, if it is there.
     void Notify(const protocol::ILPCData& payload);
     void NotifyMethod(const std::string& method);

@@ -57,12 +57,6 @@ std::string FolderAbove(const std::string& folder)
     return WithSlash(std::filesystem::path(folder).parent_path().parent_path().string());
 }
 
-std::int64_t Now()
-{
-    using namespace std::chrono;
-    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
-}
-
 /// The window in the body of an answer.
 std::optional<std::uint64_t> WindowIn(const std::string& body)
 {
@@ -96,7 +90,10 @@ CComponentLink::Events FrameworkParts::LinkEvents()
 CComponentProcess::Ways FrameworkParts::ProcessWays()
 {
     CComponentProcess::Ways ways;
-    ways.command = [this] { return Command(); };
+    ways.command = [this] {
+        link.ForgetComponent();
+        return Command();
+    };
     ways.output = options.componentOutput;
     ways.askToEnd = [this] {
         const bool isJoined = link.IsJoined();
@@ -299,7 +296,7 @@ bool FrameworkParts::SwitchUser(const std::string& name, const std::string& pass
 
 void FrameworkParts::RaiseAlarm(const std::string& deviceGuid, const std::string& text)
 {
-    const AlarmMessage alarm{kAlarmRaisedHere, deviceGuid, text, {Now()}};
+    const AlarmMessage alarm{kAlarmRaisedHere, deviceGuid, text, {CJournal::Now()}};
     link.PublishAlarm(kAlarmRaisedHere, deviceGuid,
                       protocol::json::PrintText(protocol::json::Kind<AlarmMessage>::Write(alarm).get()));
     notices->Add({}, "alarm", text);

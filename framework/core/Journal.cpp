@@ -23,12 +23,6 @@ std::string LineOf(const JournalEntry& entry)
     return json::PrintText(json::Kind<JournalEntry>::Write(entry).get()) + "\n";
 }
 
-std::int64_t Now()
-{
-    using namespace std::chrono;
-    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
-}
-
 bool AppendLine(const std::string& path, const std::string& line)
 {
     std::ofstream file(path, std::ios::binary | std::ios::app);
@@ -80,6 +74,12 @@ bool CJournal::Parse(const std::string& line)
     if (m_entries.size() > kKept)
         m_entries.pop_front();
     return true;
+}
+
+std::int64_t CJournal::Now()
+{
+    using namespace std::chrono;
+    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
 }
 
 void CJournal::Add(const std::string& user, const std::string& kind, const std::string& text)

@@ -96,6 +96,18 @@ TEST_F(Component, ThatDoesNotEndWhenItIsAskedToIsKilled)
         "state stopped: The component ended with signal 9 (SIGKILL). It did not end in time."));
 }
 
+TEST_F(Component, IsNotKeptOutByAClientThatHasItsName)
+{
+    StartCore(Script());
+    TestClient other(lpc::kVideoComponentName);
+    other.Notify("initFinish");
+    core->StartComponent();
+    ASSERT_TRUE(events.texts.Take("state ready"));
+    EXPECT_EQ(other.Request("GET", "/fake/echo", "x").body, "x");
+    core->StopComponent();
+    EXPECT_TRUE(events.texts.Take("state stopped: The component ended with exit code 0."));
+}
+
 TEST_F(Component, IsAskedThroughTheFramework)
 {
     StartCore(Script());
