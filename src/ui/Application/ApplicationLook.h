@@ -1,10 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "VantorGUIToolkit/SkinLoader.h"
 
-namespace VantorGUIToolkit {
-class CToolkit;
-}
+#include <QString>
 
 namespace video {
 
@@ -32,9 +30,9 @@ public:
 
 private:
     void TellLanguage();
-    bool LoadPackage(const QString& name);
 
     VantorGUIToolkit::CToolkit& m_toolkit;
+    VantorGUIToolkit::CSkinLoader m_loader;
     const QString m_skin;
     const int m_language;
 };

@@ -1,0 +1,114 @@
+#include "VantorGUIToolkit/SkinLoader.h"
+
+#include "Base/Log.h"
+#include "VantorGUIToolkit/Toolkit.h"
+#include "VantorSkin/SkinPalette.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFont>
+#include <QStyle>
+#include <QStyleFactory>
+
+namespace VantorGUIToolkit {
+
+namespace {
+
+const QString kToolkitSheets = QStringLiteral(":/VantorGUIToolKit/Qss/Qss/VantorGUIToolkit/");
+const QString kMacSheet = QStringLiteral("MacSpecial.qss");
+const QString kDefaultSkin = QStringLiteral("BlackRedSkin");
+
+QString PackageOf(const QString& skin)
+{
+    return "VantorGUIToolKit" + skin + ".rcc";
+}
+
+QStringList ToolkitSheets()
+{
+    QStringList files;
+    for (const QString& name : QDir(kToolkitSheets).entryList({"*.qss"}, QDir::Files, QDir::Name))
+        if (name != kMacSheet)
+            files << kToolkitSheets + name;
+    return files;
+}
+
+QString Joined(const QStringList& files)
+{
+    QString joined;
+    for (const QString& path : files) {
+        QFile file(path);
+        if (file.open(QIODevice::ReadOnly))
+            joined += QString::fromUtf8(file.readAll()) + '\n';
+    }
+    return joined;
+}
+
+std::optional<SkinPalette> PaletteOfSkin()
+{
+    if (!QFile::exists(SkinPalette::kResource))
+        return std::nullopt;
+    QString why;
+    std::optional<SkinPalette> palette = SkinPalette::Load(SkinPalette::kResource, why);
+    if (!palette)
+        BASE_ERROR("The palette of the skin cannot be used: %s.", why.toUtf8().constData());
+    return palette;
+}
+
+} // namespace
+
+CSkinLoader::CSkinLoader(CToolkit& toolkit, PackageTold told) : m_toolkit(toolkit), m_told(std::move(told)) {}
+
+void CSkinLoader::LoadFont(int language)
+{
+    const FontInfo info = getFontInfoByLanguage(language);
+    QFont font;
+    font.setFamilies(info.families);
+    font.setPixelSize(info.pixelSize);
+    font.setKerning(info.kerning);
+    font.setStyleHint(info.styleHint);
+    QApplication::setFont(font);
+}
+
+bool CSkinLoader::LoadSkin(const QString& skin)
+{
+    m_toolkit.setSkinType(skin);
+    const bool loaded = LoadPackage(PackageOf(skin));
+    const QString dark = m_toolkit.targetPath() + "../plugins/skins/" + PackageOf(kDefaultSkin);
+    if (!loaded && QFile::exists(dark))
+        LoadPackage(PackageOf(kDefaultSkin));
+    AdoptColors();
+    return loaded;
+}
+
+bool CSkinLoader::LoadPackage(const QString& fileName)
+{
+    const QString path = m_toolkit.targetPath() + "../plugins/skins/" + fileName;
+    const bool loaded = m_toolkit.loadSkinPackage(path);
+    if (m_told)
+        m_told(path, loaded);
+    return loaded;
+}
+
+void CSkinLoader::AdoptColors()
+{
+    const SkinPalette palette = PaletteOfSkin().value_or(SkinPalette::Like(QApplication::palette()));
+    m_toolkit.setStyleParameters(palette.StyleParameters());
+}
+
+bool CSkinLoader::SetStyle()
+{
+    QStyle* style = QStyleFactory::create("CVantorStyle");
+    if (style)
+        QApplication::setStyle(style);
+    if (const std::optional<SkinPalette> palette = PaletteOfSkin())
+        QApplication::setPalette(palette->ToQPalette());
+    return style != nullptr;
+}
+
+void CSkinLoader::ApplySheets(const QStringList& files)
+{
+    qApp->setStyleSheet(m_toolkit.handleQssByInputParams(Joined(ToolkitSheets() + files)));
+}
+
+} // namespace VantorGUIToolkit
