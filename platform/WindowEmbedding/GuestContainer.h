@@ -31,7 +31,8 @@ public:
     /// 0 without a guest.
     WId Guest() const;
 
-    /// Tells the guest anew where on the screen it is: call when the top-level window was moved.
+    /// Tells the guest at once how large it is and where on the screen. The container does so by itself after
+    /// every move, resize and show of itself and of the widgets around it.
     void TellPosition();
 
 signals:
@@ -42,6 +43,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct State;

@@ -24,8 +24,12 @@ public:
 
 signals:
     /// The window system destroyed the widget's native window together with the host's. The widget has no
-    /// window any more; the next winId() makes a new one.
+    /// window any more and is hidden; the next winId() makes a new one, to be embedded and shown like the
+    /// first.
     void WindowLost();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct State;

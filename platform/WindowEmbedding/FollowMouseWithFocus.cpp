@@ -1,0 +1,92 @@
+#include "WindowEmbedding/FocusMemory.h"
+#include "WindowEmbedding/GuestWindow.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QVariant>
+#include <QWindow>
+
+namespace embedding {
+
+namespace {
+
+constexpr const char* kFocusedGuest = "embeddingFocusedGuest";
+
+QWindow* TopLevelOf(const QWidget* container)
+{
+    return container->window()->windowHandle();
+}
+
+QWindow* TopLevelOf(QWindow* window)
+{
+    while (window->parent())
+        window = window->parent();
+    return window;
+}
+
+bool TakesFocus(const QWindow& window)
+{
+    return window.handle() && window.type() != Qt::Popup && window.type() != Qt::ToolTip &&
+           !window.flags().testFlag(Qt::WindowDoesNotAcceptFocus);
+}
+
+class FocusFollower : public QObject
+{
+public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress)
+            OnPress(*TopLevelOf(static_cast<QWindow*>(watched)));
+        else if (watched->isWindowType() && event->type() == QEvent::FocusIn)
+            OnActivated(*static_cast<QWindow*>(watched));
+        return false;
+    }
+
+private:
+    static void OnPress(QWindow& window)
+    {
+        if (!TakesFocus(window))
+            return;
+        window.setProperty(kFocusedGuest, QVariant());
+        native::Focus(window.winId());
+    }
+
+    static void OnActivated(const QWindow& window)
+    {
+        const QVariant guest = window.property(kFocusedGuest);
+        if (guest.isValid())
+            native::Focus(guest.toULongLong());
+    }
+};
+
+} // namespace
+
+void RememberFocus(const QWidget* container, native::WindowId guest)
+{
+    if (QWindow* window = TopLevelOf(container))
+        window->setProperty(kFocusedGuest, static_cast<qulonglong>(guest));
+}
+
+void TakeFocusBack(const QWidget* container, native::WindowId guest)
+{
+    QWindow* window = TopLevelOf(container);
+    if (!window || window->property(kFocusedGuest).toULongLong() != guest)
+        return;
+    window->setProperty(kFocusedGuest, QVariant());
+    if (window->isVisible())
+        native::Focus(window->winId());
+}
+
+void FollowMouseWithFocus()
+{
+    static QPointer<FocusFollower> follower;
+    if (follower || !native::Available())
+        return;
+    native::StartListening();
+    follower = new FocusFollower(QCoreApplication::instance());
+    QCoreApplication::instance()->installEventFilter(follower);
+}
+
+} // namespace embedding

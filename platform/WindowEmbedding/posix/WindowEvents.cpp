@@ -1,0 +1,216 @@
+#include "WindowEmbedding/WindowSystem.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QApplication>
+#include <QWindow>
+#include <QX11Info>
+
+#include <algorithm>
+#include <cstdlib>
+#include <deque>
+#include <map>
+#include <optional>
+#include <xcb/xcb.h>
+
+namespace embedding::native {
+
+namespace {
+
+/// Windows whose end is remembered, so that the errors of requests that were under way are known as theirs.
+constexpr std::size_t kRememberedEnds = 256;
+
+struct Watched
+{
+    Owner owner;
+    IWindowObserver* observer;
+};
+
+/// Sees every event of the process before Qt does.
+class EventListener : public QAbstractNativeEventFilter
+{
+public:
+    static EventListener& Instance()
+    {
+        static EventListener listener;
+        return listener;
+    }
+
+    void Install()
+    {
+        if (QX11Info::isPlatformX11())
+            QCoreApplication::instance()->installNativeEventFilter(this);
+    }
+
+    void Add(xcb_window_t window, const Watched& watched) { m_watched[window] = watched; }
+    std::optional<Watched> Remove(xcb_window_t window)
+    {
+        const auto node = m_watched.extract(window);
+        return node ? std::optional<Watched>(node.mapped()) : std::nullopt;
+    }
+
+    bool nativeEventFilter(const QByteArray& type, void* message, long* /*result*/) override
+    {
+        return type == "xcb_generic_event_t" && Take(static_cast<xcb_generic_event_t*>(message));
+    }
+
+private:
+    /// True when Qt must not see the event.
+    bool Take(xcb_generic_event_t* event)
+    {
+        switch (event->response_type & 0x7F) {
+        case 0:
+            return IsOfDeadWindow(reinterpret_cast<xcb_generic_error_t*>(event));
+        case XCB_DESTROY_NOTIFY:
+            TakeEnd(reinterpret_cast<xcb_destroy_notify_event_t*>(event)->window);
+            return false;
+        case XCB_REPARENT_NOTIFY:
+            Tell(reinterpret_cast<xcb_reparent_notify_event_t*>(event)->window, Change::Moved);
+            return false;
+        case XCB_MAP_NOTIFY:
+            Tell(reinterpret_cast<xcb_map_notify_event_t*>(event)->window, Change::Mapped);
+            return false;
+        case XCB_CONFIGURE_NOTIFY:
+            TakeSize(*reinterpret_cast<xcb_configure_notify_event_t*>(event));
+            return false;
+        case XCB_FOCUS_IN:
+            return TakeFocus(*reinterpret_cast<xcb_focus_in_event_t*>(event), true);
+        case XCB_FOCUS_OUT:
+            return TakeFocus(*reinterpret_cast<xcb_focus_in_event_t*>(event), false);
+        case XCB_KEY_PRESS:
+        case XCB_KEY_RELEASE:
+            return PassToHost(*reinterpret_cast<xcb_key_press_event_t*>(event));
+        default:
+            return false;
+        }
+    }
+
+    const Watched* Find(xcb_window_t window) const
+    {
+        const auto found = m_watched.find(window);
+        return found == m_watched.end() ? nullptr : &found->second;
+    }
+
+    void Tell(xcb_window_t window, Change change)
+    {
+        if (const Watched* watched = Find(window))
+            watched->observer->OnChange(window, change);
+    }
+
+    void TakeEnd(xcb_window_t window)
+    {
+        m_ended.push_back(window);
+        if (m_ended.size() > kRememberedEnds)
+            m_ended.pop_front();
+        Tell(window, Change::Destroyed);
+    }
+
+    bool IsOfDeadWindow(const xcb_generic_error_t* error) const
+    {
+        return std::find(m_ended.begin(), m_ended.end(), error->resource_id) != m_ended.end();
+    }
+
+    void TakeSize(const xcb_configure_notify_event_t& event)
+    {
+        const bool sent = (event.response_type & 0x80) != 0;
+        const Watched* watched = Find(event.window);
+        if (watched && !sent)
+            watched->observer->OnResized(event.window, {event.x, event.y, event.width, event.height});
+    }
+
+    /// An event that only says that the pointer is over the window, or that keys are grabbed for a moment,
+    /// changes nothing. One that says that an inferior has the focus means an embedded window, since Qt
+    /// itself focuses top-level windows only; Qt would take it for its own.
+    bool TakeFocus(const xcb_focus_in_event_t& event, bool in)
+    {
+        if (event.detail >= XCB_NOTIFY_DETAIL_POINTER || event.mode == XCB_NOTIFY_MODE_GRAB ||
+            event.mode == XCB_NOTIFY_MODE_UNGRAB)
+            return false;
+        const Watched* watched = Find(event.event);
+        if (watched && watched->owner == Owner::Other) {
+            if (in)
+                watched->observer->OnChange(event.event, Change::Focused);
+            return false;
+        }
+        if (in && (event.detail == XCB_NOTIFY_DETAIL_VIRTUAL ||
+                   event.detail == XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL))
+            return true;
+        m_focused = in;
+        return false;
+    }
+
+    /// Keys go to the window under the pointer when that lies inside the one that has the focus: an embedded
+    /// window gets those which the user means for its host. They are handed on.
+    bool PassToHost(const xcb_key_press_event_t& event)
+    {
+        if (m_focused || QApplication::activePopupWidget())
+            return false;
+        const xcb_window_t own = TopLevelOf(event.event);
+        const Watched* watched = Find(own);
+        const WindowId holder = watched && watched->owner == Owner::Self ? HolderOf(own) : 0;
+        if (holder == 0)
+            return false;
+        xcb_key_press_event_t copy = event;
+        copy.event = static_cast<xcb_window_t>(holder);
+        xcb_connection_t* connection = QX11Info::connection();
+        const auto sent = xcb_send_event_checked(connection, 0, copy.event,
+                                                 XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE,
+                                                 reinterpret_cast<const char*>(&copy));
+        xcb_discard_reply(connection, sent.sequence);
+        xcb_flush(connection);
+        return true;
+    }
+
+    static xcb_window_t TopLevelOf(xcb_window_t window)
+    {
+        for (const QWindow* candidate : QGuiApplication::allWindows()) {
+            if (!candidate->handle() || candidate->winId() != window)
+                continue;
+            while (candidate->parent())
+                candidate = candidate->parent();
+            return static_cast<xcb_window_t>(candidate->winId());
+        }
+        return window;
+    }
+
+    std::map<xcb_window_t, Watched> m_watched;
+    std::deque<xcb_window_t> m_ended;
+    /// A window of this process has the keyboard focus.
+    bool m_focused = false;
+};
+
+bool Select(xcb_window_t window, uint32_t events)
+{
+    xcb_connection_t* connection = QX11Info::connection();
+    xcb_generic_error_t* error = xcb_request_check(
+        connection, xcb_change_window_attributes_checked(connection, window, XCB_CW_EVENT_MASK, &events));
+    std::free(error);
+    return error == nullptr;
+}
+
+} // namespace
+
+void StartListening()
+{
+    EventListener::Instance().Install();
+}
+
+bool Watch(WindowId window, Owner owner, IWindowObserver& observer)
+{
+    const auto id = static_cast<xcb_window_t>(window);
+    StartListening();
+    if (!Available() ||
+        (owner == Owner::Other && !Select(id, XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_FOCUS_CHANGE)))
+        return false;
+    EventListener::Instance().Add(id, {owner, &observer});
+    return true;
+}
+
+void Unwatch(WindowId window)
+{
+    const auto id = static_cast<xcb_window_t>(window);
+    const auto watched = EventListener::Instance().Remove(id);
+    if (watched && watched->owner == Owner::Other && Available())
+        (void)Select(id, 0);
+}
+
+} // namespace embedding::native
