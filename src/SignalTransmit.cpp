@@ -2,10 +2,13 @@
 
 #include "Base/Log.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/UserJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/WndJSONStruct.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
+#include "logical/System/CurrentUser.h"
+#include "ui/Public/OpenPopups.h"
 
 #include <array>
 
@@ -93,8 +96,8 @@ void LogNotServed(const LPCCallBackData& data)
 
 } // namespace
 
-CSignalTransmit::CSignalTransmit(CWndIdManager& windows, ReplyMethod reply)
-    : m_windows(windows), m_reply(std::move(reply))
+CSignalTransmit::CSignalTransmit(CWndIdManager& windows, CCurrentUser& user, ReplyMethod reply)
+    : m_windows(windows), m_user(user), m_reply(std::move(reply))
 {
     qRegisterMetaType<LPCCallBackData>("lpcclient::LPCCallBackData");
     ConnectAll();
@@ -102,10 +105,11 @@ CSignalTransmit::CSignalTransmit(CWndIdManager& windows, ReplyMethod reply)
 
 CSignalTransmit& CSignalTransmit::Instance()
 {
-    static CSignalTransmit* const transmitter = new CSignalTransmit(
-        CWndIdManager::Instance(), [](const LPCCallBackData& call, const protocol::ILPCData& payload) {
-            return CLPCClientPackage::Instance().ReplyMethod(call, payload);
-        });
+    static CSignalTransmit* const transmitter =
+        new CSignalTransmit(CWndIdManager::Instance(), CCurrentUser::Instance(),
+                            [](const LPCCallBackData& call, const protocol::ILPCData& payload) {
+                                return CLPCClientPackage::Instance().ReplyMethod(call, payload);
+                            });
     return *transmitter;
 }
 
@@ -113,7 +117,7 @@ void CSignalTransmit::ConnectAll()
 {
     for (const MethodRow& row : kMethods)
         connect(this, row.signal, this, row.slot);
-    connect(this, &T::SignalTabSwitch, this, [] { LogNotServed("tabSwitch"); });
+    connect(this, &T::SignalTabSwitch, this, [] { CloseOpenPopups(); });
     connect(this, &T::SignalStopVoiceTalk, this, [] { LogNotServed("stopVideoVoiceTalk"); });
 }
 
@@ -236,22 +240,48 @@ void CSignalTransmit::OnSignalJoystickKeyboard3DPtzCtrl(const LPCCallBackData& d
 
 void CSignalTransmit::onCloseWnd(const LPCCallBackData& data)
 {
-    LogNotServed(data);
+    protocol::AppTabRemovedData removed;
+    protocol::LPCRequestData envelope(removed);
+    if (!envelope.Parse(data.body))
+        return;
+    CloseOpenPopups();
+    if (m_windows.HideWnd(removed.type))
+        BASE_INFO("Hide Wnd[%s] Success", removed.type.c_str());
+    else
+        BASE_ERROR("There is no window [%s] to hide.", removed.type.c_str());
 }
 
 void CSignalTransmit::onSwitchUserStopWorking(const LPCCallBackData& data)
 {
-    LogNotServed(data);
+    protocol::SwitchUserStopWorkingData leaving;
+    protocol::LPCRequestData envelope(leaving);
+    if (!envelope.Parse(data.body))
+        return;
+    BASE_INFO("The user [%s] leaves: the pages stop working.", leaving.userName.c_str());
+    CloseModalDialogs();
+    for (CComponentPage* page : m_windows.Pages())
+        page->StopWorking();
 }
 
 void CSignalTransmit::onSwitchUserUpdateFrame(const LPCCallBackData& data)
 {
-    LogNotServed(data);
+    protocol::SwitchUserUpdateFrameData coming;
+    protocol::LPCRequestData envelope(coming);
+    if (!envelope.Parse(data.body))
+        return;
+    BASE_INFO("The user is [%s] now, with %zu permissions.", coming.userName.c_str(),
+              coming.permissions.size());
+    const User user{coming.userName, coming.permissions};
+    m_user.Set(user);
+    for (CComponentPage* page : m_windows.Pages())
+        page->UpdateUser(user);
 }
 
-void CSignalTransmit::onsignalFrameworkWindowMove(const LPCCallBackData& data)
+// Comes many times a second while a window is dragged: no log line. Where the pages are on the screen, the
+// framework's side of the embedding tells each of them.
+void CSignalTransmit::onsignalFrameworkWindowMove(const LPCCallBackData&)
 {
-    LogNotServed(data);
+    CloseOpenPopups();
 }
 
 } // namespace video

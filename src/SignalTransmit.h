@@ -13,6 +13,7 @@ Q_DECLARE_METATYPE(lpcclient::LPCCallBackData)
 
 namespace video {
 
+class CCurrentUser;
 class CRouteTable;
 class CWndIdManager;
 
@@ -30,8 +31,8 @@ public:
     using ReplyMethod =
         std::function<bool(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload)>;
 
-    /// Both must outlive this object. Registers the calls' meta-type and connects the signals.
-    CSignalTransmit(CWndIdManager& windows, ReplyMethod reply);
+    /// All must outlive this object. Registers the calls' meta-type and connects the signals.
+    CSignalTransmit(CWndIdManager& windows, CCurrentUser& user, ReplyMethod reply);
 
     /// The process's transmitter, created by the first call, which must come from the GUI thread.
     static CSignalTransmit& Instance();
@@ -89,6 +90,7 @@ private:
     void ConnectAll();
 
     CWndIdManager& m_windows;
+    CCurrentUser& m_user;
     ReplyMethod m_reply;
 };
 

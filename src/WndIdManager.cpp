@@ -1,6 +1,7 @@
 #include "WndIdManager.h"
 
 #include "Base/Log.h"
+#include "ui/System/SystemconfigUIManager.h"
 
 #include <algorithm>
 
@@ -14,11 +15,13 @@ constexpr const char* kLiveViews[] = {"AuxiliaryScreen", "SecondLiveView", "Thir
 
 } // namespace
 
-CWndIdManager::CWndIdManager(PageFactory factory) : m_factory(std::move(factory)) {}
+CWndIdManager::CWndIdManager(PageFactory factory, CSystemconfigUIManager& settings)
+    : m_factory(std::move(factory)), m_settings(settings)
+{}
 
 CWndIdManager& CWndIdManager::Instance()
 {
-    static CWndIdManager* const manager = new CWndIdManager({});
+    static CWndIdManager* const manager = new CWndIdManager({}, CSystemconfigUIManager::Instance());
     return *manager;
 }
 
@@ -42,6 +45,10 @@ void CWndIdManager::Init()
     add("StreamMediaServer", &CWndIdManager::GetStreamMediaServerWID);
     add("VideoFile", &CWndIdManager::GetVideoFileWID);
     add("SnapshotFile", &CWndIdManager::GetSnapshotFileWID);
+    add("ToolkitGallery", &CWndIdManager::GetToolkitGalleryWID);
+    for (const std::string& page : CSystemconfigUIManager::PageNames())
+        m_windows.emplace_back(
+            page, [page](CWndIdManager& self, int& wid) { return self.GetSettingsPageWID(page, wid); });
 }
 
 bool CWndIdManager::Finit()
@@ -74,13 +81,37 @@ bool CWndIdManager::GetMainViewWID(int& wid)
     return true;
 }
 
+bool CWndIdManager::GetSettingsPageWID(const std::string& page, int& wid)
+{
+    WaitReady();
+    const WId window = m_settings.GetPageWnd(page);
+    wid = static_cast<int>(window);
+    return window != CSystemconfigUIManager::kNoPage;
+}
+
 bool CWndIdManager::ShowWnd(const std::string& name)
 {
-    const auto page = m_pages.find(name);
-    if (page == m_pages.end())
-        return false;
-    page->second->show();
-    return true;
+    CComponentPage* const page = MadePage(name);
+    if (page)
+        page->show();
+    return page != nullptr;
+}
+
+bool CWndIdManager::HideWnd(const std::string& name)
+{
+    CComponentPage* const page = MadePage(name);
+    if (page)
+        page->hide();
+    return page != nullptr;
+}
+
+std::vector<CComponentPage*> CWndIdManager::Pages() const
+{
+    std::vector<CComponentPage*> pages;
+    for (const auto& window : m_windows)
+        if (CComponentPage* const page = MadePage(window.first))
+            pages.push_back(page);
+    return pages;
 }
 
 std::vector<std::string> CWndIdManager::Names() const
@@ -100,21 +131,28 @@ void CWndIdManager::WaitReady() const
 bool CWndIdManager::PageWID(const std::string& name, int& wid)
 {
     WaitReady();
-    QWidget* page = PageOf(name);
+    CComponentPage* const page = PageOf(name);
     if (!page)
         return false;
     wid = static_cast<int>(page->winId());
     return true;
 }
 
-QWidget* CWndIdManager::PageOf(const std::string& name)
+CComponentPage* CWndIdManager::MadePage(const std::string& name) const
+{
+    const auto page = m_pages.find(name);
+    return page == m_pages.end() ? m_settings.Page(name) : page->second.get();
+}
+
+CComponentPage* CWndIdManager::PageOf(const std::string& name)
 {
     const auto known = m_pages.find(name);
     if (known != m_pages.end())
         return known->second.get();
-    std::unique_ptr<QWidget> page = m_factory ? m_factory(name) : nullptr;
+    std::unique_ptr<CComponentPage> page = m_factory ? m_factory(name) : nullptr;
     if (!page)
         return nullptr;
+    BASE_INFO("Made the page [%s], titled [%s].", name.c_str(), page->windowTitle().toUtf8().constData());
     return m_pages.emplace(name, std::move(page)).first->second.get();
 }
 

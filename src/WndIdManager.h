@@ -1,8 +1,7 @@
 #pragma once
 
 #include "Base/Noncopyable.h"
-
-#include <QWidget>
+#include "ui/Public/ComponentPage.h"
 
 #include <functional>
 #include <map>
@@ -12,18 +11,22 @@
 
 namespace video {
 
+class CSystemconfigUIManager;
+
 /// Creates and keeps the component's top-level pages and hands out their native window identifiers, under
 /// which the framework embeds them.
 ///
-/// A page is created, without being shown, when its identifier is first asked for. All functions but Init
-/// belong to the GUI thread.
+/// A page is created, without being shown, when its identifier is first asked for, and lives to the end: one
+/// whose tab was closed is hidden, and found again. The settings pages belong to their own manager and are
+/// served here by their names. All functions but Init belong to the GUI thread.
 class CWndIdManager : Base::CNoncopyable
 {
 public:
     /// Makes the page of a window name; empty when there is none.
-    using PageFactory = std::function<std::unique_ptr<QWidget>(const std::string& name)>;
+    using PageFactory = std::function<std::unique_ptr<CComponentPage>(const std::string& name)>;
 
-    explicit CWndIdManager(PageFactory factory);
+    /// settings must outlive this object.
+    CWndIdManager(PageFactory factory, CSystemconfigUIManager& settings);
 
     /// The process's pages; the factory is set by SetPageFactory.
     static CWndIdManager& Instance();
@@ -55,9 +58,17 @@ public:
     bool GetStreamMediaServerWID(int& wid) { return PageWID("StreamMediaServer", wid); }
     bool GetVideoFileWID(int& wid) { return PageWID("VideoFile", wid); }
     bool GetSnapshotFileWID(int& wid) { return PageWID("SnapshotFile", wid); }
+    /// Every widget of the toolkit, for integrators who try embedding.
+    bool GetToolkitGalleryWID(int& wid) { return PageWID("ToolkitGallery", wid); }
+    /// page: "VideoConfigPage", "ImageConfigPage" or "ToolBarPage".
+    bool GetSettingsPageWID(const std::string& page, int& wid);
 
-    /// Shows a page that was created before; false when there is none of the name.
+    /// Shows or hides a page that was created before; false when there is none of the name.
     bool ShowWnd(const std::string& name);
+    bool HideWnd(const std::string& name);
+
+    /// The pages that were created, settings pages included.
+    std::vector<CComponentPage*> Pages() const;
 
     /// The names that GetWID knows, in the order of the table.
     std::vector<std::string> Names() const;
@@ -67,13 +78,15 @@ private:
 
     void WaitReady() const;
     bool PageWID(const std::string& name, int& wid);
-    QWidget* PageOf(const std::string& name);
+    CComponentPage* MadePage(const std::string& name) const;
+    CComponentPage* PageOf(const std::string& name);
     void ReleaseLiveViews();
 
     PageFactory m_factory;
+    CSystemconfigUIManager& m_settings;
     std::function<void()> m_waitReady;
     std::vector<std::pair<std::string, Getter>> m_windows;
-    std::map<std::string, std::unique_ptr<QWidget>> m_pages;
+    std::map<std::string, std::unique_ptr<CComponentPage>> m_pages;
 };
 
 } // namespace video

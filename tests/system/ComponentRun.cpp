@@ -60,9 +60,9 @@ int ComponentRun::Play(const std::string& script)
     return Shell(HostCommand(path));
 }
 
-int ComponentRun::PlayFile(const std::string& name)
+int ComponentRun::PlayFile(const std::string& name, const std::string& options)
 {
-    return Shell(HostCommand(std::string(VANTOR_SCRIPTS) + "/" + name));
+    return Shell(HostCommand(std::string(VANTOR_SCRIPTS) + "/" + name, options));
 }
 
 int ComponentRun::Shell(const std::string& command) const
@@ -77,9 +77,9 @@ std::string ComponentRun::Component() const
     return Program() + " 1 2 'BlackRedSkin 1 0 0 0 0'";
 }
 
-std::string ComponentRun::HostCommand(const std::string& scriptPath) const
+std::string ComponentRun::HostCommand(const std::string& scriptPath, const std::string& options) const
 {
-    return m_bin + "vantor-lpc host --script " + scriptPath + " --spawn " + Program();
+    return m_bin + "vantor-lpc host " + options + " --script " + scriptPath + " --spawn " + Program();
 }
 
 std::vector<std::string> ComponentRun::LogMessages() const

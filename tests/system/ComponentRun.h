@@ -12,9 +12,10 @@ public:
     ComponentRun();
 
     /// Plays a script with vantor-lpc host, which starts the component; the exit code. The text is written to
-    /// a file; see PlayFile for the scripts that lie beside these tests.
+    /// a file; see PlayFile for the scripts that lie beside these tests. options: more words for vantor-lpc
+    /// host.
     int Play(const std::string& script);
-    int PlayFile(const std::string& name);
+    int PlayFile(const std::string& name, const std::string& options = "");
 
     /// Runs a shell command with the data root in its environment; the exit code, 128 + signal for a killed
     /// one.
@@ -23,7 +24,7 @@ public:
     std::string Program() const { return m_bin + "Vantor.Video.C"; }
     /// The command that starts the component with the usual arguments.
     std::string Component() const;
-    std::string HostCommand(const std::string& scriptPath) const;
+    std::string HostCommand(const std::string& scriptPath, const std::string& options = "") const;
 
     /// The messages of the component's log, in order.
     std::vector<std::string> LogMessages() const;

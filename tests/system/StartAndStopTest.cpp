@@ -1,3 +1,4 @@
+#include "Base/FileUtil.h"
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
@@ -226,6 +227,50 @@ TEST(TheStartParameters, FallBackWhereTheyAreMissing)
         EXPECT_THAT(run.LogMessages(), Contains(row.line));
         run.Terminate();
         EXPECT_EQ(component.get(), 0) << command;
+    }
+}
+
+// Layout files that can neither be read nor replaced do not stop the start.
+TEST(TheComponent, StartsWithLayoutFilesThatCannotBeRepaired)
+{
+    ComponentRun run;
+    for (const char* name : {"CustomWidgetLayout.xml", "WidgetLayout.xml"})
+        std::filesystem::create_directories(run.DataPath() + name + "/in the way");
+    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    EXPECT_THAT(
+        run.MissingInOrder({"Failed to open maintain/CustomWidgetLayout.xml for write.",
+                            "Failed to copy maintain/CustomWidgetLayout.xml.", "LoadConfigFile Success."}),
+        IsEmpty());
+}
+
+TEST(TheComponent, RepairsDamagedLayoutFiles)
+{
+    ComponentRun run;
+    const std::string custom = run.DataPath() + "CustomWidgetLayout.xml";
+    const std::string layout = run.DataPath() + "WidgetLayout.xml";
+    std::ofstream(custom) << "<Config><";
+    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    std::string text;
+    EXPECT_TRUE(Base::FileUtil::ReadFile(custom, text));
+    EXPECT_EQ(text, "<Config/>");
+    EXPECT_TRUE(std::filesystem::exists(layout));
+}
+
+TEST(ThePages, SpeakTheLanguageOfTheStartParameters)
+{
+    const struct
+    {
+        const char* language;
+        const char* line;
+    } rows[] = {
+        {"1", "Made the page [MainView], titled [Main View]."},
+        {"3", "Made the page [MainView], titled [Hauptansicht]."},
+    };
+    for (const auto& row : rows) {
+        ComponentRun run;
+        EXPECT_EQ(run.PlayFile("window-handles.jsonl", std::string("--language ") + row.language), 0)
+            << run.Output();
+        EXPECT_THAT(run.LogMessages(), Contains(row.line));
     }
 }
 

@@ -20,12 +20,13 @@
 #include "UiDataController/LocalLogManager.h"
 #include "UiDataController/RemoteConfigController.h"
 #include "UiDataController/SystemStatusMonitor.h"
+#include "WindowEmbedding/GuestWindow.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/System/VideoSystemManager.h"
+#include "ui/Application/PageCatalogue.h"
 #include "ui/Application/ServedRoutes.h"
 #include "ui/Application/VantorApplication.h"
-#include "ui/Public/UnavailablePage.h"
 #include "ui/System/SystemconfigUIManager.h"
 
 #include <QThreadPool>
@@ -80,9 +81,10 @@ void CVantorApplication::InitManager()
 {
     cloudreport::CCloudReportInfoManager::Instance().init();
     commlayer::CommunicationLayerInit(std::make_shared<comm_method::CHTTPOverLPCClient>());
-    CWndIdManager::Instance().SetPageFactory([](const std::string& name) {
-        return std::make_unique<CUnavailablePage>(QString::fromStdString(name));
-    });
+    embedding::FollowMouseWithFocus();
+    CWndIdManager::Instance().SetPageFactory(MakePage);
+    for (const SettingsPageRow& page : SettingsPageCatalogue())
+        CSystemconfigUIManager::Instance().SetPageCreator(page.name, page.create);
     ServeAllRoutes(CLPCClientPackage::Instance(), CSignalTransmit::Instance());
     RegisterForNotifications();
     UiDataController::CSystemStatusMonitor::Instance().beginWatch();

@@ -65,6 +65,8 @@ CVantorApplication::CVantorApplication(const QString& title, int& argc, char** a
         Base::CLog::Instance().UninitLog();
         std::exit(0);
     }
+    // The framework alone ends the component, also while none of its windows is shown.
+    setQuitOnLastWindowClosed(false);
     addLibraryPath(QString("%1%2plugins").arg(applicationDirPath(), "/../"));
     m_skin = kDefaultSkin;
     m_eventFilter = std::make_unique<CVantorEventFilter>();

@@ -1,20 +1,17 @@
 #pragma once
 
-#include <QWidget>
+#include "ui/Public/ComponentPage.h"
 
 namespace video {
 
 /// Stands where a page will be: its title, and that it is not available yet. GUI thread.
-class CUnavailablePage : public QWidget
+class CUnavailablePage : public CComponentPage
 {
     Q_OBJECT
 
 public:
-    explicit CUnavailablePage(const QString& title);
-
-protected:
-    /// The framework decides when a page goes; requests from the window system are ignored.
-    void closeEvent(QCloseEvent* event) override;
+    /// title: translated; icon: a name that VantorGUIToolkit::icon knows.
+    CUnavailablePage(const QString& title, const QString& icon);
 };
 
 } // namespace video

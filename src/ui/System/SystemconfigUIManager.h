@@ -1,32 +1,48 @@
 #pragma once
 
 #include "Base/Noncopyable.h"
+#include "ui/Public/ComponentPage.h"
 
-#include <QWidget>
-
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace video {
 
-/// Owns the settings pages that were created, by page name. GUI thread.
+/// The settings pages by their fixed names, each created when it is first asked for. GUI thread.
 class CSystemconfigUIManager : Base::CNoncopyable
 {
 public:
+    /// What GetPageWnd gives where there is no page; no window has this identifier.
+    static constexpr WId kNoPage = 1;
+
+    using PageCreator = std::function<std::unique_ptr<CComponentPage>()>;
+
     static CSystemconfigUIManager& Instance();
 
-    /// Takes a page; one that was there under the name goes.
-    void AddPage(const std::string& name, std::unique_ptr<QWidget> page) { m_pages[name] = std::move(page); }
+    /// The names of all settings pages: "VideoConfigPage", "ImageConfigPage", "ToolBarPage".
+    static const std::vector<std::string>& PageNames();
 
-    /// nullptr when there is none of the name.
-    QWidget* Page(const std::string& name) const;
+    /// How the page of a name is made; a name without creator, or with an empty one, has no page.
+    void SetPageCreator(const std::string& name, PageCreator create) { m_creators[name] = std::move(create); }
 
-    /// Releases all pages. May be called again.
-    void UnInit() { m_pages.clear(); }
+    /// The native window of a page, which is made if need be; kNoPage for an empty or unknown name and for a
+    /// page that could not be created.
+    WId GetPageWnd(const std::string& name);
+
+    /// A page that was created before; nullptr when there is none of the name.
+    CComponentPage* Page(const std::string& name) const;
+
+    /// Releases all pages; no further ones are made. May be called again.
+    void UnInit();
 
 private:
-    std::map<std::string, std::unique_ptr<QWidget>> m_pages;
+    CComponentPage* MakePage(const std::string& name);
+
+    std::map<std::string, PageCreator> m_creators;
+    std::map<std::string, std::unique_ptr<CComponentPage>> m_pages;
 };
 
 } // namespace video

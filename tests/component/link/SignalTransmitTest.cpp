@@ -1,11 +1,15 @@
 #include "SignalTransmit.h"
 #include "WndIdManager.h"
 #include "logical/Communication/RouteTable.h"
+#include "logical/System/CurrentUser.h"
 #include "support/CapturedLog.h"
+#include "ui/System/SystemconfigUIManager.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
+#include <QMenu>
 #include <QThread>
 
 #include <thread>
@@ -15,14 +19,27 @@ using video::CSignalTransmit;
 
 namespace {
 
+/// Keeps what it is told about users.
+class CToldPage : public video::CComponentPage
+{
+public:
+    CToldPage() : video::CComponentPage("told") {}
+    void StopWorking() override { told.push_back("stop"); }
+    void UpdateUser(const video::User& user) override { told.push_back(user.name); }
+
+    std::vector<std::string> told;
+};
+
 /// A transmitter with its windows; replies are kept.
 struct Transmitter
 {
     Transmitter()
-        : windows([](const std::string& name) {
-              return name == "Wiper" ? nullptr : std::make_unique<QWidget>();
-          }),
-          transmitter(windows, [this](const LPCCallBackData& call, const protocol::ILPCData& payload) {
+        : windows(
+              [](const std::string& name) {
+                  return name == "Wiper" ? nullptr : std::make_unique<CToldPage>();
+              },
+              settings),
+          transmitter(windows, user, [this](const LPCCallBackData& call, const protocol::ILPCData& payload) {
               replies.emplace_back(call.requestId, payload.Key());
               return replyWorks;
           })
@@ -47,7 +64,16 @@ struct Transmitter
         ServeOnWorker({{method, {7, {{"method", method}}, body}}});
     }
 
+    CToldPage* Page(const std::string& name)
+    {
+        int wid = 0;
+        EXPECT_TRUE(windows.GetWID(name, wid)) << name;
+        return static_cast<CToldPage*>(QWidget::find(static_cast<WId>(wid)));
+    }
+
+    video::CSystemconfigUIManager settings;
     video::CWndIdManager windows;
+    video::CCurrentUser user;
     std::vector<std::pair<lpcclient::RequestId, std::string>> replies;
     bool replyWorks = true;
     CSignalTransmit transmitter;
@@ -176,6 +202,18 @@ INSTANTIATE_TEST_SUITE_P(
                               false,
                               {"Get wnd id Name:[Wiper].", "Get wnd id Error."},
                               {}},
+                    WindowRow{"SettingsPageThatIsMissing",
+                              "getWndHandle",
+                              WindowBody("getWndHandle", "VideoConfigPage"),
+                              false,
+                              {"Get wnd id Name:[VideoConfigPage].", "Get wnd id Error."},
+                              {"Get wnd Success id:[1]."}},
+                    WindowRow{"RemovedTabOfNothing",
+                              "appTabRemoved",
+                              WindowBody("appTabRemoved", "Kitchen"),
+                              false,
+                              {"There is no window [Kitchen] to hide."},
+                              {}},
                     WindowRow{"OtherMethodInBody",
                               "getWndHandle",
                               WindowBody("showWnd", "MainView"),
@@ -234,6 +272,83 @@ TEST(AnAuxiliaryScreenReplyThatFails, IsLoggedAsFailure)
     world.replyWorks = false;
     world.Serve("getAuxiliaryScreenApp", WindowBody("getAuxiliaryScreenApp", "SecondLiveView"));
     EXPECT_TRUE(log.Has("Return AuxiliaryScreenApp fail!!! APP-[SecondLiveView]"));
+}
+
+TEST(ARemovedTab, HidesItsPageAlone)
+{
+    Transmitter world;
+    CToldPage* const removed = world.Page("VideoFile");
+    CToldPage* const other = world.Page("SnapshotFile");
+    world.Serve("showWnd", WindowBody("showWnd", "VideoFile"));
+    world.Serve("showWnd", WindowBody("showWnd", "SnapshotFile"));
+    world.Serve("appTabRemoved", WindowBody("appTabRemoved", "VideoFile"));
+    EXPECT_FALSE(removed->isVisible());
+    EXPECT_TRUE(other->isVisible());
+    world.Serve("appTabRemoved", "{}");
+    EXPECT_TRUE(other->isVisible());
+}
+
+/// Two menus, one above the other, and two dialogs in front of a page.
+struct OpenWindows
+{
+    OpenWindows()
+    {
+        outerDialog.setModal(true);
+        innerDialog.setModal(true);
+        outerDialog.show();
+        innerDialog.show();
+        menu.popup({});
+        subMenu.popup({});
+    }
+
+    QDialog outerDialog;
+    QDialog innerDialog{&outerDialog};
+    QMenu menu;
+    QMenu subMenu{&menu};
+};
+
+TEST(WhatMovesTheTabs, ClosesPopupsWithoutAWordAndLeavesDialogsOpen)
+{
+    for (const char* method : {"tabSwitch", "frameworkMove"}) {
+        Transmitter world;
+        OpenWindows open;
+        ASSERT_TRUE(QApplication::activePopupWidget());
+        CapturedLog log;
+        world.Serve(method, "");
+        EXPECT_FALSE(QApplication::activePopupWidget()) << method;
+        EXPECT_TRUE(open.innerDialog.isVisible()) << method;
+        EXPECT_TRUE(log.Lines().empty()) << method;
+    }
+}
+
+TEST(AUserWhoLeaves, TakesPopupsAndDialogsAlongAndStopsEveryPage)
+{
+    CapturedLog log;
+    Transmitter world;
+    CToldPage* const pages[] = {world.Page("MainView"), world.Page("RecordSchedule")};
+    OpenWindows open;
+    world.Serve("switchUserStopWorking",
+                R"({"method": "switchUserStopWorking", "data": {"userName": "ann"}})");
+    EXPECT_FALSE(QApplication::activePopupWidget());
+    EXPECT_FALSE(open.innerDialog.isVisible());
+    EXPECT_FALSE(open.outerDialog.isVisible());
+    for (const CToldPage* page : pages)
+        EXPECT_EQ(page->told, std::vector<std::string>{"stop"});
+    EXPECT_TRUE(log.Has("The user [ann] leaves: the pages stop working."));
+}
+
+TEST(AUserWhoComes, IsKnownToThePagesAndToThoseWhoAsk)
+{
+    Transmitter world;
+    CToldPage* const page = world.Page("MainView");
+    const std::string kBen =
+        R"({"method": "switchUserUpdateFrame", "data": {"userName": "ben", "permissions": ["liveView"]}})";
+    world.Serve("switchUserUpdateFrame", kBen);
+    world.Serve("switchUserUpdateFrame", R"({"method": "switchUserUpdateFrame", "data": {"userName": 7}})");
+    EXPECT_EQ(page->told, std::vector<std::string>{"ben"});
+    EXPECT_EQ(world.user.Get().name, "ben");
+    EXPECT_TRUE(world.user.Get().May("liveView"));
+    EXPECT_FALSE(world.user.Get().May("users"));
 }
 
 } // namespace

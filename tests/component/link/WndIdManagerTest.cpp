@@ -1,39 +1,60 @@
 #include "WndIdManager.h"
 #include "support/CapturedLog.h"
+#include "ui/System/SystemconfigUIManager.h"
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QCloseEvent>
+
 #include <set>
 
+using video::CComponentPage;
+using video::CSystemconfigUIManager;
 using video::CWndIdManager;
 
 namespace {
 
 const std::vector<std::string> kNames = {
-    "MainView",      "RemotePlayback", "EncodingDevice",    "AuxiliaryScreen", "SecondLiveView",
-    "ThirdLiveView", "FourthLiveView", "StoragePlan",       "RecordSchedule",  "BroadcastWID",
-    "AlarmOutput",   "Wiper",          "StreamMediaServer", "VideoFile",       "SnapshotFile"};
+    "MainView",          "RemotePlayback", "EncodingDevice", "AuxiliaryScreen",
+    "SecondLiveView",    "ThirdLiveView",  "FourthLiveView", "StoragePlan",
+    "RecordSchedule",    "BroadcastWID",   "AlarmOutput",    "Wiper",
+    "StreamMediaServer", "VideoFile",      "SnapshotFile",   "ToolkitGallery"};
+const std::vector<std::string> kSettingsNames = {"VideoConfigPage", "ImageConfigPage", "ToolBarPage"};
 
 /// Windows whose pages are made by name; the names are kept.
 struct Windows
 {
     Windows()
-        : manager([this](const std::string& name) {
-              made.push_back(name);
-              return std::make_unique<QWidget>();
-          })
+        : manager(
+              [this](const std::string& name) {
+                  made.push_back(name);
+                  return std::make_unique<CComponentPage>(QString::fromStdString(name));
+              },
+              settings)
     {
         manager.Init();
     }
 
+    /// The page of a window that is there.
+    CComponentPage* Page(const std::string& name)
+    {
+        int wid = 0;
+        EXPECT_TRUE(manager.GetWID(name, wid)) << name;
+        return qobject_cast<CComponentPage*>(QWidget::find(static_cast<WId>(wid)));
+    }
+
     std::vector<std::string> made;
+    CSystemconfigUIManager settings;
     CWndIdManager manager;
 };
 
-TEST(TheWindows, AreThoseFifteenEachWithAPageOfItsOwn)
+TEST(TheWindows, AreTheFifteenAndTheGalleryEachWithAPageOfItsOwnAndTheSettingsPages)
 {
     Windows windows;
-    EXPECT_EQ(windows.manager.Names(), kNames);
+    std::vector<std::string> all = kNames;
+    all.insert(all.end(), kSettingsNames.begin(), kSettingsNames.end());
+    EXPECT_EQ(windows.manager.Names(), all);
     std::set<int> seen;
     for (const std::string& name : kNames) {
         int wid = 0;
@@ -58,6 +79,59 @@ TEST(APage, IsMadeOnceAndNotShownByAskingForIt)
     EXPECT_TRUE(QWidget::find(static_cast<WId>(first))->isVisible());
 }
 
+TEST(APageWhoseTabWasRemoved, IsHiddenAndServedAgain)
+{
+    Windows windows;
+    EXPECT_FALSE(windows.manager.HideWnd("VideoFile")) << "it was never made";
+    CComponentPage* const page = windows.Page("VideoFile");
+    const WId before = page->winId();
+    windows.manager.ShowWnd("VideoFile");
+    EXPECT_TRUE(windows.manager.HideWnd("VideoFile"));
+    EXPECT_FALSE(page->isVisible());
+    EXPECT_EQ(windows.Page("VideoFile"), page);
+    EXPECT_EQ(page->winId(), before);
+    EXPECT_EQ(windows.made.size(), 1u);
+}
+
+TEST(APage, HasNoFrameAndIgnoresRequestsToClose)
+{
+    Windows windows;
+    CComponentPage* const page = windows.Page("MainView");
+    EXPECT_TRUE(page->windowFlags() & Qt::FramelessWindowHint);
+    windows.manager.ShowWnd("MainView");
+    QCloseEvent request;
+    EXPECT_TRUE(QCoreApplication::sendEvent(page, &request));
+    EXPECT_FALSE(request.isAccepted());
+    EXPECT_FALSE(page->close());
+    EXPECT_TRUE(page->isVisible());
+}
+
+TEST(ASettingsPage, IsServedByItsManagerOnceItHasACreator)
+{
+    Windows windows;
+    int wid = 0;
+    for (const std::string& name : kSettingsNames)
+        EXPECT_FALSE(windows.manager.GetWID(name, wid)) << name;
+    EXPECT_EQ(windows.settings.GetPageWnd(""), CSystemconfigUIManager::kNoPage);
+
+    int created = 0;
+    windows.settings.SetPageCreator("ToolBarPage", [&] {
+        ++created;
+        return std::make_unique<CComponentPage>("tool bar");
+    });
+    windows.settings.SetPageCreator("ImageConfigPage", [] { return std::unique_ptr<CComponentPage>(); });
+    EXPECT_FALSE(windows.manager.ShowWnd("ToolBarPage")) << "it was not asked for yet";
+    CComponentPage* const page = windows.Page("ToolBarPage");
+    EXPECT_EQ(windows.Page("ToolBarPage"), page);
+    EXPECT_EQ(created, 1);
+    EXPECT_TRUE(windows.manager.ShowWnd("ToolBarPage"));
+    EXPECT_TRUE(page->isVisible());
+    EXPECT_EQ(windows.manager.Pages(), std::vector<CComponentPage*>{page});
+    EXPECT_FALSE(windows.manager.GetWID("ImageConfigPage", wid)) << "its creator failed";
+    windows.settings.UnInit();
+    EXPECT_FALSE(windows.manager.GetWID("ToolBarPage", wid));
+}
+
 TEST(TheMainView, LogsItsCreationOnce)
 {
     CapturedLog log;
@@ -65,9 +139,10 @@ TEST(TheMainView, LogsItsCreationOnce)
     int wid = 0;
     windows.manager.GetWID("MainView", wid);
     windows.manager.GetWID("MainView", wid);
-    EXPECT_EQ(log.Messages(Base::LogLevel::Info),
-              (std::vector<std::string>{"Init Preview Success.", "Get MainView WndId Success.",
-                                        "Get MainView WndId Success."}));
+    EXPECT_EQ(
+        log.Messages(Base::LogLevel::Info),
+        (std::vector<std::string>{"Made the page [MainView], titled [MainView].", "Init Preview Success.",
+                                  "Get MainView WndId Success.", "Get MainView WndId Success."}));
 }
 
 TEST(AGetter, WaitsForTheStartOfTheWindows)
