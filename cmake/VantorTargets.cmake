@@ -68,6 +68,15 @@ function(vantor_program target)
     endif()
 endfunction()
 
+# A plug-in of one folder, built into the folder OUTPUT below the binary folder's plugins/.
+function(vantor_module target)
+    vantor_begin(${target} ${ARGN})
+    add_library(${target} MODULE ${sources})
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS})
+    vantor_configure(${target} ${ARG_LINKS})
+    set_target_properties(${target} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/plugins/${ARG_OUTPUT}")
+endfunction()
+
 # A test program; every case becomes a test of its own, labelled with the kind (unit, component, system).
 function(vantor_test target)
     cmake_parse_arguments(ARG "QT" "KIND;TIMEOUT" "SOURCES;LINKS" ${ARGN})

@@ -20,6 +20,11 @@ QString QuotedFamilies(int language)
     return quoted.join(", ");
 }
 
+QString Pixels(int size)
+{
+    return QString::number(size) + "px";
+}
+
 bool Refuse(const char* what, const QString& format)
 {
     BASE_WARN("The %s format [%s] is not known and not used.", what, format.left(64).toUtf8().constData());
@@ -86,15 +91,14 @@ void CToolkit::setStyleParameters(const StyleParameters& parameters)
 StyleParameters CToolkit::AllParameters() const
 {
     const bool mirrored = m_direction == Qt::RightToLeft;
+    const int fontSize = getFontInfoByLanguage(m_language).pixelSize;
     StyleParameters parameters = {
-        {"theme", themeOfSkin(m_skinType)},
-        {"skin", m_skinType},
-        {"language", languageTag(m_language)},
-        {"direction", mirrored ? "rtl" : "ltr"},
-        {"start", mirrored ? "right" : "left"},
-        {"end", mirrored ? "left" : "right"},
-        {"font", QuotedFamilies(m_language)},
-        {"font-size", QString::number(getFontInfoByLanguage(m_language).pixelSize) + "px"},
+        {"theme", themeOfSkin(m_skinType)},        {"skin", m_skinType},
+        {"language", languageTag(m_language)},     {"direction", mirrored ? "rtl" : "ltr"},
+        {"start", mirrored ? "right" : "left"},    {"end", mirrored ? "left" : "right"},
+        {"font", QuotedFamilies(m_language)},      {"font-size", Pixels(fontSize)},
+        {"font-size-small", Pixels(fontSize - 2)}, {"font-size-heading", Pixels(fontSize + 2)},
+        {"font-size-title", Pixels(fontSize + 7)},
     };
     for (auto own = m_parameters.constBegin(); own != m_parameters.constEnd(); ++own)
         parameters.insert(own.key(), own.value());

@@ -55,6 +55,7 @@ public:
     ///   start, end  "left" and "right", exchanged when the layout runs from right to left
     ///   font        the font families of the language, quoted and separated by commas
     ///   font-size   the font size of the language in pixels, for example "14px"
+    ///   font-size-small, font-size-heading, font-size-title   those of badges, of sections and of pages
     /// besides those given to setStyleParameters, which win.
     QString handleQssByInputParams(const QString& qss);
 
