@@ -1,6 +1,6 @@
 #include "ui/Application/PageCatalogue.h"
 
-#include "VantorGallery/GalleryPage.h"
+#include "VantorGUIToolkit/Gallery/GalleryPage.h"
 #include "ui/Public/UnavailablePage.h"
 
 #include <QCoreApplication>

@@ -6,14 +6,21 @@
 
 namespace video {
 
+namespace {
+
+/// Until the framework's tab gives the page its size.
+constexpr int kPageWidth = 960;
+constexpr int kPageHeight = 600;
+
+} // namespace
+
 CComponentPage::CComponentPage(const QString& title) : QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint)
 {
     setWindowTitle(title);
     setProperty("surface", "page");
     setAttribute(Qt::WA_StyledBackground);
-    auto* guest = new embedding::CGuestWindow(this);
-    // The new window must not appear before the framework has embedded it.
-    connect(guest, &embedding::CGuestWindow::WindowLost, this, &QWidget::hide);
+    resize(kPageWidth, kPageHeight);
+    new embedding::CGuestWindow(this);
 }
 
 void CComponentPage::UpdateUser(const User&) {}

@@ -1,0 +1,76 @@
+#include "gallery/GalleryWindow.h"
+
+#include "gallery/GalleryLook.h"
+
+#include "VantorGUIToolkit/Gallery/GalleryPage.h"
+#include "VantorGUIToolkit/Widgets/Dress.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace gallery {
+
+using namespace VantorGUIToolkit;
+
+GalleryWindow::GalleryWindow(const Options& options) : m_skin(options.skin), m_language(options.language)
+{
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    Rebuild();
+    resize(1280, 900);
+}
+
+// Texts, icons and directions are taken when a widget is made, so everything is made anew.
+void GalleryWindow::Rebuild()
+{
+    TakeLook(m_skin, m_language);
+    delete m_content;
+    m_content = new QWidget(this);
+    auto* column = new QVBoxLayout(m_content);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(MakeBar());
+    auto* page = new CGalleryPage(m_content);
+    column->addWidget(page, 1);
+    setWindowTitle(page->windowTitle());
+    layout()->addWidget(m_content);
+}
+
+QWidget* GalleryWindow::MakeBar()
+{
+    auto* bar = new QWidget(m_content);
+    setSurface(bar, Surface::Bar);
+    auto* skins = new QComboBox(bar);
+    skins->setAccessibleName(tr("Skin"));
+    skins->addItems(SkinNames());
+    skins->setCurrentText(m_skin);
+    auto* languages = new QComboBox(bar);
+    languages->setAccessibleName(tr("Language"));
+    for (const int language : allLanguages())
+        languages->addItem(QLocale(languageTag(language)).nativeLanguageName(), language);
+    languages->setCurrentIndex(languages->findData(m_language));
+    auto* row = new QHBoxLayout(bar);
+    row->setContentsMargins(Grid::Wide, Grid::Small, Grid::Wide, Grid::Small);
+    row->setSpacing(Grid::Medium);
+    row->addWidget(skins);
+    row->addWidget(languages);
+    row->addStretch(1);
+    row->addWidget(makeLabel(tr("Scale: start again with QT_SCALE_FACTOR=1.5"), TextRole::Hint, bar));
+    // Rebuilding takes the combo boxes away, which their signals may not see.
+    const auto change = [this] { QTimer::singleShot(0, this, &GalleryWindow::Rebuild); };
+    connect(skins, QOverload<int>::of(&QComboBox::activated), this, [=] {
+        m_skin = skins->currentText();
+        change();
+    });
+    connect(languages, QOverload<int>::of(&QComboBox::activated), this, [=] {
+        m_language = languages->currentData().toInt();
+        change();
+    });
+    return bar;
+}
+
+} // namespace gallery

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "gallery/Options.h"
+
+#include <QWidget>
+
+namespace gallery {
+
+/// The gallery with a bar to change skin and language, and to say how the scale is changed.
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit GalleryWindow(const Options& options);
+
+private:
+    void Rebuild();
+    QWidget* MakeBar();
+
+    QString m_skin;
+    int m_language;
+    QWidget* m_content = nullptr;
+};
+
+} // namespace gallery

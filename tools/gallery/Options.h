@@ -1,0 +1,28 @@
+#pragma once
+
+#include "VantorGUIToolkit/Language.h"
+
+#include <QSize>
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace gallery {
+
+struct Options
+{
+    QString skin = QStringLiteral("BlackRedSkin");
+    int language = VantorGUIToolkit::English;
+    QString picture; ///< a PNG file to write; empty to show the window
+    QSize size = {1280, 3200};
+};
+
+/// Reads the command line. Nothing, with a line on stderr, for one that cannot be taken; ends the program
+/// itself for --help.
+std::optional<Options> ReadOptions(const QStringList& arguments);
+
+/// The skins that there are.
+QStringList SkinNames();
+
+} // namespace gallery
