@@ -22,7 +22,7 @@ constexpr int kSearchWidth = 240;
 CListPage::CListPage(const QString& title, const QString& sentence, const QStringList& headers, QWidget* parent)
     : QWidget(parent), m_header(new CPageHeader(title, sentence, this)), m_search(new CSearchEdit(this)),
       m_table(new CTableView(this)), m_model(new CListModel(headers, this)),
-      m_sorted(new QSortFilterProxyModel(this)), m_filtered(new QSortFilterProxyModel(this))
+      m_searched(new QSortFilterProxyModel(this)), m_filtered(new QSortFilterProxyModel(this))
 {
     setSurface(this, Surface::Page);
     m_search->setObjectName("search");
@@ -35,17 +35,17 @@ CListPage::CListPage(const QString& title, const QString& sentence, const QStrin
     layout->setSpacing(Grid::Large);
     layout->addWidget(m_header);
     layout->addWidget(m_table, 1);
-    connect(m_search, &QLineEdit::textChanged, m_sorted, &QSortFilterProxyModel::setFilterFixedString);
+    connect(m_search, &QLineEdit::textChanged, m_searched, &QSortFilterProxyModel::setFilterFixedString);
 }
 
 void CListPage::SetUpTable()
 {
-    m_sorted->setSourceModel(m_model);
-    m_sorted->setSortRole(Qt::UserRole);
-    m_sorted->setSortLocaleAware(true);
-    m_sorted->setFilterKeyColumn(-1);
-    m_sorted->setFilterCaseSensitivity(Qt::CaseInsensitive);
-    m_filtered->setSourceModel(m_sorted);
+    m_searched->setSourceModel(m_model);
+    
+
+    m_searched->setFilterKeyColumn(-1);
+    m_searched->setFilterCaseSensitivity(Qt::CaseInsensitive);
+    m_filtered->setSourceModel(m_searched);
     m_filtered->setSortRole(Qt::UserRole);
     m_filtered->setSortLocaleAware(true);
     m_table->setObjectName("table");
@@ -69,7 +69,7 @@ QString CListPage::SelectedId() const
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
     if (rows.isEmpty())
         return {};
-    return m_model->Row(m_sorted->mapToSource(m_filtered->mapToSource(rows.front())).row()).id;
+    return m_model->Row(m_searched->mapToSource(m_filtered->mapToSource(rows.front())).row()).id;
 }
 
 void CListPage::Select(const QString& id)
@@ -77,7 +77,7 @@ void CListPage::Select(const QString& id)
     const int row = m_model->RowOf(id);
     if (row < 0)
         return;
-    const QModelIndex shown = m_filtered->mapFromSource(m_sorted->mapFromSource(m_model->index(row, 0)));
+    const QModelIndex shown = m_filtered->mapFromSource(m_searched->mapFromSource(m_model->index(row, 0)));
     if (shown.isValid())
         m_table->selectRow(shown.row());
 }

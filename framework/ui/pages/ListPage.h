@@ -50,8 +50,8 @@ private:
     VantorGUIToolkit::CSearchEdit* m_search;
     VantorGUIToolkit::CTableView* m_table;
     CListModel* m_model;
-    QSortFilterProxyModel* m_sorted;
-    QSortFilterProxyModel* m_filtered; ///< above m_sorted; limits a column
+    QSortFilterProxyModel* m_searched;
+    QSortFilterProxyModel* m_filtered; ///< limits a column and sorts
 };
 
 } // namespace framework

@@ -3,12 +3,15 @@
 #include <QWidget>
 
 class QLabel;
-class QProgressBar;
-class QPushButton;
+class QStackedLayout;
+
+namespace VantorGUIToolkit {
+class CEmptyState;
+}
 
 namespace framework {
 
-/// A quiet page in the middle of a tab: an icon, a heading, a sentence, and a button or a sign of work.
+/// A quiet page in the middle of a tab: a sign of work, or a reason with a button. GUI thread.
 class CStatePage : public QWidget
 {
     Q_OBJECT
@@ -18,21 +21,18 @@ public:
 
     /// Shows that something is being waited for.
     void ShowBusy(const QString& heading, const QString& sentence);
-    /// Shows a reason. Without a text there is no button.
-    void ShowReason(const QString& icon, const QString& heading, const QString& sentence,
-                    const QString& button = {});
+    /// Shows why there is nothing else; button: what the user can do about it.
+    void ShowReason(const QString& icon, const QString& heading, const QString& sentence, const QString& button);
 
 signals:
     void ButtonPressed();
 
 private:
-    void SetTexts(const QString& heading, const QString& sentence);
-
-    QLabel* m_icon;
-    QProgressBar* m_busy;
+    QStackedLayout* m_stack;
+    QWidget* m_busy;
     QLabel* m_heading;
     QLabel* m_sentence;
-    QPushButton* m_button;
+    VantorGUIToolkit::CEmptyState* m_reason = nullptr;
 };
 
 } // namespace framework

@@ -6,11 +6,11 @@
 
 class QLabel;
 
-namespace framework {
+namespace VantorGUIToolkit {
+class CBadge;
+}
 
-/// A component's state as users read it, for example "Ready", and the tone that goes with it.
-QString TextOf(ComponentState state);
-const char* ToneOf(ComponentState state);
+namespace framework {
 
 /// The bar at the bottom: the component's state and the last event. GUI thread.
 class CStatusBar : public QFrame
@@ -24,7 +24,7 @@ public:
     void ShowEvent(const QString& text);
 
 private:
-    QLabel* m_state;
+    VantorGUIToolkit::CBadge* m_state;
     QLabel* m_event;
 };
 
