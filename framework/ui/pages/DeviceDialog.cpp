@@ -41,9 +41,10 @@ QLineEdit* MakeEdit(const char* name, QWidget* parent)
 CDeviceDialog::CDeviceDialog(CResources& resources, const QString& guid, QWidget* parent)
     : CDialog(guid.isEmpty() ? tr("Add device") : tr("Edit device"), parent), m_resources(resources),
       m_guid(guid), m_refusal(new CBanner({}, Tone::Error, this)), m_form(new CFormGrid(this)),
-      m_name(MakeEdit("deviceName", this)), m_type(new QComboBox(this)), m_address(MakeEdit("deviceAddress", this)),
-      m_port(MakeSpinBox(1, kMostPort, "devicePort", this)), m_user(MakeEdit("deviceUser", this)),
-      m_password(new CPasswordEdit(this)), m_channels(MakeSpinBox(0, kMostChannels, "deviceChannels", this))
+      m_name(MakeEdit("deviceName", this)), m_type(new QComboBox(this)),
+      m_address(MakeEdit("deviceAddress", this)), m_port(MakeSpinBox(1, kMostPort, "devicePort", this)),
+      m_user(MakeEdit("deviceUser", this)), m_password(new CPasswordEdit(this)),
+      m_channels(MakeSpinBox(0, kMostChannels, "deviceChannels", this))
 {
     setObjectName("deviceDialog");
     setMinimumWidth(kWidth);

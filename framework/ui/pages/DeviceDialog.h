@@ -12,7 +12,7 @@ namespace VantorGUIToolkit {
 class CBanner;
 class CFormGrid;
 class CPasswordEdit;
-}
+} // namespace VantorGUIToolkit
 
 namespace framework {
 

@@ -41,8 +41,8 @@ bool IsAddress(const QString& address)
 {
     static const QRegularExpression digits("^[0-9.]+$");
     static const QRegularExpression ipv4(R"(^((25[0-5]|2[0-4]\d|1?\d?\d)\.){3}(25[0-5]|2[0-4]\d|1?\d?\d)$)");
-    static const QRegularExpression host(
-        "^(?=.{1,253}$)[A-Za-z0-9]([A-Za-z0-9-]{0,61}[A-Za-z0-9])?(\\.[A-Za-z0-9]([A-Za-z0-9-]{0,61}[A-Za-z0-9])?)*$");
+    static const QRegularExpression host("^(?=.{1,253}$)[A-Za-z0-9]([A-Za-z0-9-]{0,61}[A-Za-z0-9])?(\\.[A-Za-"
+                                         "z0-9]([A-Za-z0-9-]{0,61}[A-Za-z0-9])?)*$");
     static const QRegularExpression ipv6("^(?=[^:]*:[^:]*:)[0-9A-Fa-f:]{2,39}(%[A-Za-z0-9]{1,15})?$");
     if (digits.match(address).hasMatch())
         return ipv4.match(address).hasMatch();

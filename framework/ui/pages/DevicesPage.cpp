@@ -69,7 +69,8 @@ void CDevicesPage::Reload()
                      {DeviceTypeText(device.typeCode), {}, {}},
                      {AddressText(device), {}, {}},
                      {QString::number(channels), channels, {}},
-                     {device.online ? tr("Online") : tr("Offline"), {},
+                     {device.online ? tr("Online") : tr("Offline"),
+                      {},
                       toneIconName(device.online ? Tone::Ok : Tone::Idle)}};
         rows.push_back(std::move(row));
     }
@@ -100,9 +101,10 @@ void CDevicesPage::RemoveDevice()
     DeviceEntry entry;
     if (guid.isEmpty() || !m_resources.EntryOf(guid.toStdString(), entry))
         return;
-    const QString question = tr("Remove the device \"%1\" with its channels?").arg(QString::fromStdString(entry.name));
-    if (CWarningDlg::CheckDangerousAction(question, tr("Remove device"), tr("Remove"), this) == 1
-        && m_resources.Remove(guid.toStdString()))
+    const QString question =
+        tr("Remove the device \"%1\" with its channels?").arg(QString::fromStdString(entry.name));
+    if (CWarningDlg::CheckDangerousAction(question, tr("Remove device"), tr("Remove"), this) == 1 &&
+        m_resources.Remove(guid.toStdString()))
         Reload();
 }
 

@@ -25,8 +25,8 @@ constexpr int kShortcutColumns = 4;
 constexpr int kEvents = 10;
 constexpr int kIconSize = 20;
 constexpr int kShortcutHeight = 56;
-const char* const kShortcuts[] = {"MainView",    "RemotePlayback", "RecordSchedule", "Devices",
-                                  "VideoFile",   "SnapshotFile",   "BroadcastWID",   "AlarmOutput"};
+const char* const kShortcuts[] = {"MainView",  "RemotePlayback", "RecordSchedule", "Devices",
+                                  "VideoFile", "SnapshotFile",   "BroadcastWID",   "AlarmOutput"};
 
 /// A card with a heading; returns the layout below it.
 QVBoxLayout* FillCard(QFrame* card, const QString& heading, QWidget* beside = nullptr)
@@ -142,7 +142,8 @@ QWidget* CHomePage::MakeEventsCard()
 void CHomePage::ShowDevices()
 {
     const auto devices = m_resources.Devices();
-    const auto online = std::count_if(devices.begin(), devices.end(), [](const auto& each) { return each.online; });
+    const auto online =
+        std::count_if(devices.begin(), devices.end(), [](const auto& each) { return each.online; });
     m_deviceCount->setText(tr("%1 of %2 online").arg(online).arg(devices.size()));
     m_deviceText->setText(devices.empty() ? tr("No device yet. Add the first one in the device list.")
                           : online == static_cast<long>(devices.size())

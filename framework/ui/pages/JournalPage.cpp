@@ -67,14 +67,17 @@ QString JournalTimeText(const JournalEntry& entry)
     return toolkit().dateTimeText(QDateTime::fromSecsSinceEpoch(entry.time));
 }
 
-CJournalPage::CJournalPage(const CJournal& journal, const QString& title, const QString& sentence, QWidget* parent)
-    : CListPage(title, sentence, {tr("Time"), tr("Kind"), tr("User"), tr("Event")}, parent), m_journal(journal)
+CJournalPage::CJournalPage(const CJournal& journal, const QString& title, const QString& sentence,
+                           QWidget* parent)
+    : CListPage(title, sentence, {tr("Time"), tr("Kind"), tr("User"), tr("Event")}, parent),
+      m_journal(journal)
 {
     setObjectName("journalPage");
     AddFilter(1, tr("All kinds"), AllKindTexts());
     for (int column = 0; column < int(std::size(kWidths)); ++column)
         Table().setColumnWidth(column, kWidths[column]);
-    Table().SetEmptyState("log", tr("Nothing has happened yet"), tr("What happens is listed here, the newest first."));
+    Table().SetEmptyState("log", tr("Nothing has happened yet"),
+                          tr("What happens is listed here, the newest first."));
     Table().sortByColumn(0, Qt::DescendingOrder);
     Reload();
 }

@@ -10,8 +10,7 @@ namespace framework {
 
 CListModel::CListModel(QStringList headers, QObject* parent)
     : QAbstractTableModel(parent), m_headers(std::move(headers))
-{
-}
+{}
 
 void CListModel::SetRows(std::vector<ListRow> rows)
 {
@@ -22,7 +21,8 @@ void CListModel::SetRows(std::vector<ListRow> rows)
 
 int CListModel::RowOf(const QString& id) const
 {
-    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [&](const auto& each) { return each.id == id; });
+    const auto row =
+        std::find_if(m_rows.begin(), m_rows.end(), [&](const auto& each) { return each.id == id; });
     return row == m_rows.end() ? -1 : static_cast<int>(row - m_rows.begin());
 }
 

@@ -19,7 +19,8 @@ constexpr int kSearchWidth = 240;
 
 } // namespace
 
-CListPage::CListPage(const QString& title, const QString& sentence, const QStringList& headers, QWidget* parent)
+CListPage::CListPage(const QString& title, const QString& sentence, const QStringList& headers,
+                     QWidget* parent)
     : QWidget(parent), m_header(new CPageHeader(title, sentence, this)), m_search(new CSearchEdit(this)),
       m_table(new CTableView(this)), m_model(new CListModel(headers, this)),
       m_searched(new QSortFilterProxyModel(this)), m_filtered(new QSortFilterProxyModel(this))
@@ -41,7 +42,6 @@ CListPage::CListPage(const QString& title, const QString& sentence, const QStrin
 void CListPage::SetUpTable()
 {
     m_searched->setSourceModel(m_model);
-    
 
     m_searched->setFilterKeyColumn(-1);
     m_searched->setFilterCaseSensitivity(Qt::CaseInsensitive);

@@ -11,7 +11,7 @@ namespace VantorGUIToolkit {
 class CPageHeader;
 class CSearchEdit;
 class CTableView;
-}
+} // namespace VantorGUIToolkit
 
 namespace framework {
 

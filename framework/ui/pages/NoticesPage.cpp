@@ -11,8 +11,8 @@ namespace framework {
 using namespace VantorGUIToolkit;
 
 CNoticesPage::CNoticesPage(const CJournal& notices, CUnreadNotices& unread, QWidget* parent)
-    : CJournalPage(notices, tr("Notification centre"), tr("Alarms and messages of devices and of the system."),
-                   parent),
+    : CJournalPage(notices, tr("Notification centre"),
+                   tr("Alarms and messages of devices and of the system."), parent),
       m_markRead(Header().AddAction(tr("Mark all as read"), ButtonKind::Normal))
 {
     setObjectName("noticesPage");

@@ -42,13 +42,14 @@ auto Values(const FrameworkChoices& c)
 } // namespace
 
 CSettingsPage::CSettingsPage(CFrameworkSettings& settings, QWidget* parent)
-    : QWidget(parent), m_settings(settings), m_skin(new CSkinPicker(this)), m_language(new CLanguageBox(this)),
-      m_date(new QComboBox(this)), m_time(new QComboBox(this)), m_video(new CPathComboBox(this)),
-      m_picture(new CPathComboBox(this))
+    : QWidget(parent), m_settings(settings), m_skin(new CSkinPicker(this)),
+      m_language(new CLanguageBox(this)), m_date(new QComboBox(this)), m_time(new QComboBox(this)),
+      m_video(new CPathComboBox(this)), m_picture(new CPathComboBox(this))
 {
     setObjectName("settingsPage");
     setSurface(this, Surface::Page);
-    auto* header = new CPageHeader(tr("Settings"), tr("These hold for the whole client, whoever works with it."), this);
+    auto* header =
+        new CPageHeader(tr("Settings"), tr("These hold for the whole client, whoever works with it."), this);
     m_discard = header->AddAction(tr("Discard"), ButtonKind::Normal);
     m_discard->setObjectName("discard");
     m_apply = header->AddAction(tr("Apply"), ButtonKind::Primary);

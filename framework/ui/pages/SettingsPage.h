@@ -10,7 +10,7 @@ class QPushButton;
 namespace VantorGUIToolkit {
 class CFormGrid;
 class CPathComboBox;
-}
+} // namespace VantorGUIToolkit
 
 namespace framework {
 

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QResource>
+#include <QStyle>
 
 namespace framework {
 
@@ -19,7 +20,8 @@ constexpr QSize kPicture(152, 96);
 constexpr int kFrame = 2;
 constexpr int kRadius = 6;
 
-// The package of a skin that is not the one in use is put below a root of its own, so that the two do not mix.
+// The package of a skin that is not the one in use is put below a root of its own, so that the two do not
+// mix.
 SkinPalette PaletteOf(const QString& skin)
 {
     const QString package = toolkit().targetPath() + "../plugins/skins/VantorGUIToolKit" + skin + ".rcc";
@@ -82,11 +84,21 @@ void CSkinTile::PaintWindow(QPainter& painter, const QRect& place) const
         const char* role;
     };
     const Block blocks[] = {
-        {{0, 0, 152, 16}, "bar"},          {{6, 5, 40, 6}, "text"},          {{126, 4, 20, 8}, "accent"},
-        {{0, 16, 40, 80}, "surface"},      {{4, 22, 32, 10}, "selection"},   {{8, 38, 24, 4}, "text-secondary"},
-        {{8, 48, 24, 4}, "text-secondary"}, {{8, 58, 20, 4}, "text-secondary"}, {{48, 24, 96, 64}, "surface-raised"},
-        {{54, 30, 48, 6}, "text"},         {{54, 42, 84, 4}, "border-strong"}, {{54, 52, 84, 4}, "border-strong"},
-        {{54, 62, 60, 4}, "border-strong"}, {{54, 74, 28, 8}, "accent"},      {{88, 74, 28, 8}, "button"},
+        {{0, 0, 152, 16}, "bar"},
+        {{6, 5, 40, 6}, "text"},
+        {{126, 4, 20, 8}, "accent"},
+        {{0, 16, 40, 80}, "surface"},
+        {{4, 22, 32, 10}, "selection"},
+        {{8, 38, 24, 4}, "text-secondary"},
+        {{8, 48, 24, 4}, "text-secondary"},
+        {{8, 58, 20, 4}, "text-secondary"},
+        {{48, 24, 96, 64}, "surface-raised"},
+        {{54, 30, 48, 6}, "text"},
+        {{54, 42, 84, 4}, "border-strong"},
+        {{54, 52, 84, 4}, "border-strong"},
+        {{54, 62, 60, 4}, "border-strong"},
+        {{54, 74, 28, 8}, "accent"},
+        {{88, 74, 28, 8}, "button"},
     };
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_palette.Color("window"));
@@ -111,7 +123,8 @@ void CSkinTile::paintEvent(QPaintEvent*)
     font.setBold(isChecked());
     painter.setFont(font);
     painter.setPen(palette().color(QPalette::WindowText));
-    const QRect text(shown.left(), shown.bottom() + Grid::Small - 2, shown.width(), fontMetrics().height() + 2);
+    const QRect text(shown.left(), shown.bottom() + Grid::Small - 2, shown.width(),
+                     fontMetrics().height() + 2);
     painter.drawText(text, Qt::AlignHCenter | Qt::AlignVCenter, this->text());
 }
 

@@ -10,7 +10,7 @@ class QComboBox;
 namespace VantorGUIToolkit {
 class CFormGrid;
 class CPasswordEdit;
-}
+} // namespace VantorGUIToolkit
 
 namespace framework {
 

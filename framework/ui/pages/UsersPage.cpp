@@ -200,7 +200,8 @@ void CUsersPage::SaveUser()
 {
     const User user = Entered();
     const std::vector<User> all = m_users.All();
-    const bool taken = std::any_of(all.begin(), all.end(), [&](const User& each) { return each.name == user.name; });
+    const bool taken =
+        std::any_of(all.begin(), all.end(), [&](const User& each) { return each.name == user.name; });
     const QString nameError = user.name.empty()  ? tr("Enter a name.")
                               : m_isNew && taken ? tr("There is a user of this name.")
                                                  : QString();
@@ -214,16 +215,16 @@ void CUsersPage::SaveUser()
     if (m_users.Put(user, password, error))
         error.clear();
     ShowResult(error, tr("The user was saved."));
-    if (const auto found = m_list->findItems(QString::fromStdString(user.name), Qt::MatchExactly); !found.isEmpty())
+    if (const auto found = m_list->findItems(QString::fromStdString(user.name), Qt::MatchExactly);
+        !found.isEmpty())
         m_list->setCurrentItem(found.front());
 }
 
 void CUsersPage::RemoveUser()
 {
     const QString name = m_name->text();
-    if (CWarningDlg::CheckDangerousAction(tr("Remove the user \"%1\"?").arg(name), tr("Remove user"), tr("Remove"),
-                                          this)
-        != 1)
+    if (CWarningDlg::CheckDangerousAction(tr("Remove the user \"%1\"?").arg(name), tr("Remove user"),
+                                          tr("Remove"), this) != 1)
         return;
     std::string error;
     if (m_users.Remove(name.toStdString(), error))

@@ -13,7 +13,7 @@ namespace VantorGUIToolkit {
 class CBanner;
 class CFormGrid;
 class CPasswordEdit;
-}
+} // namespace VantorGUIToolkit
 
 namespace framework {
 

@@ -13,7 +13,8 @@ void CCoreWindows::Ask(const QString& name, std::function<void(const WindowHandl
         WindowHandle handle;
         if (wnd)
             handle.wnd = *wnd;
-        QMetaObject::invokeMethod(this, [onAnswer, handle] { onAnswer(handle); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [onAnswer, handle] { onAnswer(handle); }, Qt::QueuedConnection);
     });
 }
 

@@ -29,7 +29,8 @@ StateLook LookOf(ComponentState state)
     case ComponentState::Waiting:
         return {WORDS("Restarting"), WORDS("The component ended and will be started again."), Tone::Warn};
     case ComponentState::GivenUp:
-        return {WORDS("Failed"), WORDS("The component ended too often and is not started again."), Tone::Error};
+        return {WORDS("Failed"), WORDS("The component ended too often and is not started again."),
+                Tone::Error};
     case ComponentState::Stopped:
         break;
     }

@@ -23,11 +23,10 @@ struct WindowMemory : protocol::CMessage<WindowMemory, protocol::IInboundData>
     {
         using T = WindowMemory;
         using protocol::May;
-        return std::make_tuple(May("geometry", &T::geometry), May("maximized", &T::maximized),
-                               May("tabs", &T::tabs), May("currentTab", &T::currentTab),
-                               May("navigationCollapsed", &T::navigationCollapsed),
-                               May("closedGroups", &T::closedGroups),
-                               May("unreadNotices", &T::unreadNotices));
+        return std::make_tuple(
+            May("geometry", &T::geometry), May("maximized", &T::maximized), May("tabs", &T::tabs),
+            May("currentTab", &T::currentTab), May("navigationCollapsed", &T::navigationCollapsed),
+            May("closedGroups", &T::closedGroups), May("unreadNotices", &T::unreadNotices));
     }
 
     /// From the file; as at the first start when there is none or it cannot be read.

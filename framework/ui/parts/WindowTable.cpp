@@ -19,7 +19,7 @@ struct GroupTitle
 };
 
 constexpr GroupTitle kGroupTitles[] = {
-    {WindowGroup::LiveView, TITLE("Live View")}, {WindowGroup::Playback, TITLE("Playback")},
+    {WindowGroup::LiveView, TITLE("Live View")},  {WindowGroup::Playback, TITLE("Playback")},
     {WindowGroup::Recording, TITLE("Recording")}, {WindowGroup::Devices, TITLE("Devices")},
     {WindowGroup::Tools, TITLE("Tools")},         {WindowGroup::System, TITLE("System")},
 };
@@ -60,7 +60,8 @@ const std::vector<WindowRow>& AllWindows()
 const WindowRow* FindWindow(const QString& name)
 {
     const auto& all = AllWindows();
-    const auto row = std::find_if(all.begin(), all.end(), [&](const auto& each) { return name == each.name; });
+    const auto row =
+        std::find_if(all.begin(), all.end(), [&](const auto& each) { return name == each.name; });
     return row == all.end() ? nullptr : &*row;
 }
 

@@ -17,9 +17,9 @@ QString TitleOf(WindowGroup group);
 /// A tab that can be opened.
 struct WindowRow
 {
-    const char* name;       ///< the component's window name, or the name of a tab of the framework's own
-    const char* title;      ///< in English
-    const char* icon;       ///< see VantorGUIToolkit/Icons.h
+    const char* name;  ///< the component's window name, or the name of a tab of the framework's own
+    const char* title; ///< in English
+    const char* icon;  ///< see VantorGUIToolkit/Icons.h
     WindowGroup group;
     const char* permission; ///< what the user must be allowed to do; empty: everybody may open it
     bool isOwn;             ///< the framework's own, not a window of the component

@@ -83,9 +83,10 @@ void CComponentTab::ShowStatePage(TabState state)
         return m_statePage->ShowBusy(tr("The component ended. It is being restarted…"),
                                      tr("Your tabs come back by themselves."));
     case TabState::GivenUp:
-        return m_statePage->ShowReason("power", tr("The component is not running."),
-                                       tr("It ended too often, or was stopped. The operation log has the details."),
-                                       tr("Start the component"));
+        return m_statePage->ShowReason(
+            "power", tr("The component is not running."),
+            tr("It ended too often, or was stopped. The operation log has the details."),
+            tr("Start the component"));
     case TabState::Embedded:
         return;
     }

@@ -39,12 +39,14 @@ void AddMenu(const QMenu& menu, QJsonObject& items)
 {
     for (QAction* action : menu.actions())
         if (action->isVisible() && !action->objectName().isEmpty())
-            items.insert("menu:" + action->objectName(), ToJSON(ScreenRect(menu, menu.actionGeometry(action))));
+            items.insert("menu:" + action->objectName(),
+                         ToJSON(ScreenRect(menu, menu.actionGeometry(action))));
 }
 
 } // namespace
 
-CLayoutReport::CLayoutReport(CReport& report, Collect collect) : m_report(report), m_collect(std::move(collect))
+CLayoutReport::CLayoutReport(CReport& report, Collect collect)
+    : m_report(report), m_collect(std::move(collect))
 {
     m_settle.setSingleShot(true);
     connect(&m_settle, &QTimer::timeout, this, &CLayoutReport::Tell);

@@ -10,10 +10,10 @@ namespace framework {
 
 class CReport;
 
-/// Tells where things are on the screen, once they have stopped changing: {"event": "layout", "items": {...}}.
-/// Besides what the owner adds there are, for each window of the process that is shown, its named widgets as
-/// "ui:<object name>" and the entries of an open menu as "menu:<object name>". Only made when there is a
-/// report. GUI thread.
+/// Tells where things are on the screen, once they have stopped changing: {"event": "layout", "items":
+/// {...}}. Besides what the owner adds there are, for each window of the process that is shown, its named
+/// widgets as "ui:<object name>" and the entries of an open menu as "menu:<object name>". Only made when
+/// there is a report. GUI thread.
 class CLayoutReport : public QObject
 {
 public:

@@ -49,7 +49,8 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
     ConnectTabs();
     ConnectEvents();
     if (m_report.IsOpen())
-        m_layoutReport = std::make_unique<CLayoutReport>(m_report, [this](QJsonObject& items) { CollectItems(items); });
+        m_layoutReport =
+            std::make_unique<CLayoutReport>(m_report, [this](QJsonObject& items) { CollectItems(items); });
 }
 
 CMainWindow::~CMainWindow()
@@ -102,9 +103,8 @@ void CMainWindow::ConnectEvents()
     connect(&m_relay, &CEventRelay::UsersChanged, this, &CMainWindow::OnUsersChanged);
     connect(&m_relay, &CEventRelay::NoticeAdded, this, &CMainWindow::OnNotice);
     connect(&m_relay, &CEventRelay::ResizeWished, this, &CMainWindow::OnResizeWish);
-    connect(&m_relay, &CEventRelay::OperationAdded, this, [this](const JournalEntry& entry) {
-        m_status->ShowEvent(QString::fromStdString(entry.text));
-    });
+    connect(&m_relay, &CEventRelay::OperationAdded, this,
+            [this](const JournalEntry& entry) { m_status->ShowEvent(QString::fromStdString(entry.text)); });
     connect(&m_unread, &CUnreadNotices::Changed, this, [this](int count) {
         m_top->SetUnread(count);
         m_save.start(kSaveDelayMs);

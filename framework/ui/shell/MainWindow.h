@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/core/FrameworkEvents.h"
 #include "framework/ui/parts/WindowMemory.h"
 #include "framework/ui/shell/TabArea.h"
 

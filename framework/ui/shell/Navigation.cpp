@@ -142,8 +142,10 @@ void CNavigation::UpdateItems()
     }
     for (auto heading = m_headings.cbegin(); heading != m_headings.cend(); ++heading) {
         const bool closed = m_closed.contains(static_cast<WindowGroup>(heading.key()));
-        heading.value()->setIcon(VantorGUIToolkit::icon(
-            !closed ? "chevron-down" : layoutDirection() == Qt::RightToLeft ? "chevron-left" : "chevron-right"));
+        heading.value()->setIcon(VantorGUIToolkit::icon(!closed ? "chevron-down"
+                                                        : layoutDirection() == Qt::RightToLeft
+                                                            ? "chevron-left"
+                                                            : "chevron-right"));
         heading.value()->setVisible(!m_collapsed && groupHasItems.value(heading.key()));
     }
 }

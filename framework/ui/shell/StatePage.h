@@ -22,7 +22,8 @@ public:
     /// Shows that something is being waited for.
     void ShowBusy(const QString& heading, const QString& sentence);
     /// Shows why there is nothing else; button: what the user can do about it.
-    void ShowReason(const QString& icon, const QString& heading, const QString& sentence, const QString& button);
+    void ShowReason(const QString& icon, const QString& heading, const QString& sentence,
+                    const QString& button);
 
 signals:
     void ButtonPressed();

@@ -23,8 +23,7 @@ const char* NameOf(TabState state)
 
 CTabSession::CTabSession(QString name, IComponentWindows& component, ITabView& view)
     : m_name(std::move(name)), m_component(component), m_view(view)
-{
-}
+{}
 
 void CTabSession::Open()
 {
