@@ -13,6 +13,8 @@
 
 namespace framework {
 
+struct FrameworkParts;
+
 /// How the framework is started.
 struct FrameworkOptions
 {
@@ -76,8 +78,7 @@ public:
     CJournal& Notices();    ///< the notification centre
 
 private:
-    struct Parts;
-    std::unique_ptr<Parts> m_parts;
+    std::unique_ptr<FrameworkParts> m_parts;
 };
 
 } // namespace framework

@@ -2,6 +2,7 @@
 
 #include "Base/Encrypt.h"
 
+#include <array>
 #include <optional>
 #include <string>
 
@@ -24,6 +25,12 @@ struct DataEncryption
     /// The parameters of Base::Encrypt made of the data key, labelled with the id.
     Base::Encrypt::AESParams Params() const;
 };
+
+/// The setup in the user data root, and those that older releases left there, in the order in which they are
+/// tried.
+inline constexpr const char* kFrameworkSetup = "Framework.C/DESetup.xml";
+inline constexpr std::array<const char*, 3> kOlderSetups = {"ClientDESetup.xml", "Framework.S/DESetup.xml",
+                                                            "DESetup.xml"};
 
 /// The data-encryption setup file and the sealing key beside it.
 ///

@@ -12,9 +12,6 @@
 namespace comm_method {
 namespace {
 
-/// The setups that older releases left, in the order in which they are tried.
-constexpr const char* kOlderSetups[] = {"ClientDESetup.xml", "Framework.S/DESetup.xml", "DESetup.xml"};
-
 void Install(const DataEncryption& encryption)
 {
     const Base::Encrypt::AESParams params = encryption.Params();

@@ -46,7 +46,7 @@ private:
                         const std::vector<ComponentRecord>& components) const;
     bool MoveToFramework(const DataEncryption& encryption) const;
     void RemoveOlder() const;
-    std::string FrameworkSetup() const { return m_paths.rootPath + "Framework.C/DESetup.xml"; }
+    std::string FrameworkSetup() const { return m_paths.rootPath + kFrameworkSetup; }
 
     const DBInitPaths m_paths;
     std::mutex m_mutex;

@@ -17,11 +17,23 @@ JsonValue MessageValue(const lpc::CallBackData& data)
     return OwnJson(message);
 }
 
+/// The served list in the body of a registration; none for a body without one.
+std::vector<std::string> ServedUrls(const std::string& registration)
+{
+    std::vector<std::string> urls;
+    const JsonValue body = ParseJson(registration);
+    const cJSON* list = Member(Member(body.get(), "componentRegisterInfo"), "supportUrlList");
+    const cJSON* url = nullptr;
+    cJSON_ArrayForEach(url, list) if (cJSON_IsString(url)) urls.emplace_back(url->valuestring);
+    return urls;
+}
+
 } // namespace
 
 CHost::CHost(std::string componentName)
     : m_componentName(std::move(componentName)), m_server(*this), m_traffic(m_server),
-      m_forwarder(m_server, m_traffic, m_componentName)
+      m_forwarder(m_server, "host", m_componentName,
+                  [this](const lpcforward::Passage& passage) { m_traffic.Show(passage); })
 {}
 
 CHost::~CHost()
@@ -56,7 +68,7 @@ void CHost::OnClientDisconnected(lpcserver::ClientId client)
     m_names.erase(client);
     m_traffic.RemoveWatcher(client);
     if (m_inbox.Client() == client)
-        m_forwarder.Learn({});
+        m_forwarder.SetServed({});
     m_inbox.Disconnected(client);
 }
 
@@ -75,7 +87,7 @@ void CHost::TakeFromComponent(lpcserver::ClientId client, const lpc::CallBackDat
     if (data.requestId == 0)
         return m_inbox.Add(CComponentInbox::Kind::Notification, MessageValue(data));
     if (data.Header("url") == kRegisterUrl)
-        m_forwarder.Learn(data.body);
+        m_forwarder.SetServed(ServedUrls(data.body));
     const CAnswers::Answer answer = m_answers.Find(data);
     if (!answer.silent) {
         m_traffic.Show({"reply", "host", m_componentName, answer.message.headers, answer.message.body});

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "lpc/host/Forwarder.h"
+#include "LPC_Forward/Forwarder.h"
 #include "lpc/host/Traffic.h"
 #include "lpc/script/Answers.h"
 #include "lpc/script/ComponentInbox.h"
@@ -45,7 +45,7 @@ private:
     std::map<lpcserver::ClientId, std::string> m_names; ///< only on the server's thread
     lpcserver::CLPCServer m_server;
     CTraffic m_traffic;
-    CForwarder m_forwarder;
+    lpcforward::CForwarder m_forwarder;
 };
 
 } // namespace lpctool

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LPC_Forward/Forwarder.h"
 #include "LPC_Server/LPC_Server.h"
 
 #include <map>
@@ -9,16 +10,7 @@
 
 namespace lpctool {
 
-/// One message on its way, for showing.
-struct Passage
-{
-    const char* kind; ///< "request", "reply" or "notify"
-    std::string from;
-    std::string to;
-    const lpc::HeaderMap& headers;
-    const std::string& body;
-    int error = 0; ///< of a reply: why there is none
-};
+using lpcforward::Passage;
 
 /// The passage as a JSON object on one line, credentials masked, bodies cut.
 std::string PassageText(const Passage& passage);

@@ -107,26 +107,6 @@ lpc::Message DefaultAnswer(const lpc::CallBackData& request)
 
 } // namespace
 
-lpc::Message MakeAnswer(int status, int errorCode, const std::string& body)
-{
-    lpc::Message message{{{lpc::kStatusHeader, std::to_string(status)}}, body};
-    if (errorCode != 0)
-        message.headers[lpc::kErrorCodeHeader] = std::to_string(errorCode);
-    if (!body.empty())
-        message.headers["Content-Type"] = kJsonContentType;
-    return message;
-}
-
-bool UrlMatches(const std::string& pattern, const std::string& url)
-{
-    const auto wanted = Base::StringUtil::Split(pattern, '/');
-    const auto got = Base::StringUtil::Split(url, '/');
-    return std::equal(wanted.begin(), wanted.end(), got.begin(), got.end(),
-                      [](const std::string& segment, const std::string& other) {
-                          return segment == other || (segment == "*" && !other.empty());
-                      });
-}
-
 void CAnswers::Serve(const std::string& url, const std::string& method, Answer answer)
 {
     std::lock_guard<std::mutex> lock(m_mutex);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LPC_Forward/Answer.h"
 #include "LPC_Wire/Records.h"
 #include "lpc/json/Json.h"
 
@@ -10,11 +11,9 @@
 
 namespace lpctool {
 
-/// Content type of JSON bodies on the channel.
-constexpr const char* kJsonContentType = "application/json; charset=\"UTF-8\"";
-
-/// Makes the message of an answer. Status and error number stand in headers of their own.
-lpc::Message MakeAnswer(int status, int errorCode, const std::string& body);
+using lpcforward::kJsonContentType;
+using lpcforward::MakeAnswer;
+using lpcforward::UrlMatches;
 
 /// What the host answers to requests of the component: first what a script served, the latest first, then
 /// defaults for every route that a framework serves. Any thread.
@@ -45,8 +44,5 @@ private:
     mutable std::mutex m_mutex;
     std::vector<Served> m_served;
 };
-
-/// True when the url has the pattern's segments; "*" in the pattern stands for any one segment.
-bool UrlMatches(const std::string& pattern, const std::string& url);
 
 } // namespace lpctool

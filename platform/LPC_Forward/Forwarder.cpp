@@ -1,11 +1,11 @@
-#include "lpc/host/Forwarder.h"
+#include "LPC_Forward/Forwarder.h"
 
-#include "lpc/script/Answers.h"
+#include "LPC_Forward/Answer.h"
 
 #include <algorithm>
 #include <cstdlib>
 
-namespace lpctool {
+namespace lpcforward {
 
 namespace {
 
@@ -21,20 +21,30 @@ std::uint32_t TimeoutOf(const lpc::CallBackData& data)
 
 } // namespace
 
-void CForwarder::Learn(const std::string& registration)
+CForwarder::CForwarder(lpcserver::CLPCServer& server, std::string ownName, std::string componentName,
+                       OnPassage onPassage)
+    : m_server(server), m_ownName(std::move(ownName)), m_componentName(std::move(componentName)),
+      m_onPassage(std::move(onPassage))
+{}
+
+void CForwarder::SetServed(std::vector<std::string> urls)
 {
-    m_served.clear();
-    const JsonValue body = ParseJson(registration);
-    const cJSON* list = Member(Member(body.get(), "componentRegisterInfo"), "supportUrlList");
-    const cJSON* url = nullptr;
-    cJSON_ArrayForEach(url, list) if (cJSON_IsString(url)) m_served.emplace_back(url->valuestring);
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_served = std::move(urls);
 }
 
 bool CForwarder::Serves(const lpc::CallBackData& data) const
 {
     const std::string url = data.Header("url");
     const std::string address = url.empty() ? data.Header("method") : url;
+    std::lock_guard<std::mutex> lock(m_mutex);
     return std::find(m_served.begin(), m_served.end(), address) != m_served.end();
+}
+
+void CForwarder::Show(const Passage& passage) const
+{
+    if (m_onPassage)
+        m_onPassage(passage);
 }
 
 void CForwarder::Forward(lpcserver::ClientId client, const std::string& name, const lpc::CallBackData& data,
@@ -43,7 +53,7 @@ void CForwarder::Forward(lpcserver::ClientId client, const std::string& name, co
     if (data.requestId != 0) {
         ForwardRequest(client, name, data, component);
     } else if (component != 0 && Serves(data)) {
-        m_traffic.Show({"notify", "host", m_componentName, data.headers, data.body});
+        Show({"notify", m_ownName, m_componentName, data.headers, data.body});
         (void)m_server.Notify(component, {data.headers, data.body});
     }
 }
@@ -55,9 +65,9 @@ void CForwarder::ForwardRequest(lpcserver::ClientId client, const std::string& n
         return Answer(client, name, data.requestId, MakeAnswer(503, lpc::kNotConnected, {}));
     if (!Serves(data))
         return Answer(client, name, data.requestId, MakeAnswer(404, 0, {}));
-    m_traffic.Show({"request", "host", m_componentName, data.headers, data.body});
+    Show({"request", m_ownName, m_componentName, data.headers, data.body});
     const auto relay = [this, client, name, id = data.requestId](int error, const lpc::Message& answer) {
-        m_traffic.Show({"reply", m_componentName, "host", answer.headers, answer.body, error});
+        Show({"reply", m_componentName, m_ownName, answer.headers, answer.body, error});
         if (error == lpc::kNoError)
             Answer(client, name, id, answer);
         else
@@ -71,8 +81,8 @@ void CForwarder::ForwardRequest(lpcserver::ClientId client, const std::string& n
 void CForwarder::Answer(lpcserver::ClientId client, const std::string& name, lpc::RequestId request,
                         const lpc::Message& answer)
 {
-    m_traffic.Show({"reply", "host", name, answer.headers, answer.body});
+    Show({"reply", m_ownName, name, answer.headers, answer.body});
     (void)m_server.Reply(client, {request, answer.headers, answer.body});
 }
 
-} // namespace lpctool
+} // namespace lpcforward

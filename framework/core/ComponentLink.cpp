@@ -1,0 +1,239 @@
+#include "framework/core/ComponentLink.h"
+
+#include "Base/Log.h"
+#include "LPC_Forward/Answer.h"
+#include "LPC_Wire/WellKnownNames.h"
+#include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
+#include "Protocol/JSONStruct/HTTP/Routes.h"
+#include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
+#include "Protocol/JSONStruct/WebSocket/WebSocketCommonJSONStruct.h"
+
+#include <algorithm>
+
+namespace framework {
+
+namespace {
+
+namespace route = protocol::route;
+
+/// More requests that nobody has served yet are answered with "try again".
+constexpr int kMostWaiting = 1000;
+
+constexpr const char* kAlarmMessage = "alarmMessage";
+
+lpc::Message MethodMessage(const std::string& method, std::string body)
+{
+    return {{{"method", method}}, std::move(body)};
+}
+
+lpc::Message WebsocketMessage(const std::string& type, const std::string& guid, const std::string& data)
+{
+    protocol::WebSocketNotifyData notification;
+    notification.type = type;
+    notification.guid = guid;
+    if (!data.empty())
+        notification.data.text = data;
+    return {{{"protocol", "websocket"}}, protocol::WriteJSONStr(notification)};
+}
+
+} // namespace
+
+CComponentLink::CComponentLink(Events events)
+    : m_events(std::move(events)), m_server(*this),
+      m_forwarder(m_server, "framework", lpc::kVideoComponentName)
+{
+    AddOwnRoutes();
+}
+
+CComponentLink::~CComponentLink()
+{
+    Stop();
+}
+
+void CComponentLink::AddOwnRoutes()
+{
+    using namespace protocol;
+    m_routes.Add("POST", route::kRegister,
+                 WithBody<ComponentRegisterInfo>(
+                     [this](const RouteRequest& request, const ComponentRegisterInfo& info) {
+                         return Register(request, info.supportUrlList);
+                     }));
+    m_routes.Add(
+        "POST", route::kAlarmRegister,
+        WithBody<AlarmRegisterData>([this](const RouteRequest& request, const AlarmRegisterData& alarms) {
+            return RegisterAlarms(request, alarms.alarmTypes);
+        }));
+}
+
+int CComponentLink::Listen()
+{
+    m_server.SetAccepting(false);
+    return m_server.Start(lpc::kFrameworkServerName);
+}
+
+void CComponentLink::Stop()
+{
+    m_server.Stop();
+    m_worker.Stop();
+}
+
+void CComponentLink::OnClientConnected(lpcserver::ClientId client, const std::string& name)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_clients[client].name = name;
+    }
+    if (name != lpc::kVideoComponentName)
+        return;
+    if (m_component != 0) {
+        BASE_WARN("A second client has the component's name; it is not taken for it.");
+        return;
+    }
+    m_component = client;
+    m_events.onJoined();
+}
+
+void CComponentLink::OnClientDisconnected(lpcserver::ClientId client)
+{
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_clients.erase(client);
+    }
+    if (m_component != client)
+        return;
+    m_component = 0;
+    m_forwarder.SetServed({});
+    m_events.onLeft();
+}
+
+void CComponentLink::OnData(lpcserver::ClientId client, const lpc::CallBackData& data)
+{
+    const std::string url = data.Header("url");
+    const bool isFromComponent = client == m_component;
+    if (data.requestId != 0 && (isFromComponent || m_routes.Knows(url)))
+        ServeLater(client, data);
+    else if (!isFromComponent)
+        m_forwarder.Forward(client, NameOf(client), data, m_component);
+    else if (url.empty())
+        m_events.onNotification(data.Header("method"));
+}
+
+void CComponentLink::ServeLater(lpcserver::ClientId client, const lpc::CallBackData& data)
+{
+    if (++m_waiting > kMostWaiting || !m_worker.PostTask([this, client, data] { Serve(client, data); })) {
+        --m_waiting;
+        Reply(client, data.requestId, lpcforward::MakeAnswer(503, lpc::kTryAgain, {}));
+    }
+}
+
+void CComponentLink::Serve(lpcserver::ClientId client, const lpc::CallBackData& data)
+{
+    --m_waiting;
+    RouteRequest request;
+    request.client = client;
+    request.isFromComponent = client == m_component;
+    request.body = data.body;
+    Reply(client, data.requestId,
+          m_routes.Serve(data.Header("url"), data.Header("method"), std::move(request)));
+}
+
+void CComponentLink::Reply(lpcserver::ClientId client, lpc::RequestId request, const lpc::Message& answer)
+{
+    const int error = m_server.Reply(client, {request, answer.headers, answer.body});
+    if (error != lpc::kNoError && error != lpc::kNotConnected)
+        BASE_WARN("An answer to a client could not be sent. [error-%d].", error);
+}
+
+lpc::Message CComponentLink::Register(const RouteRequest& request, const std::vector<std::string>& urls)
+{
+    if (!request.isFromComponent)
+        return Failed(403, "Only a component registers urls.");
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        const auto client = m_clients.find(request.client);
+        if (client == m_clients.end())
+            return Failed(403, "The component has left.");
+        client->second.isRegistered = true;
+    }
+    m_forwarder.SetServed(urls);
+    return Done();
+}
+
+lpc::Message CComponentLink::RegisterAlarms(const RouteRequest& request,
+                                            const std::vector<std::int32_t>& types)
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto client = m_clients.find(request.client);
+    if (client == m_clients.end())
+        return Failed(403, "The client has left.");
+    client->second.wantsAlarms = true;
+    client->second.alarmTypes = types;
+    return Done();
+}
+
+std::string CComponentLink::NameOf(lpcserver::ClientId client) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    const auto found = m_clients.find(client);
+    return found == m_clients.end() ? std::string() : found->second.name;
+}
+
+void CComponentLink::Send(lpcserver::ClientId client, const lpc::Message& notification)
+{
+    const int error = client == 0 ? lpc::kNotConnected : m_server.Notify(client, notification);
+    if (error != lpc::kNoError && error != lpc::kNotConnected)
+        BASE_WARN("A notification could not be sent. [error-%d].", error);
+}
+
+void CComponentLink::Notify(const protocol::ILPCData& payload)
+{
+    Send(m_component, MethodMessage(payload.Key(), protocol::WriteLPCStr(payload)));
+}
+
+void CComponentLink::NotifyMethod(const std::string& method)
+{
+    Send(m_component, MethodMessage(method, protocol::WriteLPCStr(method)));
+}
+
+void CComponentLink::Ask(const protocol::ILPCData& payload, std::uint32_t timeoutMs,
+                         std::function<void(const std::string*)> onAnswer)
+{
+    const auto take = [onAnswer](int error, const lpc::Message& answer) {
+        onAnswer(error == lpc::kNoError ? &answer.body : nullptr);
+    };
+    const lpc::Message request = MethodMessage(payload.Key(), protocol::WriteLPCStr(payload));
+    if (m_component == 0 || m_server.Send(m_component, request, timeoutMs, take) != lpc::kNoError)
+        onAnswer(nullptr);
+}
+
+void CComponentLink::Publish(const std::string& type, const std::string& guid, const std::string& data)
+{
+    const lpcserver::ClientId component = m_component;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        const auto client = m_clients.find(component);
+        if (client == m_clients.end() || !client->second.isRegistered)
+            return;
+    }
+    Send(component, WebsocketMessage(type, guid, data));
+}
+
+void CComponentLink::PublishAlarm(int alarmType, const std::string& guid, const std::string& data)
+{
+    std::vector<lpcserver::ClientId> takers;
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        for (const auto& [id, client] : m_clients) {
+            const auto& types = client.alarmTypes;
+            const bool fits =
+                types.empty() || std::find(types.begin(), types.end(), alarmType) != types.end();
+            if (client.wantsAlarms && fits)
+                takers.push_back(id);
+        }
+    }
+    for (const lpcserver::ClientId taker : takers)
+        Send(taker, WebsocketMessage(kAlarmMessage, guid, data));
+}
+
+} // namespace framework

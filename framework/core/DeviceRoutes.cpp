@@ -1,0 +1,184 @@
+#include "framework/core/Routes.h"
+
+#include "Protocol/JSONStruct/HTTP/Routes.h"
+#include "Protocol/JSONStruct/HTTP/ToolJSONStruct.h"
+
+#include <algorithm>
+
+namespace framework {
+
+namespace {
+
+namespace route = protocol::route;
+using protocol::DeviceResponseData;
+
+constexpr int kUnknownDevice = 404;
+constexpr int kOfflineDevice = 503;
+
+lpc::Message NoDevice(const std::string& guid)
+{
+    return Failed(404, "There is no device \"" + guid + "\".");
+}
+
+/// The device as that client may see it: a component gets the credentials, enciphered; others get none.
+DeviceResponseData ForClient(DeviceResponseData device, const RouteRequest& request,
+                             const Base::Encrypt::AESParams& seal)
+{
+    for (std::string* credential : {&device.userName, &device.password}) {
+        std::string plain;
+        plain.swap(*credential);
+        if (request.isFromComponent && !plain.empty())
+            *credential = Base::Encrypt::Seal(seal, plain);
+        Base::Encrypt::Wipe(plain);
+    }
+    return device;
+}
+
+lpc::Message AllDevices(const CResources& resources, const RouteRequest& request,
+                        const Base::Encrypt::AESParams& seal)
+{
+    protocol::DeviceResponseListData list;
+    for (DeviceResponseData& device : resources.Devices())
+        list.devices.push_back(ForClient(std::move(device), request, seal));
+    return Found(list);
+}
+
+lpc::Message OneDevice(const CResources& resources, const RouteRequest& request,
+                       const Base::Encrypt::AESParams& seal)
+{
+    for (DeviceResponseData& device : resources.Devices())
+        if (device.guid == request.ids[0])
+            return Found(ForClient(std::move(device), request, seal));
+    return NoDevice(request.ids[0]);
+}
+
+/// Serves a list of a device's parts: member of the message, filled by the function of the resources.
+template<typename List, typename Part>
+RouteHandler PartsOfDevice(CResources& resources, std::vector<Part> List::*member,
+                           std::vector<Part> (CResources::*parts)(const std::string&) const)
+{
+    return [&resources, member, parts](const RouteRequest& request) {
+        bool isOnline = false;
+        if (!resources.Find(request.ids[0], isOnline))
+            return NoDevice(request.ids[0]);
+        List list;
+        list.*member = (resources.*parts)(request.ids[0]);
+        return Found(list);
+    };
+}
+
+lpc::Message AllOutputs(const CResources& resources)
+{
+    protocol::AlarmOutputInfoData list;
+    list.outputs = resources.AlarmOutputs({});
+    return Found(list);
+}
+
+lpc::Message SwitchOutput(CResources& resources, const RouteRequest& request, bool active)
+{
+    const std::string& device = request.ids[0];
+    const std::string& output = request.ids[1];
+    bool isOnline = false;
+    if (!resources.Find(device, isOnline))
+        return NoDevice(device);
+    const auto outputs = resources.AlarmOutputs(device);
+    if (std::none_of(outputs.begin(), outputs.end(), [&](const auto& has) { return has.guid == output; }))
+        return Failed(404, "There is no alarm output \"" + output + "\".");
+    if (!isOnline)
+        return Failed(503, "The device is offline.");
+    return resources.SwitchOutput(device, output, active) ? Done()
+                                                          : Failed(500, "The state cannot be saved.");
+}
+
+lpc::Message ModifyGroups(CResources& resources, const protocol::ModifyGroupCondition& condition)
+{
+    protocol::GroupListData list;
+    list.groups = resources.ModifyGroups(condition);
+    return Found(list);
+}
+
+protocol::ResultCode ResultFor(const CResources& resources, const std::string& deviceGuid)
+{
+    bool isOnline = false;
+    protocol::ResultCode result;
+    if (!resources.Find(deviceGuid, isOnline))
+        result.errorCode = kUnknownDevice;
+    else if (!isOnline)
+        result.errorCode = kOfflineDevice;
+    return result;
+}
+
+lpc::Message SynchroniseTime(const CResources& resources, const RouteServices& services,
+                             const protocol::DeviceList& devices)
+{
+    protocol::TimeSyncResultListData list;
+    for (const std::string& guid : devices.deviceGuids)
+        list.results.push_back({guid, ResultFor(resources, guid)});
+    services.logOperation("The clocks of " + std::to_string(list.results.size()) +
+                          " devices were to be set.");
+    return Found(list);
+}
+
+lpc::Message MoveWipers(const CResources& resources, const RouteServices& services,
+                        const protocol::WiperControlData& control)
+{
+    const auto channels = resources.Channels({});
+    protocol::WiperControlResultListData list;
+    for (const std::string& guid : control.channelGuids) {
+        const auto channel = std::find_if(channels.begin(), channels.end(),
+                                          [&](const auto& candidate) { return candidate.guid == guid; });
+        list.results.push_back(
+            {guid, ResultFor(resources, channel == channels.end() ? std::string() : channel->deviceGuid)});
+    }
+    services.logOperation("The wipers of " + std::to_string(list.results.size()) +
+                          " cameras were to be moved.");
+    return Found(list);
+}
+
+std::string OfDevice(const char* rest)
+{
+    return std::string(route::kDevices) + "/*" + rest;
+}
+
+} // namespace
+
+// The alarm outputs of all devices stand before the single device, whose url they would match.
+void AddDeviceRoutes(CRouteTable& routes, CResources& resources, const RouteServices& services)
+{
+    using namespace protocol;
+    routes.Add("GET", route::kDevices, [&resources, services](const RouteRequest& request) {
+        return AllDevices(resources, request, services.seal);
+    });
+    routes.Add("GET", route::kAllAlarmOutputs,
+               [&resources](const RouteRequest&) { return AllOutputs(resources); });
+    routes.Add("GET", OfDevice(route::kNothing), [&resources, services](const RouteRequest& request) {
+        return OneDevice(resources, request, services.seal);
+    });
+    routes.Add("GET", OfDevice(route::kChannels),
+               PartsOfDevice(resources, &DeviceChannelListData::channels, &CResources::Channels));
+    routes.Add("GET", OfDevice(route::kAlarmInputs),
+               PartsOfDevice(resources, &AlarmInputInfoData::inputs, &CResources::AlarmInputs));
+    routes.Add("GET", OfDevice(route::kAlarmOutputs),
+               PartsOfDevice(resources, &AlarmOutputInfoData::outputs, &CResources::AlarmOutputs));
+    routes.Add("PUT", OfDevice(route::kAlarmOutputs) + "/*" + route::kControls,
+               WithBody<AlarmOutputControlData>(
+                   [&resources](const RouteRequest& request, const AlarmOutputControlData& control) {
+                       return SwitchOutput(resources, request, control.active);
+                   }));
+    routes.Add("PUT", route::kGroups,
+               WithBody<ModifyGroupCondition>(
+                   [&resources](const RouteRequest&, const ModifyGroupCondition& condition) {
+                       return ModifyGroups(resources, condition);
+                   }));
+    routes.Add("POST", route::kBatchTimeSynchronization,
+               WithBody<DeviceList>([&resources, services](const RouteRequest&, const DeviceList& devices) {
+                   return SynchroniseTime(resources, services, devices);
+               }));
+    routes.Add("POST", route::kWipers,
+               WithBody<WiperControlData>(
+                   [&resources, services](const RouteRequest&, const WiperControlData& control) {
+                       return MoveWipers(resources, services, control);
+                   }));
+}
+
+} // namespace framework

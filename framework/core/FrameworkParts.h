@@ -1,0 +1,75 @@
+#pragma once
+
+#include "Base/MessageLoop.h"
+#include "Protocol/JSONStruct/LPC/UserJSONStruct.h"
+#include "framework/core/ComponentLink.h"
+#include "framework/core/ComponentProcess.h"
+#include "framework/core/FrameworkCore.h"
+#include "framework/core/NewestOnly.h"
+#include "framework/core/Supervisor.h"
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+namespace framework {
+
+/// What the core is made of, and what goes on between the parts.
+///
+/// Threads: the server's (never waits), the worker of the routes, "component" (supervision, timers), "events"
+/// (calls of IFrameworkEvents and of window answers), and the callers'.
+struct FrameworkParts : Base::CNoncopyable
+{
+    FrameworkParts(IFrameworkEvents& events, FrameworkOptions options);
+
+    [[nodiscard]] bool Start(std::string& error);
+    void Stop();
+
+    /// Runs the work with the supervisor on its thread.
+    void Supervise(void (CSupervisor::*work)());
+    void GetWndHandle(const std::string& name, CFrameworkCore::WindowAnswer onAnswer);
+    bool SwitchUser(const std::string& name, const std::string& password);
+    void RaiseAlarm(const std::string& deviceGuid, const std::string& text);
+
+    bool IsExternal() const { return options.componentProgram.empty(); }
+    void Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<std::uint64_t> wnd);
+
+    IFrameworkEvents& events;
+    const FrameworkOptions options;
+    const std::string dataRoot; ///< the folder above the framework's own, ending in "/"
+    std::atomic<ComponentState> state{ComponentState::Stopped};
+    std::atomic<bool> resourceEventWaits{false};
+    std::atomic<bool> isStopped{false};
+    std::mutex userMutex;
+    std::string lastUser;
+
+    Base::CMessageLoop eventLoop{"events"};
+    std::unique_ptr<CJournal> operations;
+    std::unique_ptr<CJournal> notices;
+    std::unique_ptr<CFrameworkSettings> settings;
+    std::unique_ptr<CUsers> users;
+    std::unique_ptr<CResources> resources;
+    CTimedLoop loop{"component"};
+    CComponentLink link;
+    CComponentProcess process;
+    CSupervisor supervisor;                         ///< on the loop's thread
+    TNewestOnly<protocol::FrameworkMoveData> moves; ///< on the loop's thread
+
+private:
+    [[nodiscard]] bool Load(std::string& error);
+    void AddRoutes(const Base::Encrypt::AESParams& seal);
+    std::vector<std::string> Command() const;
+    CComponentLink::Events LinkEvents();
+    CComponentProcess::Ways ProcessWays();
+    void OnJoined();
+    void OnLeft();
+    void OnMethod(const std::string& method);
+    void OnState(ComponentState newState, const std::string& detail);
+    void OnResource(const ResourceChange& change);
+    void OnUsers();
+    void TellUser();
+};
+
+} // namespace framework

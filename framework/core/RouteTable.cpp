@@ -1,0 +1,61 @@
+#include "framework/core/RouteTable.h"
+
+#include "Base/Log.h"
+#include "LPC_Forward/Answer.h"
+#include "Protocol/JSONStruct/HTTP/HTTPCommonJSONStruct.h"
+
+#include <algorithm>
+
+namespace framework {
+
+lpc::Message Found(const protocol::IJSONStruct& answer)
+{
+    return lpcforward::MakeAnswer(200, 0, protocol::WriteJSONStr(answer));
+}
+
+lpc::Message Done()
+{
+    return Found(protocol::CommonResponseData());
+}
+
+lpc::Message Failed(int status, const std::string& reason)
+{
+    protocol::CommonResponseData response;
+    response.result.errorCode = status;
+    response.message = reason;
+    return lpcforward::MakeAnswer(status, 0, protocol::WriteJSONStr(response));
+}
+
+lpc::Message BadBody(const RouteRequest& request, const char* key)
+{
+    if (request.body.empty())
+        BASE_ERROR("A request without body should hold [%s].", key);
+    return Failed(400, std::string("The body holds no ") + key + ".");
+}
+
+void CRouteTable::Add(const char* method, std::string url, RouteHandler handler)
+{
+    m_rows.push_back({method, std::move(url), std::move(handler)});
+}
+
+bool CRouteTable::Knows(const std::string& url) const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [&](const Row& row) { return lpcforward::UrlMatches(row.url, url); });
+}
+
+lpc::Message CRouteTable::Serve(const std::string& url, const std::string& method, RouteRequest request) const
+{
+    bool isKnown = false;
+    for (const Row& row : m_rows) {
+        if (!lpcforward::UrlMatches(row.url, url, &request.ids))
+            continue;
+        isKnown = true;
+        if (row.method == method)
+            return row.handler(request);
+    }
+    return isKnown ? Failed(405, "The route does not serve this method.")
+                   : Failed(404, "There is no such route.");
+}
+
+} // namespace framework
