@@ -16,7 +16,7 @@ FontInfo getFontInfoByLanguage(int language)
     case Arabic:
         return {{"Segoe UI", "Noto Sans Arabic", "DejaVu Sans"}, 14, true, QFont::SansSerif};
     default:
-        return {{"Segoe UI", "Noto Sans", "DejaVu Sans"}, 13, true, QFont::SansSerif};
+        return {{"Segoe UI", "Inter", "Noto Sans", "DejaVu Sans"}, 13, true, QFont::SansSerif};
     }
 }
 

@@ -11,4 +11,7 @@ namespace VantorGUIToolkit {
 /// skin is loaded.
 QIcon icon(const QString& name);
 
+/// The same for a button of kind "primary", whose fill is the accent colour.
+QIcon iconOnAccent(const QString& name);
+
 } // namespace VantorGUIToolkit

@@ -1,11 +1,15 @@
 #include "VantorStyle/VantorStyle.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOption>
+#include <QStyledItemDelegate>
+#include <QTextCharFormat>
 #include <QVariant>
 #include <QWindow>
 
@@ -29,6 +33,8 @@ const std::map<QStyle::PixelMetric, int> kMetrics = {
     {QStyle::PM_ButtonIconSize, 16},
     {QStyle::PM_ToolBarIconSize, 20},
     {QStyle::PM_TabBarIconSize, 16},
+    {QStyle::PM_TabCloseIndicatorWidth, 16},
+    {QStyle::PM_TabCloseIndicatorHeight, 16},
     {QStyle::PM_ListViewIconSize, 16},
     {QStyle::PM_LargeIconSize, 32},
     {QStyle::PM_MessageBoxIconSize, 32},
@@ -157,6 +163,23 @@ void DrawRing(QPainter* painter, const QRect& around, const QColor& color)
     painter->restore();
 }
 
+// Days off are told by a quieter colour; Qt's own bright red can't be read on dark surfaces.
+void DressCalendar(QCalendarWidget* calendar, const SkinPalette& colors)
+{
+    QTextCharFormat format;
+    format.setForeground(colors.Color("text-secondary"));
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
+        calendar->setWeekdayTextFormat(day, format);
+}
+
+// The delegate that Qt gives the list of a combo box leaves style sheets aside; one that a page has set
+// stays.
+void DressComboList(QAbstractItemView* list)
+{
+    if (list->itemDelegate()->inherits("QComboBoxDelegate"))
+        list->setItemDelegate(new QStyledItemDelegate(list));
+}
+
 } // namespace
 
 CVantorStyle::CVantorStyle() : QProxyStyle("Fusion")
@@ -218,6 +241,12 @@ void CVantorStyle::polish(QWidget* widget)
     QProxyStyle::polish(widget);
     if (widget->property("surface").isValid())
         widget->setAttribute(Qt::WA_StyledBackground);
+    if (auto* header = qobject_cast<QHeaderView*>(widget); header && header->orientation() == Qt::Horizontal)
+        header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    if (widget->inherits("QComboBoxListView"))
+        DressComboList(static_cast<QAbstractItemView*>(widget));
+    if (auto* calendar = qobject_cast<QCalendarWidget*>(widget); calendar && m_colors)
+        DressCalendar(calendar, *m_colors);
 }
 
 void CVantorStyle::polish(QApplication* application)

@@ -27,7 +27,9 @@ public:
 
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;
-    /// Lets a widget that has the property "surface" draw the background that sheets give it.
+    /// Lets a widget that has the property "surface" draw the background that sheets give it, sets the titles
+    /// of columns where their texts are, lets sheets dress the lists of combo boxes,
+    /// and gives calendars readable days off.
     void polish(QWidget* widget) override;
     /// Watches the Alt key, which shows the underlines of mnemonics.
     void polish(QApplication* application) override;

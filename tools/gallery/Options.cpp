@@ -2,6 +2,8 @@
 
 #include <QCommandLineParser>
 
+#include <algorithm>
+
 namespace gallery {
 
 namespace {
@@ -34,10 +36,11 @@ std::optional<Options> ReadOptions(const QStringList& arguments)
     QCommandLineParser parser;
     parser.setApplicationDescription("Shows every widget of the toolkit in every state.");
     parser.addHelpOption();
-    parser.addOptions({{"skin", "One of " + SkinNames().join(", ") + ".", "name", SkinNames().first()},
-                       {"language", "1 English, 2 Chinese, 3 German, 13 Hebrew, 34 Arabic.", "number", "1"},
-                       {"picture", "Writes a picture (PNG) and ends.", "file"},
-                       {"size", "Size of the picture, 1280x3200 unless given.", "WxH", "1280x3200"}});
+    parser.addOptions(
+        {{"skin", "One of " + SkinNames().join(", ") + ".", "name", SkinNames().first()},
+         {"language", "1 English, 2 Chinese, 3 German, 13 Hebrew, 34 Arabic.", "number", "1"},
+         {"picture", "Writes a picture (PNG) and ends.", "file"},
+         {"size", "Size of the picture, such as 1280x900; the whole page unless given.", "WxH"}});
     if (!parser.parse(arguments))
         return Refuse(parser.errorText());
     if (parser.isSet("help"))
@@ -52,7 +55,7 @@ std::optional<Options> ReadOptions(const QStringList& arguments)
         return Refuse("no language [" + parser.value("language") + "]");
     options.picture = parser.value("picture");
     options.size = ReadSize(parser.value("size"));
-    if (!options.size.isValid())
+    if (parser.isSet("size") && !options.size.isValid())
         return Refuse("no size [" + parser.value("size") + "]");
     return options;
 }

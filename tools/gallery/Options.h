@@ -15,7 +15,7 @@ struct Options
     QString skin = QStringLiteral("BlackRedSkin");
     int language = VantorGUIToolkit::English;
     QString picture; ///< a PNG file to write; empty to show the window
-    QSize size = {1280, 3200};
+    QSize size;      ///< of the picture; empty for the whole page
 };
 
 /// Reads the command line. Nothing, with a line on stderr, for one that cannot be taken; ends the program

@@ -6,15 +6,26 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QLayout>
 
 namespace {
+
+QSize WholePage(const QWidget& page)
+{
+    constexpr int width = 1280;
+    const QWidget* content = page.findChild<QWidget*>("galleryContent");
+    content->layout()->activate();
+    const int height = content->layout()->hasHeightForWidth() ? content->layout()->totalHeightForWidth(width)
+                                                              : content->sizeHint().height();
+    return {width, height};
+}
 
 /// 0 when the picture is written.
 int WritePicture(const gallery::Options& options)
 {
     gallery::TakeLook(options.skin, options.language);
     VantorGUIToolkit::CGalleryPage page;
-    page.resize(options.size);
+    page.resize(options.size.isValid() ? options.size : WholePage(page));
     page.show();
     QApplication::processEvents();
     if (page.grab().save(options.picture, "PNG"))

@@ -28,7 +28,9 @@ W* Named(W* widget, const QString& name)
 
 QLineEdit* MakeEdit(const QString& text, const QString& name, QWidget* parent)
 {
-    return Named(new QLineEdit(text, parent), name);
+    QLineEdit* edit = Named(new QLineEdit(text, parent), name);
+    edit->setCursorPosition(0);
+    return edit;
 }
 
 } // namespace

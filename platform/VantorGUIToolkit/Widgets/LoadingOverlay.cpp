@@ -1,7 +1,6 @@
 #include "VantorGUIToolkit/Widgets/LoadingOverlay.h"
 
 #include "Base/Log.h"
-#include "VantorGUIToolkit/Restyle.h"
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QApplication>
@@ -11,7 +10,6 @@
 #include <QRunnable>
 #include <QThreadPool>
 #include <QVBoxLayout>
-#include <QVariant>
 
 #include <mutex>
 
@@ -139,10 +137,9 @@ void CLoadingOverlay::Cover()
 {
     while (QWidget* popup = QApplication::activePopupWidget())
         popup->close();
-    QWidget* focus = QApplication::focusWidget();
+    QWidget* focus = window()->focusWidget(); // also of a window that is not active now
     m_focusBefore = focus && parentWidget()->isAncestorOf(focus) ? focus : nullptr;
-    setProperty("surface", QVariant()); // not dimmed until Reveal
-    repolish(this);
+    setAttribute(Qt::WA_StyledBackground, false); // not dimmed until Reveal
     m_panel->hide();
     setGeometry(parentWidget()->rect());
     raise();
@@ -156,6 +153,7 @@ void CLoadingOverlay::Cover()
 void CLoadingOverlay::Reveal()
 {
     setSurface(this, Surface::Overlay);
+    update();
     m_movie->start();
     m_panel->show();
 }
@@ -166,7 +164,7 @@ void CLoadingOverlay::End()
     m_reveal.stop();
     m_movie->stop();
     qApp->removeEventFilter(this);
-    const bool giveFocusBack = m_focusBefore && (hasFocus() || !QApplication::focusWidget());
+    const bool giveFocusBack = m_focusBefore && window()->focusWidget() == this;
     hide();
     if (giveFocusBack)
         m_focusBefore->setFocus();

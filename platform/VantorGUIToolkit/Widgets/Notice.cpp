@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QScreen>
+#include <QTimer>
 #include <QToolButton>
 #include <QWindow>
 
@@ -39,12 +40,12 @@ QScreen* ScreenOf(const QWidget* anchor)
 
 CNotice::CNotice(const QString& text, NoticeTone tone)
     : QFrame(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::WindowDoesNotAcceptFocus),
-      m_remaining(LifetimeOf(text))
+      m_lifetime(new QTimer(this)), m_remaining(LifetimeOf(text))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_DeleteOnClose);
     setFocusPolicy(Qt::NoFocus);
-    setSurface(this, Surface::Card);
+    setAttribute(Qt::WA_StyledBackground);
     setTone(this, tone);
     setAccessibleName(text);
     setFixedWidth(kWidth);
@@ -61,9 +62,10 @@ CNotice::CNotice(const QString& text, NoticeTone tone)
     close->setFocusPolicy(Qt::NoFocus);
     connect(close, &QToolButton::clicked, this, &QWidget::close);
     row->addWidget(close, 0, Qt::AlignTop);
-    m_lifetime.setSingleShot(true);
-    connect(&m_lifetime, &QTimer::timeout, this, &QWidget::close);
-    m_lifetime.start(m_remaining);
+    m_lifetime->setObjectName("lifetime");
+    m_lifetime->setSingleShot(true);
+    connect(m_lifetime, &QTimer::timeout, this, &QWidget::close);
+    m_lifetime->start(m_remaining);
 }
 
 void CNotice::Show(const QString& text, NoticeTone tone, QWidget* anchor)
@@ -79,14 +81,14 @@ int CNotice::LifetimeOf(const QString& text)
 void CNotice::enterEvent(QEvent* event)
 {
     QFrame::enterEvent(event);
-    m_remaining = qMax(m_lifetime.remainingTime(), kAfterMouseMs);
-    m_lifetime.stop();
+    m_remaining = qMax(m_lifetime->remainingTime(), kAfterMouseMs);
+    m_lifetime->stop();
 }
 
 void CNotice::leaveEvent(QEvent* event)
 {
     QFrame::leaveEvent(event);
-    m_lifetime.start(m_remaining);
+    m_lifetime->start(m_remaining);
 }
 
 } // namespace VantorGUIToolkit

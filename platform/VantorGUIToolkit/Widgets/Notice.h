@@ -3,7 +3,8 @@
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QFrame>
-#include <QTimer>
+
+class QTimer;
 
 namespace VantorGUIToolkit {
 
@@ -35,7 +36,7 @@ protected:
 private:
     CNotice(const QString& text, NoticeTone tone);
 
-    QTimer m_lifetime;
+    QTimer* m_lifetime;
     int m_remaining; ///< milliseconds, kept while the mouse is on the notice
 };
 

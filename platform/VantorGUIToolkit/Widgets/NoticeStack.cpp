@@ -4,6 +4,7 @@
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -30,7 +31,7 @@ void CNoticeStack::Add(QWidget* notice, QScreen* screen)
     while (m_entries.size() >= kMost)
         Close(0);
     m_entries.push_back({notice, screen});
-    connect(notice, &QObject::destroyed, this, &CNoticeStack::Arrange);
+    notice->installEventFilter(this);
     notice->ensurePolished();
     Arrange();
     notice->show();
@@ -49,14 +50,29 @@ void CNoticeStack::Close(std::size_t index)
     m_entries.erase(m_entries.begin() + static_cast<std::ptrdiff_t>(index));
     if (!notice)
         return;
-    notice->disconnect(this);
+    notice->removeEventFilter(this);
     notice->close();
+}
+
+void CNoticeStack::Forget(const QObject* notice)
+{
+    const auto gone = [notice](const Entry& entry) { return !entry.notice || entry.notice == notice; };
+    m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), gone), m_entries.end());
+}
+
+// A notice that closes is hidden at once and deleted later.
+bool CNoticeStack::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Hide && !event->spontaneous()) {
+        Forget(watched);
+        Arrange();
+    }
+    return QObject::eventFilter(watched, event);
 }
 
 void CNoticeStack::Arrange()
 {
-    const auto gone = [](const Entry& entry) { return !entry.notice; };
-    m_entries.erase(std::remove_if(m_entries.begin(), m_entries.end(), gone), m_entries.end());
+    Forget(nullptr);
     for (Entry& entry : m_entries)
         if (!entry.screen)
             entry.screen = QGuiApplication::primaryScreen();

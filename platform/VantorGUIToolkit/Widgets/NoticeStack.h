@@ -30,6 +30,9 @@ public:
     /// The stack of this process.
     static CNoticeStack& Instance();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     struct Entry
     {
@@ -38,6 +41,7 @@ private:
     };
 
     void Close(std::size_t index);
+    void Forget(const QObject* notice);
     void Arrange();
     bool ArrangeOn(QScreen* screen);
 

@@ -1,0 +1,147 @@
+#include "VantorGUIToolkit/Gallery/GalleryPage.h"
+#include "VantorGUIToolkit/SkinLoader.h"
+#include "VantorGUIToolkit/Toolkit.h"
+#include "component/widgets/GuiDriving.h"
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QPushButton>
+
+using namespace VantorGUIToolkit;
+
+namespace {
+
+QStringList g_warnings;
+
+void Collect(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    const bool fromPlatform =
+        message.contains("This plugin does not support") || message.contains("XDG_RUNTIME");
+    if (type != QtDebugMsg && type != QtInfoMsg && !fromPlatform)
+        g_warnings << message;
+}
+
+/// The application in a skin and a language, as a program that uses the toolkit takes them on, and back.
+class Look
+{
+public:
+    Look(const QString& skin, int language)
+    {
+        g_warnings.clear();
+        m_before = qInstallMessageHandler(Collect);
+        QApplication::addLibraryPath(BUILT_PRODUCT "plugins");
+        CToolkit& look = toolkit();
+        look.setTargetPath(BUILT_PRODUCT "bin/");
+        look.loadTranslations(look.targetPath() + "../translations/", language);
+        look.setLocale(language);
+        const Qt::LayoutDirection direction = isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight;
+        look.setLayoutDirection(direction);
+        QApplication::setLayoutDirection(direction);
+        CSkinLoader loader(look);
+        loader.LoadFont(language);
+        skinLoaded = loader.LoadSkin(skin);
+        styleLoaded = loader.SetStyle();
+        loader.ApplySheets({});
+    }
+
+    ~Look()
+    {
+        qApp->setStyleSheet({});
+        QApplication::setLayoutDirection(Qt::LeftToRight);
+        toolkit().setLocale(English);
+        toolkit().UnInit();
+        toolkit().setTargetPath({});
+        qInstallMessageHandler(m_before);
+    }
+
+    bool skinLoaded;
+    bool styleLoaded;
+
+private:
+    QtMessageHandler m_before;
+};
+
+QString NameOf(QWidget* widget)
+{
+    if (!widget->accessibleName().isEmpty())
+        return widget->accessibleName();
+    const auto* button = qobject_cast<QAbstractButton*>(widget);
+    return button ? button->text() : QString();
+}
+
+/// Widgets that others are made of, such as the edit in a spin box, are spoken for by the outer one.
+bool IsPartOfAnother(const QWidget* widget)
+{
+    const QWidget* window = widget->window();
+    if (widget->objectName().startsWith("qt_") || window->windowType() == Qt::Popup)
+        return true;
+    const QWidget* parent = widget->parentWidget();
+    return parent && (qobject_cast<const QComboBox*>(parent) || parent->inherits("QAbstractSpinBox") ||
+                      parent->inherits("QTabWidget") || parent->inherits("QTabBar") ||
+                      (parent->inherits("QAbstractItemView") && !widget->inherits("QAbstractItemView")));
+}
+
+QStringList Nameless(const QWidget& page)
+{
+    QStringList found;
+    for (QWidget* widget : page.findChildren<QWidget*>())
+        if (widget->focusPolicy() != Qt::NoFocus && widget->isVisibleTo(&page) && !IsPartOfAnother(widget) &&
+            NameOf(widget).isEmpty())
+            found << QString("%1 %2").arg(widget->metaObject()->className(), widget->objectName());
+    return found;
+}
+
+struct Gallery : testing::TestWithParam<std::tuple<const char*, int>>
+{};
+
+} // namespace
+
+TEST_P(Gallery, IsMadeWithoutWarningsAndEveryWidgetHasAName)
+{
+    const auto [skin, language] = GetParam();
+    const Look look(skin, language);
+    ASSERT_TRUE(look.skinLoaded);
+    ASSERT_TRUE(look.styleLoaded);
+    {
+        CGalleryPage page;
+        page.resize(1280, 900);
+        page.show();
+        page.grab();
+        EXPECT_EQ(page.layoutDirection() == Qt::RightToLeft, isRightToLeft(language));
+        EXPECT_EQ(Nameless(page).join("\n").toStdString(), "");
+        const QString title = page.findChild<QLabel*>("pageTitle")->text();
+        EXPECT_EQ(title == "Gallery", language == English) << title.toStdString();
+    }
+    EXPECT_EQ(g_warnings.join("\n").toStdString(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(EverySkinAndLanguage, Gallery,
+                         testing::Combine(testing::Values("BlackRedSkin", "GreyRedSkin", "BlueSkin",
+                                                          "NeutralSkin"),
+                                          testing::ValuesIn(allLanguages())));
+
+TEST(GalleryPage, ItsWidgetsWork)
+{
+    CGalleryPage page;
+    page.show();
+    auto* button = page.findChild<QPushButton*>("galleryButton");
+    button->click();
+    button->click();
+    EXPECT_EQ(page.findChild<QLabel*>("galleryClicks")->text(), "Clicks: 2");
+    EXPECT_GE(page.findChild<QComboBox*>("galleryCombo")->count(), 32);
+    QMenu* menu = page.findChild<QPushButton*>("galleryMenuButton")->menu();
+    ASSERT_TRUE(menu);
+    menu->actions().first()->trigger();
+    EXPECT_EQ(page.findChild<QLabel*>("galleryChoice")->text(), "Add");
+    auto* check = page.findChild<QPushButton*>("galleryCheckButton");
+    auto* address = page.findChild<QLineEdit*>("galleryAddressEdit");
+    check->click();
+    EXPECT_TRUE(address->property("invalid").toBool());
+    address->setText("192.0.2.7");
+    check->click();
+    EXPECT_FALSE(address->property("invalid").toBool());
+}
