@@ -1,20 +1,12 @@
 #include "framework/ui/parts/CoreWindows.h"
 
-#include "framework/core/FrameworkCore.h"
-
-#include <QPointer>
-
 namespace framework {
 
 // The object outlives the core's threads (its owner stops the core first), so that posting to it is safe.
-void CCoreWindows::Ask(const QString& name, std::function<void(const WindowHandle&)> onAnswer)
+void CCoreWindows::Ask(const QString& name, Answer onAnswer)
 {
-    m_core.GetWndHandle(name.toStdString(), [this, onAnswer = std::move(onAnswer)](auto wnd) {
-        WindowHandle handle;
-        if (wnd)
-            handle.wnd = *wnd;
-        QMetaObject::invokeMethod(
-            this, [onAnswer, handle] { onAnswer(handle); }, Qt::QueuedConnection);
+    m_core.GetWndHandle(name.toStdString(), [this, onAnswer = std::move(onAnswer)](auto window) {
+        QMetaObject::invokeMethod(this, [onAnswer, window] { onAnswer(window); }, Qt::QueuedConnection);
     });
 }
 

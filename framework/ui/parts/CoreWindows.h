@@ -14,7 +14,7 @@ class CCoreWindows : public QObject, public IComponentWindows
 public:
     explicit CCoreWindows(CFrameworkCore& core) : m_core(core) {}
 
-    void Ask(const QString& name, std::function<void(const WindowHandle&)> onAnswer) override;
+    void Ask(const QString& name, Answer onAnswer) override;
     void Show(const QString& name) override;
     void Removed(const QString& name) override;
     void Start() override;

@@ -86,18 +86,18 @@ void CTabSession::OnGuestLost()
 void CTabSession::Ask()
 {
     const int question = ++m_question;
-    m_component.Ask(m_name, [self = QPointer<CTabSession>(this), question](const WindowHandle& handle) {
+    m_component.Ask(m_name, [self = QPointer<CTabSession>(this), question](const std::optional<ComponentWindow>& window) {
         if (self)
-            self->OnAnswer(question, handle);
+            self->OnAnswer(question, window);
     });
 }
 
-void CTabSession::OnAnswer(int question, const WindowHandle& handle)
+void CTabSession::OnAnswer(int question, const std::optional<ComponentWindow>& window)
 {
     if (question != m_question || m_closed)
         return;
-    m_handle = handle;
-    if (handle.wnd == 0 || !m_view.Embed(handle.wnd))
+    m_window = window.value_or(ComponentWindow());
+    if (!window || !m_view.Embed(m_window.wnd))
         return Enter(TabState::NoWindow);
     Enter(TabState::Embedded);
     m_component.Show(m_name);
@@ -107,7 +107,7 @@ void CTabSession::Leave(TabState state)
 {
     ++m_question;
     m_view.Release();
-    m_handle.wnd = 0;
+    m_window.wnd = 0;
     Enter(state);
 }
 

@@ -48,13 +48,13 @@ public:
     void OnGuestLost();
 
     TabState State() const { return m_state; }
-    quint64 Window() const { return m_handle.wnd; }
+    quint64 Window() const { return m_window.wnd; }
     /// False while the component's page only says that it does not exist yet.
-    bool IsAvailable() const { return m_handle.available; }
+    bool IsAvailable() const { return m_window.available; }
 
 private:
     void Ask();
-    void OnAnswer(int question, const WindowHandle& handle);
+    void OnAnswer(int question, const std::optional<ComponentWindow>& window);
     void Leave(TabState state);
     void Enter(TabState state);
 
@@ -62,7 +62,7 @@ private:
     IComponentWindows& m_component;
     ITabView& m_view;
     TabState m_state = TabState::Loading;
-    WindowHandle m_handle;
+    ComponentWindow m_window;
     int m_question = 0; ///< answers to earlier questions are stale
     bool m_closed = false;
 };
