@@ -2,6 +2,7 @@
 
 #include "Base/AsyncTask.h"
 #include "CommonMethodLib/UserDataPath.h"
+#include "VantorGUIToolkit/Widgets/NoticeStack.h"
 #include "framework/ui/Look.h"
 #include "framework/ui/StartDialog.h"
 #include "framework/ui/pages/SwitchUserDialog.h"
@@ -140,6 +141,7 @@ void CFrameworkApplication::OnChoices(const FrameworkChoices& before, const Fram
 void CFrameworkApplication::ChangeLook(const FrameworkChoices& choices)
 {
     m_window.reset();
+    VantorGUIToolkit::CNoticeStack::Instance().CloseAll();
     ApplyLook(choices);
     m_core.RestartComponent();
     MakeWindow();

@@ -6,10 +6,13 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QListView>
 #include <QPainter>
 #include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <QTextCharFormat>
+#include <QTimer>
+#include <QTreeView>
 #include <QVariant>
 #include <QWindow>
 
@@ -180,6 +183,12 @@ void DressComboList(QAbstractItemView* list)
         list->setItemDelegate(new QStyledItemDelegate(list));
 }
 
+// Views keep the heights that rows had before the sheet was known.
+void MeasureRowsAgain(QAbstractItemView* view)
+{
+    QTimer::singleShot(0, view, [view] { view->doItemsLayout(); });
+}
+
 } // namespace
 
 CVantorStyle::CVantorStyle() : QProxyStyle("Fusion")
@@ -243,6 +252,8 @@ void CVantorStyle::polish(QWidget* widget)
         widget->setAttribute(Qt::WA_StyledBackground);
     if (auto* header = qobject_cast<QHeaderView*>(widget); header && header->orientation() == Qt::Horizontal)
         header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    if (qobject_cast<QTreeView*>(widget) || qobject_cast<QListView*>(widget))
+        MeasureRowsAgain(static_cast<QAbstractItemView*>(widget));
     if (widget->inherits("QComboBoxListView"))
         DressComboList(static_cast<QAbstractItemView*>(widget));
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget); calendar && m_colors)

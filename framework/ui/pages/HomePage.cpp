@@ -6,6 +6,7 @@
 #include "framework/core/Journal.h"
 #include "framework/core/Resources.h"
 #include "framework/ui/pages/JournalPage.h"
+#include "framework/ui/parts/StartAlignedButton.h"
 #include "framework/ui/parts/StateText.h"
 #include "framework/ui/parts/WindowTable.h"
 
@@ -24,7 +25,6 @@ namespace {
 constexpr int kShortcutColumns = 4;
 constexpr int kEvents = 10;
 constexpr int kIconSize = 20;
-constexpr int kShortcutHeight = 56;
 const char* const kShortcuts[] = {"MainView",  "RemotePlayback", "RecordSchedule", "Devices",
                                   "VideoFile", "SnapshotFile",   "BroadcastWID",   "AlarmOutput"};
 
@@ -144,8 +144,9 @@ void CHomePage::ShowDevices()
     const auto devices = m_resources.Devices();
     const auto online =
         std::count_if(devices.begin(), devices.end(), [](const auto& each) { return each.online; });
-    m_deviceCount->setText(tr("%1 of %2 online").arg(online).arg(devices.size()));
-    m_deviceText->setText(devices.empty() ? tr("No device yet. Add the first one in the device list.")
+    m_deviceCount->setText(devices.empty() ? tr("No devices")
+                                           : tr("%1 of %2 online").arg(online).arg(devices.size()));
+    m_deviceText->setText(devices.empty() ? tr("Add the first one in the device list.")
                           : online == static_cast<long>(devices.size())
                               ? tr("All devices are reached.")
                               : tr("Some devices are not reached."));
@@ -165,12 +166,13 @@ void CHomePage::ShowUser(const User& user)
         const WindowRow* row = FindWindow(name);
         if (!row->MayOpen(user))
             continue;
-        QPushButton* button = makeButton(row->Title(), ButtonKind::Normal, this);
+        auto* button = new CStartAlignedButton(this);
+        button->setText(row->Title());
+        button->SetIndent(Grid::Large);
         button->setObjectName(QString("shortcut") + name);
         button->setProperty("kind", "shortcut");
         button->setIcon(icon(row->icon));
         button->setIconSize({kIconSize, kIconSize});
-        button->setMinimumHeight(kShortcutHeight);
         connect(button, &QPushButton::clicked, this, [this, name] { emit OpenRequested(name); });
         m_shortcuts->addWidget(button, index / kShortcutColumns, index % kShortcutColumns);
         ++index;
@@ -183,11 +185,15 @@ void CHomePage::ShowEvents()
 {
     Clear(*m_events);
     const std::vector<JournalEntry> entries = m_operations.Entries();
+    // Events are in English, which would stand at the left also where the layout runs from right to left.
+    const Qt::Alignment start = (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
+                                Qt::AlignAbsolute | Qt::AlignVCenter;
     const int count = std::min(kEvents, static_cast<int>(entries.size()));
     for (int row = 0; row < count; ++row) {
         const JournalEntry& entry = entries[entries.size() - 1 - static_cast<std::size_t>(row)];
         QLabel* text = makeLabel(QString::fromStdString(entry.text), TextRole::Plain, this);
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        text->setAlignment(start);
         m_events->addWidget(makeIconLabel(JournalKindIcon(entry.kind), Grid::Large, this), row, 0);
         m_events->addWidget(makeLabel(JournalTimeText(entry), TextRole::Hint, this), row, 1);
         m_events->addWidget(text, row, 2);

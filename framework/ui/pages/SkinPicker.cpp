@@ -39,7 +39,8 @@ class CSkinTile : public QAbstractButton
 {
 public:
     CSkinTile(const SkinChoice& choice, QWidget* parent)
-        : QAbstractButton(parent), m_skin(choice.skin), m_palette(PaletteOf(choice.skin))
+        : QAbstractButton(parent), m_skin(choice.skin), m_palette(PaletteOf(choice.skin)),
+          m_around(PaletteOf(toolkit().skinType()))
     {
         setObjectName("skin" + choice.skin);
         setText(choice.title);
@@ -65,7 +66,8 @@ private:
     void PaintBlock(QPainter& painter, const QRect& window, const QRect& block, const char* role) const;
 
     const QString m_skin;
-    const SkinPalette m_palette;
+    const SkinPalette m_palette; ///< of the skin that the tile offers
+    const SkinPalette m_around;  ///< of the skin in use
 };
 
 void CSkinTile::PaintBlock(QPainter& painter, const QRect& window, const QRect& block, const char* role) const
@@ -114,9 +116,8 @@ void CSkinTile::paintEvent(QPaintEvent*)
     const QRect frame(0, 0, kPicture.width() + 2 * kFrame + 2, kPicture.height() + 2 * kFrame + 2);
     const QRect shown = QStyle::visualRect(layoutDirection(), rect(), frame);
     PaintWindow(painter, QRect(shown.topLeft() + QPoint(kFrame + 1, kFrame + 1), kPicture));
-    const bool marked = isChecked() || hasFocus();
-    const QColor color = palette().color(marked ? QPalette::Highlight : QPalette::Mid);
-    painter.setPen(QPen(color, isChecked() ? kFrame : 1));
+    const char* role = hasFocus() ? "focus" : isChecked() ? "accent" : "border";
+    painter.setPen(QPen(m_around.Color(role), isChecked() || hasFocus() ? kFrame : 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(QRectF(shown).adjusted(1, 1, -1, -1), kRadius + kFrame, kRadius + kFrame);
     QFont font = this->font();

@@ -6,7 +6,8 @@ namespace framework {
 void CCoreWindows::Ask(const QString& name, Answer onAnswer)
 {
     m_core.GetWndHandle(name.toStdString(), [this, onAnswer = std::move(onAnswer)](auto window) {
-        QMetaObject::invokeMethod(this, [onAnswer, window] { onAnswer(window); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [onAnswer, window] { onAnswer(window); }, Qt::QueuedConnection);
     });
 }
 

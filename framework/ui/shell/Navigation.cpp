@@ -1,6 +1,7 @@
 #include "framework/ui/shell/Navigation.h"
 
 #include "VantorGUIToolkit/Icons.h"
+#include "framework/ui/parts/StartAlignedButton.h"
 
 #include <QPushButton>
 #include <QScrollArea>
@@ -20,10 +21,9 @@ constexpr WindowGroup kGroups[] = {WindowGroup::Start,     WindowGroup::LiveView
 
 QPushButton* MakeButton(const char* kind, int iconSize, QWidget* parent)
 {
-    auto* button = new QPushButton(parent);
+    auto* button = new CStartAlignedButton(parent);
     button->setProperty("kind", kind);
     button->setIconSize({iconSize, iconSize});
-    button->setFlat(true);
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return button;
 }

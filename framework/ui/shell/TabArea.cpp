@@ -24,7 +24,7 @@ QTabBar* MakeBar(QWidget* parent)
     bar->setTabsClosable(true);
     bar->setDrawBase(false);
     bar->setExpanding(false);
-    bar->setElideMode(Qt::ElideRight);
+    bar->setElideMode(Qt::ElideNone);
     bar->setUsesScrollButtons(true);
     bar->setIconSize({kIconSize, kIconSize});
     return bar;

@@ -86,10 +86,11 @@ void CTabSession::OnGuestLost()
 void CTabSession::Ask()
 {
     const int question = ++m_question;
-    m_component.Ask(m_name, [self = QPointer<CTabSession>(this), question](const std::optional<ComponentWindow>& window) {
-        if (self)
-            self->OnAnswer(question, window);
-    });
+    m_component.Ask(
+        m_name, [self = QPointer<CTabSession>(this), question](const std::optional<ComponentWindow>& window) {
+            if (self)
+                self->OnAnswer(question, window);
+        });
 }
 
 void CTabSession::OnAnswer(int question, const std::optional<ComponentWindow>& window)

@@ -37,8 +37,8 @@ private:
     QLabel* m_date;
     QLabel* m_time;
     QLabel* m_unread;
+    QAction* m_settings = nullptr; ///< an entry of the user's menu
     QToolButton* m_user;
-    QAction* m_settings = nullptr;
     QTimer m_clock;
 };
 
