@@ -59,7 +59,9 @@ QWidget* GalleryWindow::MakeBar()
     row->addWidget(skins);
     row->addWidget(languages);
     row->addStretch(1);
-    row->addWidget(makeLabel(tr("Scale: start again with QT_SCALE_FACTOR=1.5"), TextRole::Hint, bar));
+    QLabel* scale = makeLabel(tr("Scale: start again with QT_SCALE_FACTOR=1.5"), TextRole::Hint, bar);
+    scale->setWordWrap(false);
+    row->addWidget(scale);
     // Rebuilding takes the combo boxes away, which their signals may not see.
     const auto change = [this] { QTimer::singleShot(0, this, &GalleryWindow::Rebuild); };
     connect(skins, QOverload<int>::of(&QComboBox::activated), this, [=] {

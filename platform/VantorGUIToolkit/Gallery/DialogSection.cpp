@@ -14,7 +14,7 @@ namespace VantorGUIToolkit {
 
 CDialogSection::CDialogSection(QWidget* parent)
     : CGallerySection(tr("Dialogs and waiting"), parent),
-      m_answer(makeLabel(tr("No answer yet"), TextRole::Hint, this)), m_overlay(new CLoadingOverlay(this))
+      m_answer(makeLabel(tr("No answer yet"), TextRole::Hint, this))
 {
     m_answer->setObjectName("galleryAnswer");
     AddRow({MakeOpener(tr("Question"), "galleryQuestion", &CDialogSection::AskQuestion),
@@ -24,8 +24,6 @@ CDialogSection::CDialogSection(QWidget* parent)
             MakeOpener(tr("Form"), "galleryForm", &CDialogSection::ShowForm),
             MakeOpener(tr("Job of two seconds"), "galleryJob", &CDialogSection::RunJob)});
     AddRow({m_answer});
-    connect(m_overlay, &CLoadingOverlay::SignalLoadingEnd, this,
-            [this] { m_answer->setText(tr("The job has ended")); });
 }
 
 QWidget* CDialogSection::MakeOpener(const QString& text, const char* name, void (CDialogSection::*open)())
@@ -76,6 +74,11 @@ void CDialogSection::ShowForm()
 
 void CDialogSection::RunJob()
 {
+    if (!m_overlay) {
+        m_overlay = new CLoadingOverlay(window());
+        connect(m_overlay, &CLoadingOverlay::SignalLoadingEnd, this,
+                [this] { m_answer->setText(tr("The job has ended")); });
+    }
     m_answer->setText(tr("The job runs"));
     if (!m_overlay->Run(tr("Processing"), [] { QThread::sleep(2); }))
         m_answer->setText(tr("A job runs already"));

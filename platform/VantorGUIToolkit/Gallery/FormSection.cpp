@@ -34,7 +34,7 @@ void CFormSection::Check()
 {
     bool isNumber = false;
     const int port = m_port->text().toInt(&isNumber);
-    const bool portFits = isNumber && port >= 1 && port <= 65'535;
+    const bool portFits = isNumber && port >= 1 && port <= 65535;
     m_form->setFieldError(m_address, m_address->text().isEmpty() ? tr("Enter an address.") : QString());
     m_form->setFieldError(m_port, portFits ? QString() : tr("The port is a number from 1 to 65535."));
     m_form->FocusFirstError();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 class QLabel;
 class QLineEdit;
@@ -113,7 +114,7 @@ private:
     void RunJob();
 
     QLabel* m_answer;
-    CLoadingOverlay* m_overlay;
+    QPointer<CLoadingOverlay> m_overlay; ///< over the whole window, from the first job on
 };
 
 /// Tables, trees, lists, tabs.

@@ -95,11 +95,12 @@ CLoadingOverlay::CLoadingOverlay(QWidget* parent)
     m_text->setAlignment(Qt::AlignCenter);
     m_text->setObjectName("loadingText");
     auto* column = new QVBoxLayout(m_panel);
-    column->setContentsMargins(Grid::Huge, Grid::Wide, Grid::Huge, Grid::Wide);
-    column->setSpacing(Grid::Medium);
+    column->setContentsMargins(Grid::Huge, Grid::Large, Grid::Huge, Grid::Large);
+    column->setSpacing(Grid::Small);
     column->addWidget(picture);
     column->addWidget(m_text);
     auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
     outer->addWidget(m_panel, 0, Qt::AlignCenter);
     m_reveal.setSingleShot(true);
     connect(&m_reveal, &QTimer::timeout, this, &CLoadingOverlay::Reveal);

@@ -15,10 +15,10 @@ namespace VantorGUIToolkit {
 namespace {
 
 constexpr int kWidth = 352;
-constexpr int kShortestMs = 4'000;
-constexpr int kLongestMs = 20'000;
+constexpr int kShortestMs = 4000;
+constexpr int kLongestMs = 20000;
 constexpr int kMsPerLetter = 60;
-constexpr int kAfterMouseMs = 2'000;
+constexpr int kAfterMouseMs = 2000;
 
 QString Shortened(const QString& text)
 {

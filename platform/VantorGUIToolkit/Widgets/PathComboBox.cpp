@@ -16,6 +16,13 @@ namespace {
 /// Also the width that the style keeps for a combo box's arrow, which the button covers.
 constexpr int kButton = Grid::Wide;
 
+/// A path reads from left to right in every language: marks at both ends keep its separators in place.
+QString Shown(const QString& path)
+{
+    const QChar leftToRight(0x200E);
+    return leftToRight + path + leftToRight;
+}
+
 } // namespace
 
 CPathComboBox::CPathComboBox(QWidget* parent)
@@ -27,7 +34,7 @@ CPathComboBox::CPathComboBox(QWidget* parent)
     m_browse->setFocusPolicy(Qt::NoFocus); // the combo box's own keys do the same
     connect(m_browse, &QToolButton::clicked, this, &CPathComboBox::showPopup);
     connect(this, &QComboBox::currentTextChanged, this,
-            [this](const QString& path) { setToolTip(QDir::toNativeSeparators(path)); });
+            [this](const QString& path) { setToolTip(Shown(QDir::toNativeSeparators(path))); });
 }
 
 void CPathComboBox::setPath(const QString& path)
@@ -73,8 +80,8 @@ void CPathComboBox::paintEvent(QPaintEvent*)
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const QRect field =
         style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    option.currentText = fontMetrics().elidedText(QDir::toNativeSeparators(path()), Qt::ElideMiddle,
-                                                  field.width() - Grid::Small);
+    option.currentText = Shown(fontMetrics().elidedText(QDir::toNativeSeparators(path()), Qt::ElideMiddle,
+                                                        field.width() - Grid::Small));
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

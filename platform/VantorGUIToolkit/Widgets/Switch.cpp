@@ -10,7 +10,7 @@ namespace VantorGUIToolkit {
 namespace {
 
 constexpr QSize kTrack(36, 20);
-constexpr int kKnobGap = 3;
+constexpr int kKnobGap = 4;
 constexpr int kHeight = Grid::Wide;
 
 } // namespace
@@ -38,10 +38,29 @@ QRect CSwitch::TrackRect() const
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
+void CSwitch::PaintFocus(QPainter& painter) const
+{
+    const QRectF ring = QRectF(TrackRect()).adjusted(-1, -1, 1, 1);
+    painter.setPen(QPen(m_focusColor.isValid() ? m_focusColor : palette().highlight().color(), 2));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
+}
+
 void CSwitch::PaintTrack(QPainter& painter) const
 {
-    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
+    const QRectF track = QRectF(TrackRect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QColor on = m_onColor.isValid() ? m_onColor : palette().highlight().color();
+    const bool lit = isChecked() && isEnabled();
+    painter.setPen(lit ? on : palette().color(QPalette::Dark));
+    painter.setBrush(lit ? on : palette().color(isChecked() ? QPalette::Mid : QPalette::Base));
+    painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
+}
+
+void CSwitch::PaintKnob(QPainter& painter) const
+{
     const QRectF track = TrackRect();
+<<<<<<< HEAD
+=======
     const qreal round = track.height() / 2;
     if (hasFocus()) {
         painter.setPen(QPen(palette().color(group, QPalette::WindowText), 1.5));
@@ -52,10 +71,13 @@ void CSwitch::PaintTrack(QPainter& painter) const
     const QColor off = palette().color(group, QPalette::Dark);
     painter.setBrush(isChecked() ? palette().color(group, QPalette::Highlight) : off);
     painter.drawRoundedRect(track, round, round);
+>>>>>>> looks
     const qreal side = track.height() - 2 * kKnobGap;
-    const bool atEnd = isChecked() != (layoutDirection() == Qt::RightToLeft);
-    const qreal left = atEnd ? track.right() - kKnobGap - side : track.left() + kKnobGap;
-    painter.setBrush(palette().color(group, isChecked() ? QPalette::HighlightedText : QPalette::Base));
+    const bool atRight = isChecked() != (layoutDirection() == Qt::RightToLeft);
+    const qreal left = atRight ? track.right() - kKnobGap - side : track.left() + kKnobGap;
+    const QColor on = m_onKnobColor.isValid() ? m_onKnobColor : palette().highlightedText().color();
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(isChecked() && isEnabled() ? on : palette().color(QPalette::PlaceholderText));
     painter.drawEllipse(QRectF(left, track.top() + kKnobGap, side, side));
 }
 
@@ -64,6 +86,9 @@ void CSwitch::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     PaintTrack(painter);
+    PaintKnob(painter);
+    if (hasFocus())
+        PaintFocus(painter);
     const int before = kTrack.width() + Grid::Tight + Grid::Small;
     const QRect place = rect().adjusted(before, 0, 0, 0);
     style()->drawItemText(&painter, QStyle::visualRect(layoutDirection(), rect(), place),

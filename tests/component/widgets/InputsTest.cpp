@@ -41,7 +41,7 @@ TEST(PathComboBox, ChoosesAFolderAndKeepsItsPathAsItWasSet)
     combo.findChild<QToolButton*>()->click();
     EXPECT_EQ(combo.path(), chosen);
     EXPECT_EQ(combo.count(), 1);
-    EXPECT_EQ(combo.toolTip(), QDir::toNativeSeparators(chosen));
+    EXPECT_TRUE(combo.toolTip().contains(QDir::toNativeSeparators(chosen)));
     EXPECT_EQ(told, QStringList(chosen));
 }
 
