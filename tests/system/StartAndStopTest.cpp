@@ -146,11 +146,17 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
 TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
 {
     ComponentRun run;
-    std::ofstream(run.Path() + "script.jsonl") << kUntilReady << R"({"sleep_ms": 60000})";
-    auto framework = std::async(std::launch::async, [&] {
-        run.Shell("timeout --foreground -s KILL 4 " + run.HostCommand(run.Path() + "script.jsonl"));
-    });
-    EXPECT_TRUE(run.WaitForLog("APP Init Success", 20));
+    const std::string script = run.Path() + "script.jsonl";
+    const std::string pidFile = run.Path() + "framework";
+    std::ofstream(script) << kUntilReady << R"({"sleep_ms": 60000})";
+    std::ofstream(run.Path() + "start.sh")
+        << "echo $$ >" << pidFile << "; exec " << run.HostCommand(script) << "\n";
+    auto framework = std::async(std::launch::async, [&] { run.Shell("sh " + run.Path() + "start.sh"); });
+    EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
+    pid_t pid = 0;
+    std::ifstream(pidFile) >> pid;
+    ASSERT_GT(pid, 1);
+    ::kill(pid, SIGKILL);
     framework.get();
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
