@@ -12,7 +12,7 @@ CBanner::CBanner(const QString& text, Tone tone, QWidget* parent)
     : QFrame(parent), m_icon(makeIconLabel(toneIconName(tone), Grid::Large, this)),
       m_text(makeLabel({}, TextRole::Plain, this)), m_action(makeButton({}, ButtonKind::Quiet, this))
 {
-    setAttribute(Qt::WA_StyledBackground);
+    setSurface(this, Surface::Card);
     m_text->setWordWrap(true);
     m_action->hide();
     connect(m_action, &QPushButton::clicked, this, &CBanner::SignalAction);

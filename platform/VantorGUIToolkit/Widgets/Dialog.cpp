@@ -13,7 +13,7 @@ CDialog::CDialog(const QString& title, QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
 {
     setWindowTitle(title);
-    setAttribute(Qt::WA_StyledBackground);
+    setSurface(this, Surface::Card);
     setMinimumWidth(320);
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(1, 1, 1, 1); // the frame that the style sheet draws

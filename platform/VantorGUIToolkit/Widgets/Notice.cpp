@@ -45,7 +45,7 @@ CNotice::CNotice(const QString& text, NoticeTone tone)
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_DeleteOnClose);
     setFocusPolicy(Qt::NoFocus);
-    setAttribute(Qt::WA_StyledBackground);
+    setSurface(this, Surface::Card);
     setTone(this, tone);
     setAccessibleName(text);
     setFixedWidth(kWidth);

@@ -41,7 +41,7 @@ QRect CSwitch::TrackRect() const
 void CSwitch::PaintFocus(QPainter& painter) const
 {
     const QRectF ring = QRectF(TrackRect()).adjusted(-1, -1, 1, 1);
-    painter.setPen(QPen(m_focusColor.isValid() ? m_focusColor : palette().highlight().color(), 2));
+    painter.setPen(QPen(palette().windowText(), 1.5));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
 }
@@ -49,35 +49,19 @@ void CSwitch::PaintFocus(QPainter& painter) const
 void CSwitch::PaintTrack(QPainter& painter) const
 {
     const QRectF track = QRectF(TrackRect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    const QColor on = m_onColor.isValid() ? m_onColor : palette().highlight().color();
-    const bool lit = isChecked() && isEnabled();
-    painter.setPen(lit ? on : palette().color(QPalette::Dark));
-    painter.setBrush(lit ? on : palette().color(isChecked() ? QPalette::Mid : QPalette::Base));
+    painter.setPen(palette().color(isChecked() ? QPalette::Highlight : QPalette::Dark));
+    painter.setBrush(palette().color(isChecked() ? QPalette::Highlight : QPalette::Base));
     painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
 }
 
 void CSwitch::PaintKnob(QPainter& painter) const
 {
     const QRectF track = TrackRect();
-<<<<<<< HEAD
-=======
-    const qreal round = track.height() / 2;
-    if (hasFocus()) {
-        painter.setPen(QPen(palette().color(group, QPalette::WindowText), 1.5));
-        painter.setBrush(Qt::NoBrush);
-        painter.drawRoundedRect(track.adjusted(-1.5, -1.5, 1.5, 1.5), round + 1.5, round + 1.5);
-    }
-    painter.setPen(Qt::NoPen);
-    const QColor off = palette().color(group, QPalette::Dark);
-    painter.setBrush(isChecked() ? palette().color(group, QPalette::Highlight) : off);
-    painter.drawRoundedRect(track, round, round);
->>>>>>> looks
     const qreal side = track.height() - 2 * kKnobGap;
     const bool atRight = isChecked() != (layoutDirection() == Qt::RightToLeft);
     const qreal left = atRight ? track.right() - kKnobGap - side : track.left() + kKnobGap;
-    const QColor on = m_onKnobColor.isValid() ? m_onKnobColor : palette().highlightedText().color();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(isChecked() && isEnabled() ? on : palette().color(QPalette::PlaceholderText));
+    painter.setBrush(palette().color(isChecked() ? QPalette::HighlightedText : QPalette::PlaceholderText));
     painter.drawEllipse(QRectF(left, track.top() + kKnobGap, side, side));
 }
 

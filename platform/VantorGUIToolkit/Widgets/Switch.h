@@ -1,20 +1,16 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QColor>
 
 class QPainter;
 
 namespace VantorGUIToolkit {
 
-/// A check box for what takes effect at once, drawn as a switch. Keys, signals and label are those of a check
-/// box. Style sheets give its colours when it is on as properties; the others are the palette's.
+/// A check box for what takes effect at once, drawn as a switch in the colours of its palette: when it is on,
+/// those that style sheets give a selection. Keys, signals and label are those of a check box.
 class CSwitch : public QCheckBox
 {
     Q_OBJECT
-    Q_PROPERTY(QColor onColor MEMBER m_onColor)
-    Q_PROPERTY(QColor onKnobColor MEMBER m_onKnobColor)
-    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
 
 public:
     explicit CSwitch(const QString& text = {}, QWidget* parent = nullptr);
@@ -31,10 +27,6 @@ private:
     void PaintFocus(QPainter& painter) const;
     void PaintTrack(QPainter& painter) const;
     void PaintKnob(QPainter& painter) const;
-
-    QColor m_onColor;
-    QColor m_onKnobColor;
-    QColor m_focusColor;
 };
 
 } // namespace VantorGUIToolkit
