@@ -17,24 +17,29 @@ struct StateLook
     Tone tone;
 };
 
-#define WORDS(text) QT_TRANSLATE_NOOP("ComponentState", text)
-
 StateLook LookOf(ComponentState state)
 {
     switch (state) {
     case ComponentState::Starting:
-        return {WORDS("Starting"), WORDS("The component is starting."), Tone::Info};
+        return {QT_TRANSLATE_NOOP("ComponentState", "Starting"),
+                QT_TRANSLATE_NOOP("ComponentState", "The component is starting."), Tone::Info};
     case ComponentState::Ready:
-        return {WORDS("Ready"), WORDS("The component is at work."), Tone::Ok};
+        return {QT_TRANSLATE_NOOP("ComponentState", "Ready"),
+                QT_TRANSLATE_NOOP("ComponentState", "The component is at work."), Tone::Ok};
     case ComponentState::Waiting:
-        return {WORDS("Restarting"), WORDS("The component ended and will be started again."), Tone::Warn};
+        return {QT_TRANSLATE_NOOP("ComponentState", "Restarting"),
+                QT_TRANSLATE_NOOP("ComponentState", "The component ended and will be started again."),
+                Tone::Warn};
     case ComponentState::GivenUp:
-        return {WORDS("Failed"), WORDS("The component ended too often and is not started again."),
-                Tone::Error};
+        return {
+            QT_TRANSLATE_NOOP("ComponentState", "Failed"),
+            QT_TRANSLATE_NOOP("ComponentState", "The component ended too often and is not started again."),
+            Tone::Error};
     case ComponentState::Stopped:
         break;
     }
-    return {WORDS("Stopped"), WORDS("The component is not running."), Tone::Idle};
+    return {QT_TRANSLATE_NOOP("ComponentState", "Stopped"),
+            QT_TRANSLATE_NOOP("ComponentState", "The component is not running."), Tone::Idle};
 }
 
 } // namespace
