@@ -125,6 +125,10 @@ bool FrameworkParts::Start(std::string& error)
     };
     operations = journal("operations.jsonl", &IFrameworkEvents::OnOperation);
     notices = journal("notices.jsonl", &IFrameworkEvents::OnNotice);
+    // What clients do meanwhile is looked at when everything has been read; a broken promise ends the wait
+    // too.
+    std::promise<void> loaded;
+    loop.Post([over = loaded.get_future().share()] { over.wait(); });
     const int listening = link.Listen();
     if (listening != lpc::kNoError) {
         error = Base::StringUtil::Format("The channel cannot be opened (error %d). Another framework of this "

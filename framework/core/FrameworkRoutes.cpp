@@ -1,5 +1,6 @@
 #include "framework/core/Routes.h"
 
+#include "Base/Log.h"
 #include "Protocol/JSONStruct/HTTP/Routes.h"
 #include "Protocol/JSONStruct/HTTP/SystemJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
@@ -38,8 +39,10 @@ lpc::Message DateTimeFormat(const FrameworkChoices& choices)
 lpc::Message FrameResize(const RouteServices& services, const protocol::FrameResizeData& size)
 {
     const auto isSide = [](int pixels) { return pixels > 0 && pixels <= kLargestSide; };
-    if (size.type.empty() || !isSide(size.width) || !isSide(size.height))
+    if (size.type.empty() || !isSide(size.width) || !isSide(size.height)) {
+        BASE_ERROR("A window cannot have the size [%d x %d].", size.width, size.height);
         return Failed(400, "A window's size is 1 to 32767 pixels.");
+    }
     services.onFrameResize(size.type, size.width, size.height);
     return Done();
 }

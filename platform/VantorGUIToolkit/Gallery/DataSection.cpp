@@ -84,7 +84,6 @@ QWidget* CDataSection::MakeTree()
 {
     auto* tree = new QTreeWidget(this);
     tree->setAccessibleName(tr("Devices"));
-    tree->ensurePolished(); // rows are measured below, by the sheet's item heights
     tree->setHeaderHidden(true);
     tree->setColumnCount(1);
     for (int group = 1; group <= 3; ++group) {
@@ -102,7 +101,6 @@ QWidget* CDataSection::MakeList()
 {
     auto* list = new QListWidget(this);
     list->setAccessibleName(tr("Cameras"));
-    list->ensurePolished();
     for (int camera = 1; camera <= 24; ++camera)
         list->addItem(new QListWidgetItem(icon("camera"), tr("Camera %1").arg(camera)));
     list->item(3)->setFlags(Qt::NoItemFlags);
