@@ -53,7 +53,7 @@ enum class Change {
     Focused,
 };
 
-/// Hears of one window's changes, on the GUI thread, some time after they happened.
+/// Hears of one watched window's changes, on the GUI thread, some time after they happened.
 class IWindowObserver
 {
 public:
@@ -61,6 +61,8 @@ public:
     virtual void OnChange(WindowId window, Change change) = 0;
     /// The window's area within its holder, when it was resized.
     virtual void OnResized(WindowId window, const Area& inHolder) = 0;
+    /// A window of this process was moved or resized: what embedded windows stand in may be elsewhere now.
+    virtual void OnSurroundingsChanged() = 0;
 };
 
 /// Whose window is watched: another process's, which this one embeds, or its own, which another embeds.

@@ -109,12 +109,23 @@ private:
         return std::find(m_ended.begin(), m_ended.end(), error->resource_id) != m_ended.end();
     }
 
+    /// A window manager's own notices count for the surroundings: Qt tells of a move when it asks for it, not
+    /// when it has happened.
     void TakeSize(const xcb_configure_notify_event_t& event)
     {
         const bool sent = (event.response_type & 0x80) != 0;
         const Watched* watched = Find(event.window);
-        if (watched && !sent)
+        if (!watched || watched->owner == Owner::Self)
+            TellSurroundings();
+        else if (!sent)
             watched->observer->OnResized(event.window, {event.x, event.y, event.width, event.height});
+    }
+
+    void TellSurroundings() const
+    {
+        for (const auto& [window, watched] : m_watched)
+            if (watched.owner == Owner::Other)
+                watched.observer->OnSurroundingsChanged();
     }
 
     /// An event that only says that the pointer is over the window, or that keys are grabbed for a moment,

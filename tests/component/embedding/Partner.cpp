@@ -50,6 +50,12 @@ void SayPlace(const QWidget& top, const QString& name)
             .arg(qRound(widget->height() * scale)));
 }
 
+void SayFocus()
+{
+    const QWidget* widget = QApplication::focusWidget();
+    Say("focus " + (widget && widget->isActiveWindow() ? widget->objectName() : QString()));
+}
+
 class Guest
 {
 public:
@@ -73,9 +79,6 @@ public:
         QObject::connect(button, &QPushButton::clicked, [] { Say("clicked"); });
         QObject::connect(combo, qOverload<int>(&QComboBox::activated),
                          [](int row) { Say(QString("chosen %1").arg(row)); });
-        QObject::connect(qApp, &QApplication::focusChanged, [](QWidget*, QWidget* now) {
-            Say(now ? "focus " + now->objectName() : QString("nofocus"));
-        });
         QObject::connect(&m_watch, &embedding::CGuestWindow::WindowLost, [] { Say("lost"); });
         SayWindow();
     }
@@ -90,6 +93,8 @@ public:
             SayWindow();
         else if (command[0] == "place")
             SayPlace(m_page, command[1]);
+        else if (command[0] == "focus")
+            SayFocus();
     }
 
 private:
@@ -114,9 +119,6 @@ public:
         layout->addWidget(&m_tabs, 1);
         m_window.setGeometry(60, 80, 500, 380);
         m_window.show();
-        QObject::connect(qApp, &QApplication::focusChanged, [](QWidget*, QWidget* now) {
-            Say(now ? "focus " + now->objectName() : QString("nofocus"));
-        });
         Say(QString("window %1").arg(m_window.winId()));
     }
 
@@ -138,6 +140,8 @@ public:
             m_tabs.setCurrentIndex(command[1].toInt());
         else if (command[0] == "place")
             SayPlace(m_window, command[1]);
+        else if (command[0] == "focus")
+            SayFocus();
     }
 
 private:

@@ -33,7 +33,7 @@ void PartnerProcess::Read()
 {
     m_process.waitForReadyRead(1);
     while (m_process.canReadLine())
-        m_lines += QString::fromUtf8(m_process.readLine()).trimmed();
+        m_lines += QString::fromUtf8(m_process.readLine()).chopped(1);
 }
 
 QString PartnerProcess::Await(const QString& start)
