@@ -41,6 +41,8 @@ std::optional<Area> AreaOnScreen(WindowId window);
 void Fit(WindowId window, const Area& holderOnScreen);
 
 void Map(WindowId window);
+/// Gives the window the keyboard. A watched window that got it before this call does not count as focused any
+/// more, even if the news comes later.
 void Focus(WindowId window);
 
 enum class Change {
@@ -71,6 +73,10 @@ enum class Owner { Other, Self };
 /// The observer must live until Unwatch. False when there is no such window.
 [[nodiscard]] bool Watch(WindowId window, Owner owner, IWindowObserver& observer);
 void Unwatch(WindowId window);
+
+/// Called with a window of this process that got the keyboard focus, for whatever reason.
+using FocusListener = void (*)(WindowId window);
+void SetFocusListener(FocusListener listener);
 
 /// Corrects what the toolkit makes of focus changes between this process and embedded ones; to be called
 /// once. Watch does it too.

@@ -19,6 +19,19 @@ std::map<WindowId, Watched>& AllWatched()
     return watched;
 }
 
+FocusListener& Listener()
+{
+    static FocusListener listener = nullptr;
+    return listener;
+}
+
+bool IsOwn(HWND window)
+{
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    return process == GetCurrentProcessId();
+}
+
 std::optional<Change> ChangeOf(DWORD event)
 {
     switch (event) {
@@ -51,9 +64,7 @@ void TellOfMove(HWND window)
         found->second.observer->OnResized(found->first, AreaInHolder(window));
         return;
     }
-    DWORD process = 0;
-    GetWindowThreadProcessId(window, &process);
-    if (process != GetCurrentProcessId())
+    if (!IsOwn(window))
         return;
     for (const auto& [id, watched] : AllWatched())
         if (watched.owner == Owner::Other)
@@ -69,6 +80,8 @@ void CALLBACK OnEvent(HWINEVENTHOOK, DWORD event, HWND window, LONG object, LONG
         return;
     if (event == EVENT_OBJECT_LOCATIONCHANGE)
         return TellOfMove(window);
+    if (event == EVENT_OBJECT_FOCUS && Listener() && IsOwn(window))
+        Listener()(reinterpret_cast<WindowId>(window));
     const auto change = ChangeOf(event);
     const auto found = AllWatched().find(reinterpret_cast<WindowId>(window));
     if (change && found != AllWatched().end())
@@ -82,6 +95,11 @@ void StartListening()
     static const HWINEVENTHOOK hook = SetWinEventHook(EVENT_OBJECT_DESTROY, EVENT_OBJECT_PARENTCHANGE,
                                                       nullptr, OnEvent, 0, 0, WINEVENT_OUTOFCONTEXT);
     (void)hook;
+}
+
+void SetFocusListener(FocusListener listener)
+{
+    Listener() = listener;
 }
 
 bool Watch(WindowId window, Owner owner, IWindowObserver& observer)

@@ -40,7 +40,7 @@ QLineEdit* AddEdit(QBoxLayout* layout)
 /// The part of the widget's native top-level window that a child covers, in device pixels.
 void SayPlace(const QWidget& top, const QString& name)
 {
-    const auto* widget = top.findChild<QWidget*>(name);
+    const QWidget* widget = name == "page" ? &top : top.findChild<QWidget*>(name);
     const double scale = top.devicePixelRatioF();
     const QPoint place = widget->mapTo(&top, QPoint(0, 0));
     Say(QString("place %1 %2 %3 %4")
