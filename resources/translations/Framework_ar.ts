@@ -158,6 +158,109 @@
     </message>
 </context>
 <context>
+    <name>Sentences</name>
+    <message>
+        <source>The component was started.</source>
+        <translation>تم تشغيل المكوِّن.</translation>
+    </message>
+    <message>
+        <source>The component has joined.</source>
+        <translation>انضمّ المكوِّن.</translation>
+    </message>
+    <message>
+        <source>The component is ready.</source>
+        <translation>المكوِّن جاهز.</translation>
+    </message>
+    <message>
+        <source>The component has left.</source>
+        <translation>غادر المكوِّن.</translation>
+    </message>
+    <message>
+        <source>The component was asked to end.</source>
+        <translation>طُلب من المكوِّن الانتهاء.</translation>
+    </message>
+    <message>
+        <source>The component is not started again.</source>
+        <translation>لن يُعاد تشغيل المكوِّن.</translation>
+    </message>
+    <message>
+        <source>The component ended with exit code %1.</source>
+        <translation>انتهى المكوِّن برمز الخروج %1.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1.</source>
+        <translation>انتهى المكوِّن بسبب الإشارة %1.</translation>
+    </message>
+    <message>
+        <source>The component cannot be started: %1.</source>
+        <translation>تعذّر تشغيل المكوِّن: %1.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was added.</source>
+        <translation>تمت إضافة الجهاز «%1».</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was changed.</source>
+        <translation>تم تغيير الجهاز «%1».</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was removed.</source>
+        <translation>تمت إزالة الجهاز «%1».</translation>
+    </message>
+    <message>
+        <source>Test alarm of %1</source>
+        <translation>إنذار تجريبي من %1</translation>
+    </message>
+    <message>
+        <source>Changed settings: %1.</source>
+        <translation>إعدادات تم تغييرها: %1.</translation>
+    </message>
+    <message>
+        <source>The users were changed.</source>
+        <translation>تم تغيير المستخدمين.</translation>
+    </message>
+    <message>
+        <source>User &quot;%1&quot; took over from &quot;%2&quot;.</source>
+        <translation>تولّى المستخدم «%1» العمل بدلًا من «%2».</translation>
+    </message>
+    <message>
+        <source>The address and port belong to another device.</source>
+        <translation>العنوان والمنفذ يخصّان جهازًا آخر.</translation>
+    </message>
+    <message>
+        <source>The devices cannot be saved.</source>
+        <translation>تعذّر حفظ الأجهزة.</translation>
+    </message>
+    <message>
+        <source>There are too many devices.</source>
+        <translation>عدد الأجهزة كبير جدًّا.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 128 bytes.</source>
+        <translation>يجب ألا يتجاوز اسم المستخدم 128 بايت.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 128 bytes.</source>
+        <translation>يجب ألا تتجاوز كلمة المرور 128 بايت.</translation>
+    </message>
+    <message>
+        <source>The users cannot be saved.</source>
+        <translation>تعذّر حفظ المستخدمين.</translation>
+    </message>
+    <message>
+        <source>There are too many users.</source>
+        <translation>عدد المستخدمين كبير جدًّا.</translation>
+    </message>
+    <message>
+        <source>Somebody must be allowed to manage users.</source>
+        <translation>يجب أن يُسمح لأحد بإدارة المستخدمين.</translation>
+    </message>
+    <message>
+        <source>The user is at work.</source>
+        <translation>المستخدم قيد العمل حاليًّا.</translation>
+    </message>
+</context>
+<context>
     <name>Windows</name>
     <message>
         <source>Live View</source>

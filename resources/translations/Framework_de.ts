@@ -158,6 +158,109 @@
     </message>
 </context>
 <context>
+    <name>Sentences</name>
+    <message>
+        <source>The component was started.</source>
+        <translation>Die Komponente wurde gestartet.</translation>
+    </message>
+    <message>
+        <source>The component has joined.</source>
+        <translation>Die Komponente hat sich angemeldet.</translation>
+    </message>
+    <message>
+        <source>The component is ready.</source>
+        <translation>Die Komponente ist bereit.</translation>
+    </message>
+    <message>
+        <source>The component has left.</source>
+        <translation>Die Komponente hat sich abgemeldet.</translation>
+    </message>
+    <message>
+        <source>The component was asked to end.</source>
+        <translation>Die Komponente wurde gebeten, sich zu beenden.</translation>
+    </message>
+    <message>
+        <source>The component is not started again.</source>
+        <translation>Die Komponente wird nicht wieder gestartet.</translation>
+    </message>
+    <message>
+        <source>The component ended with exit code %1.</source>
+        <translation>Die Komponente endete mit Exitcode %1.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1.</source>
+        <translation>Die Komponente endete durch Signal %1.</translation>
+    </message>
+    <message>
+        <source>The component cannot be started: %1.</source>
+        <translation>Die Komponente lässt sich nicht starten: %1.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was added.</source>
+        <translation>Gerät „%1“ wurde hinzugefügt.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was changed.</source>
+        <translation>Gerät „%1“ wurde geändert.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was removed.</source>
+        <translation>Gerät „%1“ wurde entfernt.</translation>
+    </message>
+    <message>
+        <source>Test alarm of %1</source>
+        <translation>Testalarm von %1</translation>
+    </message>
+    <message>
+        <source>Changed settings: %1.</source>
+        <translation>Geänderte Einstellungen: %1.</translation>
+    </message>
+    <message>
+        <source>The users were changed.</source>
+        <translation>Die Benutzer wurden geändert.</translation>
+    </message>
+    <message>
+        <source>User &quot;%1&quot; took over from &quot;%2&quot;.</source>
+        <translation>Benutzer „%1“ hat „%2“ abgelöst.</translation>
+    </message>
+    <message>
+        <source>The address and port belong to another device.</source>
+        <translation>Adresse und Port gehören zu einem anderen Gerät.</translation>
+    </message>
+    <message>
+        <source>The devices cannot be saved.</source>
+        <translation>Die Geräte lassen sich nicht speichern.</translation>
+    </message>
+    <message>
+        <source>There are too many devices.</source>
+        <translation>Es gibt zu viele Geräte.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 128 bytes.</source>
+        <translation>Der Benutzername darf höchstens 128 Byte lang sein.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 128 bytes.</source>
+        <translation>Das Kennwort darf höchstens 128 Byte lang sein.</translation>
+    </message>
+    <message>
+        <source>The users cannot be saved.</source>
+        <translation>Die Benutzer lassen sich nicht speichern.</translation>
+    </message>
+    <message>
+        <source>There are too many users.</source>
+        <translation>Es gibt zu viele Benutzer.</translation>
+    </message>
+    <message>
+        <source>Somebody must be allowed to manage users.</source>
+        <translation>Jemand muss die Benutzer verwalten dürfen.</translation>
+    </message>
+    <message>
+        <source>The user is at work.</source>
+        <translation>Der Benutzer arbeitet gerade.</translation>
+    </message>
+</context>
+<context>
     <name>Windows</name>
     <message>
         <source>Live View</source>

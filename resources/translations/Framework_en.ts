@@ -158,6 +158,109 @@
     </message>
 </context>
 <context>
+    <name>Sentences</name>
+    <message>
+        <source>The component was started.</source>
+        <translation>The component was started.</translation>
+    </message>
+    <message>
+        <source>The component has joined.</source>
+        <translation>The component has joined.</translation>
+    </message>
+    <message>
+        <source>The component is ready.</source>
+        <translation>The component is ready.</translation>
+    </message>
+    <message>
+        <source>The component has left.</source>
+        <translation>The component has left.</translation>
+    </message>
+    <message>
+        <source>The component was asked to end.</source>
+        <translation>The component was asked to end.</translation>
+    </message>
+    <message>
+        <source>The component is not started again.</source>
+        <translation>The component is not started again.</translation>
+    </message>
+    <message>
+        <source>The component ended with exit code %1.</source>
+        <translation>The component ended with exit code %1.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1.</source>
+        <translation>The component ended with signal %1.</translation>
+    </message>
+    <message>
+        <source>The component cannot be started: %1.</source>
+        <translation>The component cannot be started: %1.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was added.</source>
+        <translation>Device &quot;%1&quot; was added.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was changed.</source>
+        <translation>Device &quot;%1&quot; was changed.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was removed.</source>
+        <translation>Device &quot;%1&quot; was removed.</translation>
+    </message>
+    <message>
+        <source>Test alarm of %1</source>
+        <translation>Test alarm of %1</translation>
+    </message>
+    <message>
+        <source>Changed settings: %1.</source>
+        <translation>Changed settings: %1.</translation>
+    </message>
+    <message>
+        <source>The users were changed.</source>
+        <translation>The users were changed.</translation>
+    </message>
+    <message>
+        <source>User &quot;%1&quot; took over from &quot;%2&quot;.</source>
+        <translation>User &quot;%1&quot; took over from &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The address and port belong to another device.</source>
+        <translation>The address and port belong to another device.</translation>
+    </message>
+    <message>
+        <source>The devices cannot be saved.</source>
+        <translation>The devices cannot be saved.</translation>
+    </message>
+    <message>
+        <source>There are too many devices.</source>
+        <translation>There are too many devices.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 128 bytes.</source>
+        <translation>The user name must have at most 128 bytes.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 128 bytes.</source>
+        <translation>The password must have at most 128 bytes.</translation>
+    </message>
+    <message>
+        <source>The users cannot be saved.</source>
+        <translation>The users cannot be saved.</translation>
+    </message>
+    <message>
+        <source>There are too many users.</source>
+        <translation>There are too many users.</translation>
+    </message>
+    <message>
+        <source>Somebody must be allowed to manage users.</source>
+        <translation>Somebody must be allowed to manage users.</translation>
+    </message>
+    <message>
+        <source>The user is at work.</source>
+        <translation>The user is at work.</translation>
+    </message>
+</context>
+<context>
     <name>Windows</name>
     <message>
         <source>Live View</source>

@@ -158,6 +158,109 @@
     </message>
 </context>
 <context>
+    <name>Sentences</name>
+    <message>
+        <source>The component was started.</source>
+        <translation>הרכיב הופעל.</translation>
+    </message>
+    <message>
+        <source>The component has joined.</source>
+        <translation>הרכיב הצטרף.</translation>
+    </message>
+    <message>
+        <source>The component is ready.</source>
+        <translation>הרכיב מוכן.</translation>
+    </message>
+    <message>
+        <source>The component has left.</source>
+        <translation>הרכיב התנתק.</translation>
+    </message>
+    <message>
+        <source>The component was asked to end.</source>
+        <translation>הרכיב התבקש להיסגר.</translation>
+    </message>
+    <message>
+        <source>The component is not started again.</source>
+        <translation>הרכיב לא יופעל שוב.</translation>
+    </message>
+    <message>
+        <source>The component ended with exit code %1.</source>
+        <translation>הרכיב נסגר עם קוד יציאה %1.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1.</source>
+        <translation>הרכיב נסגר על ידי האות %1.</translation>
+    </message>
+    <message>
+        <source>The component cannot be started: %1.</source>
+        <translation>לא ניתן להפעיל את הרכיב: %1.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was added.</source>
+        <translation>ההתקן &quot;%1&quot; נוסף.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was changed.</source>
+        <translation>ההתקן &quot;%1&quot; שונה.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was removed.</source>
+        <translation>ההתקן &quot;%1&quot; הוסר.</translation>
+    </message>
+    <message>
+        <source>Test alarm of %1</source>
+        <translation>התראת ניסיון מ-%1</translation>
+    </message>
+    <message>
+        <source>Changed settings: %1.</source>
+        <translation>הגדרות ששונו: %1.</translation>
+    </message>
+    <message>
+        <source>The users were changed.</source>
+        <translation>המשתמשים שונו.</translation>
+    </message>
+    <message>
+        <source>User &quot;%1&quot; took over from &quot;%2&quot;.</source>
+        <translation>המשתמש &quot;%1&quot; החליף את &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The address and port belong to another device.</source>
+        <translation>הכתובת והיציאה שייכות להתקן אחר.</translation>
+    </message>
+    <message>
+        <source>The devices cannot be saved.</source>
+        <translation>לא ניתן לשמור את ההתקנים.</translation>
+    </message>
+    <message>
+        <source>There are too many devices.</source>
+        <translation>יש יותר מדי התקנים.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 128 bytes.</source>
+        <translation>שם המשתמש יכול לכלול עד 128 בתים.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 128 bytes.</source>
+        <translation>הסיסמה יכולה לכלול עד 128 בתים.</translation>
+    </message>
+    <message>
+        <source>The users cannot be saved.</source>
+        <translation>לא ניתן לשמור את המשתמשים.</translation>
+    </message>
+    <message>
+        <source>There are too many users.</source>
+        <translation>יש יותר מדי משתמשים.</translation>
+    </message>
+    <message>
+        <source>Somebody must be allowed to manage users.</source>
+        <translation>מישהו חייב להיות רשאי לנהל משתמשים.</translation>
+    </message>
+    <message>
+        <source>The user is at work.</source>
+        <translation>המשתמש עובד כעת.</translation>
+    </message>
+</context>
+<context>
     <name>Windows</name>
     <message>
         <source>Live View</source>

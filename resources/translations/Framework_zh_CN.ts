@@ -158,6 +158,109 @@
     </message>
 </context>
 <context>
+    <name>Sentences</name>
+    <message>
+        <source>The component was started.</source>
+        <translation>组件已启动。</translation>
+    </message>
+    <message>
+        <source>The component has joined.</source>
+        <translation>组件已接入。</translation>
+    </message>
+    <message>
+        <source>The component is ready.</source>
+        <translation>组件已就绪。</translation>
+    </message>
+    <message>
+        <source>The component has left.</source>
+        <translation>组件已断开。</translation>
+    </message>
+    <message>
+        <source>The component was asked to end.</source>
+        <translation>已请求组件结束。</translation>
+    </message>
+    <message>
+        <source>The component is not started again.</source>
+        <translation>不再启动组件。</translation>
+    </message>
+    <message>
+        <source>The component ended with exit code %1.</source>
+        <translation>组件已结束,退出代码 %1。</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1.</source>
+        <translation>组件因信号 %1 结束。</translation>
+    </message>
+    <message>
+        <source>The component cannot be started: %1.</source>
+        <translation>无法启动组件:%1。</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was added.</source>
+        <translation>设备“%1”已添加。</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was changed.</source>
+        <translation>设备“%1”已更改。</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; was removed.</source>
+        <translation>设备“%1”已移除。</translation>
+    </message>
+    <message>
+        <source>Test alarm of %1</source>
+        <translation>来自 %1 的测试报警</translation>
+    </message>
+    <message>
+        <source>Changed settings: %1.</source>
+        <translation>已更改的设置:%1。</translation>
+    </message>
+    <message>
+        <source>The users were changed.</source>
+        <translation>用户已更改。</translation>
+    </message>
+    <message>
+        <source>User &quot;%1&quot; took over from &quot;%2&quot;.</source>
+        <translation>用户“%1”已接替“%2”。</translation>
+    </message>
+    <message>
+        <source>The address and port belong to another device.</source>
+        <translation>该地址和端口属于另一台设备。</translation>
+    </message>
+    <message>
+        <source>The devices cannot be saved.</source>
+        <translation>无法保存设备。</translation>
+    </message>
+    <message>
+        <source>There are too many devices.</source>
+        <translation>设备过多。</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 128 bytes.</source>
+        <translation>用户名最多 128 字节。</translation>
+    </message>
+    <message>
+        <source>The password must have at most 128 bytes.</source>
+        <translation>密码最多 128 字节。</translation>
+    </message>
+    <message>
+        <source>The users cannot be saved.</source>
+        <translation>无法保存用户。</translation>
+    </message>
+    <message>
+        <source>There are too many users.</source>
+        <translation>用户过多。</translation>
+    </message>
+    <message>
+        <source>Somebody must be allowed to manage users.</source>
+        <translation>必须至少有一人可以管理用户。</translation>
+    </message>
+    <message>
+        <source>The user is at work.</source>
+        <translation>该用户正在使用中。</translation>
+    </message>
+</context>
+<context>
     <name>Windows</name>
     <message>
         <source>Live View</source>

@@ -4,6 +4,7 @@
 #include "VantorGUIToolkit/Widgets/Banner.h"
 #include "VantorGUIToolkit/Widgets/FormGrid.h"
 #include "VantorGUIToolkit/Widgets/PasswordEdit.h"
+#include "framework/ui/parts/Sentences.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -129,7 +130,7 @@ void CDeviceDialog::Apply()
         error = tr("The device does not exist any more.").toStdString();
     if (error.empty())
         return accept();
-    m_refusal->Set(QString::fromStdString(error), Tone::Error);
+    m_refusal->Set(InUserLanguage(error), Tone::Error);
     m_refusal->show();
 }
 

@@ -6,6 +6,7 @@
 #include "framework/core/Journal.h"
 #include "framework/core/Resources.h"
 #include "framework/ui/pages/JournalPage.h"
+#include "framework/ui/parts/Sentences.h"
 #include "framework/ui/parts/StartAlignedButton.h"
 #include "framework/ui/parts/StateText.h"
 #include "framework/ui/parts/WindowTable.h"
@@ -155,7 +156,8 @@ void CHomePage::ShowDevices()
 void CHomePage::ShowComponent(ComponentState state, const QString& detail)
 {
     m_state->Set(TextOf(state), ToneOf(state));
-    m_stateText->setText(detail.isEmpty() ? SentenceOf(state) : detail);
+    m_stateText->setText(SentenceOf(state));
+    m_stateText->setToolTip(InUserLanguage(detail.toStdString()));
 }
 
 void CHomePage::ShowUser(const User& user)
@@ -185,13 +187,13 @@ void CHomePage::ShowEvents()
 {
     Clear(*m_events);
     const std::vector<JournalEntry> entries = m_operations.Entries();
-    // Events are in English, which would stand at the left also where the layout runs from right to left.
+    // A name or an unknown sentence in Latin letters would stand at the left in a layout from right to left.
     const Qt::Alignment start = (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
                                 Qt::AlignAbsolute | Qt::AlignVCenter;
     const int count = std::min(kEvents, static_cast<int>(entries.size()));
     for (int row = 0; row < count; ++row) {
         const JournalEntry& entry = entries[entries.size() - 1 - static_cast<std::size_t>(row)];
-        QLabel* text = makeLabel(QString::fromStdString(entry.text), TextRole::Plain, this);
+        QLabel* text = makeLabel(InUserLanguage(entry.text), TextRole::Plain, this);
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         text->setAlignment(start);
         m_events->addWidget(makeIconLabel(JournalKindIcon(entry.kind), Grid::Large, this), row, 0);

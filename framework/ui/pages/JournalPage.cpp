@@ -3,6 +3,7 @@
 #include "VantorGUIToolkit/Toolkit.h"
 #include "VantorGUIToolkit/Widgets/TableView.h"
 #include "framework/core/Journal.h"
+#include "framework/ui/parts/Sentences.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -93,7 +94,7 @@ void CJournalPage::Reload()
                         {{JournalTimeText(entry), index, {}},
                          {JournalKindText(entry.kind), {}, JournalKindIcon(entry.kind)},
                          {QString::fromStdString(entry.user), {}, {}},
-                         {QString::fromStdString(entry.text), {}, {}}},
+                         {InUserLanguage(entry.text), {}, {}}},
                         index >= firstUnread});
     }
     SetRows(std::move(rows));

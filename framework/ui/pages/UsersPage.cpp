@@ -7,6 +7,7 @@
 #include "VantorGUIToolkit/Widgets/PageHeader.h"
 #include "VantorGUIToolkit/Widgets/PasswordEdit.h"
 #include "VantorGUIToolkit/Widgets/WarningDlg.h"
+#include "framework/ui/parts/Sentences.h"
 
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -238,7 +239,7 @@ void CUsersPage::ShowResult(const std::string& error, const QString& done)
         Reload();
         return CNotice::Show(done, Tone::Ok, this);
     }
-    m_refusal->Set(QString::fromStdString(error), Tone::Error);
+    m_refusal->Set(InUserLanguage(error), Tone::Error);
     m_refusal->show();
 }
 

@@ -5,6 +5,7 @@
 #include "framework/core/FrameworkCore.h"
 #include "framework/ui/parts/EventRelay.h"
 #include "framework/ui/parts/Report.h"
+#include "framework/ui/parts/Sentences.h"
 #include "framework/ui/parts/UnreadNotices.h"
 #include "framework/ui/parts/WindowTable.h"
 #include "framework/ui/shell/ComponentTab.h"
@@ -104,7 +105,7 @@ void CMainWindow::ConnectEvents()
     connect(&m_relay, &CEventRelay::NoticeAdded, this, &CMainWindow::OnNotice);
     connect(&m_relay, &CEventRelay::ResizeWished, this, &CMainWindow::OnResizeWish);
     connect(&m_relay, &CEventRelay::OperationAdded, this,
-            [this](const JournalEntry& entry) { m_status->ShowEvent(QString::fromStdString(entry.text)); });
+            [this](const JournalEntry& entry) { m_status->ShowEvent(InUserLanguage(entry.text)); });
     connect(&m_unread, &CUnreadNotices::Changed, this, [this](int count) {
         m_top->SetUnread(count);
         m_save.start(kSaveDelayMs);
@@ -160,9 +161,7 @@ bool CMainWindow::Open(const QString& name)
 
 void CMainWindow::OnComponentChanged(ComponentState state, const QString& detail)
 {
-    m_status->SetComponent(state, detail);
-    if (!detail.isEmpty())
-        m_status->ShowEvent(detail);
+    m_status->SetComponent(state, InUserLanguage(detail.toStdString()));
     for (const QString& name : m_tabs->Names())
         if (CComponentTab* tab = ComponentTab(name))
             tab->Session().OnComponentState(state);
@@ -181,7 +180,7 @@ void CMainWindow::OnUsersChanged()
 void CMainWindow::OnNotice(const JournalEntry& entry)
 {
     m_unread.Set(m_unread.Count() + 1);
-    const QString text = QString::fromStdString(entry.text);
+    const QString text = InUserLanguage(entry.text);
     m_status->ShowEvent(text);
     VantorGUIToolkit::CNotice::Show(text, VantorGUIToolkit::Tone::Warn, this);
 }
