@@ -63,10 +63,10 @@ bool CFrameworkApplication::Start(QString& error)
     connect(&m_pages, &CPages::OpenRequested, this, [this](const QString& name) { m_window->Open(name); });
     connect(&m_pages, &CPages::ChoicesApplied, this, &CFrameworkApplication::OnChoices);
     ReportEvents();
+    m_core.StartComponent();
     MakeWindow();
     for (const QString& name : m_line.open)
         m_window->Open(name);
-    m_core.StartComponent();
     if (!m_line.tourFolder.isEmpty())
         StartTour();
     return true;

@@ -184,6 +184,18 @@
         <translation>لن يُعاد تشغيل المكوِّن.</translation>
     </message>
     <message>
+        <source>The component ended with exit code %1. It is started again in %2 s.</source>
+        <translation>انتهى المكوِّن برمز الخروج %1. يُعاد تشغيله خلال %2 ث.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1. It is started again in %2 s.</source>
+        <translation>انتهى المكوِّن بسبب الإشارة %1. يُعاد تشغيله خلال %2 ث.</translation>
+    </message>
+    <message>
+        <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
+        <translation>انتهى المكوِّن (%1). شُغِّل %2 مرات خلال دقيقة ولن تُعاد المحاولة.</translation>
+    </message>
+    <message>
         <source>The component ended with exit code %1.</source>
         <translation>انتهى المكوِّن برمز الخروج %1.</translation>
     </message>

@@ -184,6 +184,18 @@
         <translation>Die Komponente wird nicht wieder gestartet.</translation>
     </message>
     <message>
+        <source>The component ended with exit code %1. It is started again in %2 s.</source>
+        <translation>Die Komponente endete mit Exitcode %1. Sie startet in %2 s neu.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1. It is started again in %2 s.</source>
+        <translation>Die Komponente endete durch Signal %1. Sie startet in %2 s neu.</translation>
+    </message>
+    <message>
+        <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
+        <translation>Die Komponente endete (%1). Sie wurde innerhalb einer Minute %2-mal gestartet und wird aufgegeben.</translation>
+    </message>
+    <message>
         <source>The component ended with exit code %1.</source>
         <translation>Die Komponente endete mit Exitcode %1.</translation>
     </message>

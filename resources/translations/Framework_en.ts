@@ -184,6 +184,18 @@
         <translation>The component is not started again.</translation>
     </message>
     <message>
+        <source>The component ended with exit code %1. It is started again in %2 s.</source>
+        <translation>The component ended with exit code %1. It is started again in %2 s.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1. It is started again in %2 s.</source>
+        <translation>The component ended with signal %1. It is started again in %2 s.</translation>
+    </message>
+    <message>
+        <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
+        <translation>The component ended with %1. It was started %2 times within a minute and is given up.</translation>
+    </message>
+    <message>
         <source>The component ended with exit code %1.</source>
         <translation>The component ended with exit code %1.</translation>
     </message>

@@ -184,6 +184,18 @@
         <translation>הרכיב לא יופעל שוב.</translation>
     </message>
     <message>
+        <source>The component ended with exit code %1. It is started again in %2 s.</source>
+        <translation>הרכיב נסגר עם קוד יציאה %1. הוא יופעל מחדש בעוד %2 שנ׳.</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1. It is started again in %2 s.</source>
+        <translation>הרכיב נסגר על ידי האות %1. הוא יופעל מחדש בעוד %2 שנ׳.</translation>
+    </message>
+    <message>
+        <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
+        <translation>הרכיב נסגר (%1). הוא הופעל %2 פעמים בתוך דקה ולא יופעל שוב.</translation>
+    </message>
+    <message>
         <source>The component ended with exit code %1.</source>
         <translation>הרכיב נסגר עם קוד יציאה %1.</translation>
     </message>

@@ -184,6 +184,18 @@
         <translation>不再启动组件。</translation>
     </message>
     <message>
+        <source>The component ended with exit code %1. It is started again in %2 s.</source>
+        <translation>组件已结束,退出代码 %1。%2 秒后重新启动。</translation>
+    </message>
+    <message>
+        <source>The component ended with signal %1. It is started again in %2 s.</source>
+        <translation>组件因信号 %1 结束。%2 秒后重新启动。</translation>
+    </message>
+    <message>
+        <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
+        <translation>组件已结束(%1)。一分钟内已启动 %2 次,不再重试。</translation>
+    </message>
+    <message>
         <source>The component ended with exit code %1.</source>
         <translation>组件已结束,退出代码 %1。</translation>
     </message>

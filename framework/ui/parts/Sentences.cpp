@@ -19,6 +19,10 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Sentences", "The component has left."),
     QT_TRANSLATE_NOOP("Sentences", "The component was asked to end."),
     QT_TRANSLATE_NOOP("Sentences", "The component is not started again."),
+    QT_TRANSLATE_NOOP("Sentences", "The component ended with exit code %1. It is started again in %2 s."),
+    QT_TRANSLATE_NOOP("Sentences", "The component ended with signal %1. It is started again in %2 s."),
+    QT_TRANSLATE_NOOP(
+        "Sentences", "The component ended with %1. It was started %2 times within a minute and is given up."),
     QT_TRANSLATE_NOOP("Sentences", "The component ended with exit code %1."),
     QT_TRANSLATE_NOOP("Sentences", "The component ended with signal %1."),
     QT_TRANSLATE_NOOP("Sentences", "The component cannot be started: %1."),

@@ -58,9 +58,10 @@ void CComponentTab::ShowState(TabState state)
     QJsonObject fields{{"name", m_name}, {"state", NameOf(state)}};
     if (state == TabState::Embedded) {
         m_stack->setCurrentWidget(m_container);
+        // A tab in the background has no place of its own yet; its parent's is what it will have.
         fields.insert("wid", static_cast<qint64>(m_session.Window()));
         fields.insert("available", m_session.IsAvailable());
-        fields.insert("rect", ToJSON(ScreenRect(*m_container)));
+        fields.insert("rect", ToJSON(ScreenRect(*parentWidget())));
     } else {
         ShowStatePage(state);
         m_stack->setCurrentWidget(m_statePage);
