@@ -28,21 +28,37 @@ void Say(const QString& line)
     std::fflush(stdout);
 }
 
-QLineEdit* AddEdit(QBoxLayout* layout)
+class Line : public QLineEdit
 {
-    auto* edit = new QLineEdit;
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    bool event(QEvent* event) override
+    {
+        const bool pressed =
+            event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick;
+        const bool taken = QLineEdit::event(event);
+        if (pressed)
+            Say("pressed");
+        return taken;
+    }
+};
+
+void AddEdit(QBoxLayout* layout)
+{
+    auto* edit = new Line;
     edit->setObjectName("edit");
     layout->addWidget(edit);
     QObject::connect(edit, &QLineEdit::textChanged, [](const QString& text) { Say("text " + text); });
-    return edit;
 }
 
-/// The part of the widget's native top-level window that a child covers, in device pixels.
+/// The part of the screen that a widget covers by Qt's knowledge, in device pixels.
 void SayPlace(const QWidget& top, const QString& name)
 {
     const QWidget* widget = name == "page" ? &top : top.findChild<QWidget*>(name);
     const double scale = top.devicePixelRatioF();
-    const QPoint place = widget->mapTo(&top, QPoint(0, 0));
+    const QPoint place = widget->mapToGlobal(QPoint(0, 0));
     Say(QString("place %1 %2 %3 %4")
             .arg(qRound(place.x() * scale))
             .arg(qRound(place.y() * scale))
@@ -160,11 +176,10 @@ private:
         Say("recreated");
     }
 
-    /// Makes the container a window of its own, then a part of the tab again.
+    /// Gives the container another native window.
     void TakeContainerAway()
     {
         m_container->setParent(nullptr);
-        m_container->show();
         m_tabs.widget(0)->layout()->addWidget(m_container);
         m_container->show();
         Say("back");
