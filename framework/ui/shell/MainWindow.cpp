@@ -41,7 +41,7 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
 {
     setObjectName("mainWindow");
     setWindowTitle(tr("Vantor Video Client"));
-    setMinimumSize(kSmallest);
+    setMinimumSize(kSmallest.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     LayOut();
     for (QTimer* timer : {&m_moved, &m_save})
         timer->setSingleShot(true);
