@@ -100,6 +100,7 @@ QWidget* CHomePage::MakeComponentCard()
     QPushButton* restart = makeButton(tr("Restart"), ButtonKind::Quiet, card);
     restart->setObjectName("homeRestart");
     restart->setIcon(icon("refresh"));
+    m_restartButton = restart;
     connect(restart, &QPushButton::clicked, this, &CHomePage::RestartRequested);
     QVBoxLayout* layout = FillCard(card, tr("Video component"), restart);
     m_state = new CBadge({}, Tone::Idle, card);
@@ -129,7 +130,7 @@ QWidget* CHomePage::MakeEventsCard()
     QPushButton* all = makeButton(tr("Operation log"), ButtonKind::Quiet, card);
     all->setObjectName("homeOperations");
     connect(all, &QPushButton::clicked, this, [this] { emit OpenRequested("Operations"); });
-    m_logButton = all;
+    m_eventsCard = card;
     QVBoxLayout* layout = FillCard(card, tr("Last events"), all);
     m_events = new QGridLayout;
     m_events->setHorizontalSpacing(Grid::Medium);
@@ -180,7 +181,8 @@ void CHomePage::ShowUser(const User& user)
         ++index;
     }
     m_devicesButton->setVisible(FindWindow("Devices")->MayOpen(user));
-    m_logButton->setVisible(FindWindow("Operations")->MayOpen(user));
+    m_eventsCard->setVisible(FindWindow("Operations")->MayOpen(user));
+    m_restartButton->setVisible(user.May(permission::kSystemConfig));
 }
 
 void CHomePage::ShowEvents()

@@ -48,7 +48,8 @@ private:
     VantorGUIToolkit::CBadge* m_state = nullptr;
     QLabel* m_stateText = nullptr;
     QWidget* m_devicesButton = nullptr;
-    QWidget* m_logButton = nullptr;
+    QWidget* m_restartButton = nullptr;
+    QWidget* m_eventsCard = nullptr;
     QGridLayout* m_shortcuts = nullptr;
     QGridLayout* m_events = nullptr;
 };

@@ -41,7 +41,7 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
 {
     setObjectName("mainWindow");
     setWindowTitle(tr("Vantor Video Client"));
-    setMinimumSize(kSmallest);
+    setMinimumSize(kSmallest.boundedTo(QGuiApplication::primaryScreen()->availableSize()));
     LayOut();
     for (QTimer* timer : {&m_moved, &m_save})
         timer->setSingleShot(true);
@@ -56,8 +56,7 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
 
 CMainWindow::~CMainWindow()
 {
-    if (m_restored)
-        Save();
+    Save();
     m_layoutReport.reset();
     // The pages' signals must not arrive in a window that is half gone.
     m_tabs->disconnect(this);
@@ -225,12 +224,13 @@ void CMainWindow::TellPosition()
             tab->TellPosition();
     const QPoint place = ScreenRect(*this).topLeft();
     m_core.WindowMoved(place.x(), place.y());
-    if (m_restored)
-        m_save.start(kSaveDelayMs);
+    m_save.start(kSaveDelayMs);
 }
 
 void CMainWindow::Save()
 {
+    if (!m_restored)
+        return;
     WindowMemory memory;
     const QRect place = normalGeometry();
     memory.geometry = {place.x(), place.y(), place.width(), place.height()};
@@ -260,6 +260,9 @@ void CMainWindow::ShowEnding()
     m_ending->setProperty("surface", "overlay");
     m_ending->setAlignment(Qt::AlignCenter);
     m_ending->setGeometry(rect());
+    // Windows of another process lie above everything here; what is remembered is how it was before.
+    Save();
+    m_restored = false;
     Open("Home");
     m_ending->raise();
     m_ending->show();
