@@ -156,6 +156,8 @@ void CSignalTransmit::OnSignalGetWnd(const LPCCallBackData& data)
     BASE_INFO("Get wnd Success id:[%d].", wid);
     protocol::GetWndHandleResponseData response;
     response.wndId = wid;
+    if (!m_windows.IsAvailable(request.type))
+        response.available = false;
     m_reply(data, response);
 }
 

@@ -89,6 +89,12 @@ bool CWndIdManager::GetSettingsPageWID(const std::string& page, int& wid)
     return window != CSystemconfigUIManager::kNoPage;
 }
 
+bool CWndIdManager::IsAvailable(const std::string& name) const
+{
+    const CComponentPage* const page = MadePage(name);
+    return page && page->IsAvailable();
+}
+
 bool CWndIdManager::ShowWnd(const std::string& name)
 {
     CComponentPage* const page = MadePage(name);

@@ -63,6 +63,9 @@ public:
     /// page: "VideoConfigPage", "ImageConfigPage" or "ToolBarPage".
     bool GetSettingsPageWID(const std::string& page, int& wid);
 
+    /// Whether a page that was created before is more than the sentence that it is not there yet.
+    bool IsAvailable(const std::string& name) const;
+
     /// Shows or hides a page that was created before; false when there is none of the name.
     bool ShowWnd(const std::string& name);
     bool HideWnd(const std::string& name);

@@ -25,15 +25,25 @@ struct FrameworkOptions
     std::chrono::milliseconds endLimit{5000}; ///< for the component to end before it is killed
 };
 
+/// A window of the component, ready to be embedded.
+struct ComponentWindow
+{
+    std::uint64_t wnd = 0; ///< the native identifier
+    bool available = true; ///< false: the page only says that it does not exist yet
+
+    /// The identifier, for those who ask for nothing else.
+    operator std::uint64_t() const { return wnd; }
+};
+
 /// Everything of the framework but its window: the server that components and other clients join, the
 /// component's process, and what is kept on disk. Neither the window's thread nor the server's ever waits for
 /// the other.
 class CFrameworkCore : Base::CNoncopyable
 {
 public:
-    /// A window's identifier, or none when the component has no such window, is not there or does not answer
+    /// A window, or none when the component has no such window, is not there or does not answer
     /// within ten seconds. Called once, on a thread of the core.
-    using WindowAnswer = std::function<void(std::optional<std::uint64_t> wnd)>;
+    using WindowAnswer = std::function<void(std::optional<ComponentWindow> window)>;
 
     CFrameworkCore(IFrameworkEvents& events, FrameworkOptions options);
     /// Stops.

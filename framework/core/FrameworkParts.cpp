@@ -58,13 +58,13 @@ std::string FolderAbove(const std::string& folder)
 }
 
 /// The window in the body of an answer.
-std::optional<std::uint64_t> WindowIn(const std::string& body)
+std::optional<ComponentWindow> WindowIn(const std::string& body)
 {
     protocol::GetWndHandleResponseData answer;
     protocol::LPCRequestData envelope(answer);
     if (!envelope.Parse(body) || answer.wndId <= 0)
         return std::nullopt;
-    return static_cast<std::uint64_t>(answer.wndId);
+    return ComponentWindow{static_cast<std::uint64_t>(answer.wndId), answer.available.value_or(true)};
 }
 
 } // namespace
@@ -302,10 +302,10 @@ void FrameworkParts::RaiseAlarm(const std::string& deviceGuid, const std::string
     notices->Add({}, "alarm", text);
 }
 
-void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<std::uint64_t> wnd)
+void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<ComponentWindow> window)
 {
-    if (!eventLoop.PostTask([onAnswer, wnd] { onAnswer(wnd); }))
-        onAnswer(wnd);
+    if (!eventLoop.PostTask([onAnswer, window] { onAnswer(window); }))
+        onAnswer(window);
 }
 
 void FrameworkParts::GetWndHandle(const std::string& name, CFrameworkCore::WindowAnswer onAnswer)

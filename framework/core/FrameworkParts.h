@@ -34,7 +34,7 @@ struct FrameworkParts : Base::CNoncopyable
     void RaiseAlarm(const std::string& deviceGuid, const std::string& text);
 
     bool IsExternal() const { return options.componentProgram.empty(); }
-    void Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<std::uint64_t> wnd);
+    void Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<ComponentWindow> window);
 
     IFrameworkEvents& events;
     const FrameworkOptions options;

@@ -1,8 +1,9 @@
 #include "WindowEmbedding/FocusMemory.h"
 #include "WindowEmbedding/GuestWindow.h"
 
-#include <QCoreApplication>
 #include <QEvent>
+#include <QGuiApplication>
+#include <QPointer>
 #include <QVariant>
 #include <QWindow>
 
@@ -39,8 +40,6 @@ public:
     {
         if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress)
             OnPress(*TopLevelOf(static_cast<QWindow*>(watched)));
-        else if (watched->isWindowType() && event->type() == QEvent::FocusIn)
-            OnActivated(*static_cast<QWindow*>(watched));
         return false;
     }
 
@@ -52,14 +51,18 @@ private:
         window.setProperty(kFocusedGuest, QVariant());
         native::Focus(window.winId());
     }
+};
 
-    static void OnActivated(const QWindow& window)
-    {
-        const QVariant guest = window.property(kFocusedGuest);
-        if (guest.isValid())
+/// The window manager focuses the host's window, of whose guests it knows nothing. Qt would tell of this too
+/// late, or not at all when the focus comes back soon.
+void HandOnToGuest(native::WindowId focused)
+{
+    for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+        const QVariant guest = window->property(kFocusedGuest);
+        if (guest.isValid() && window->handle() && window->winId() == focused)
             native::Focus(guest.toULongLong());
     }
-};
+}
 
 } // namespace
 
@@ -85,6 +88,7 @@ void FollowMouseWithFocus()
     if (follower || !native::Available())
         return;
     native::StartListening();
+    native::SetFocusListener(&HandOnToGuest);
     follower = new FocusFollower(QCoreApplication::instance());
     QCoreApplication::instance()->installEventFilter(follower);
 }

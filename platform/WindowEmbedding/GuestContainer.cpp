@@ -7,10 +7,7 @@
 #include <QEvent>
 #include <QHideEvent>
 #include <QPlatformSurfaceEvent>
-#include <QPointer>
 #include <QWindow>
-
-#include <vector>
 
 namespace embedding {
 
@@ -126,6 +123,12 @@ struct CGuestContainer::State : native::IWindowObserver
         }
     }
 
+    void OnSurroundingsChanged() override
+    {
+        if (container.isVisible())
+            FitAnew();
+    }
+
     /// The guest was destroyed, or moved: by this container (then all is well), or by somebody else.
     void OnGone(native::WindowId window, native::Change change)
     {
@@ -162,19 +165,6 @@ struct CGuestContainer::State : native::IWindowObserver
             Lose();
     }
 
-    /// Every widget around the container moves it on the screen.
-    void FollowAncestors()
-    {
-        for (const QPointer<QWidget>& ancestor : ancestors)
-            if (ancestor)
-                ancestor->removeEventFilter(&container);
-        ancestors.clear();
-        for (QWidget* widget = container.parentWidget(); widget; widget = widget->parentWidget()) {
-            widget->installEventFilter(&container);
-            ancestors.emplace_back(widget);
-        }
-    }
-
     CGuestContainer& container;
     WId guest = 0;
     native::Area wanted{};
@@ -183,13 +173,11 @@ struct CGuestContainer::State : native::IWindowObserver
     int fetches = 0;
     bool parked = false;
     bool parkedMapped = false;
-    std::vector<QPointer<QWidget>> ancestors;
 };
 
 CGuestContainer::CGuestContainer(QWidget* parent) : QWidget(parent), m_state(std::make_unique<State>(*this))
 {
     setAttribute(Qt::WA_NativeWindow);
-    m_state->FollowAncestors();
 }
 
 CGuestContainer::~CGuestContainer()
@@ -260,22 +248,16 @@ void CGuestContainer::hideEvent(QHideEvent* event)
 
 bool CGuestContainer::event(QEvent* event)
 {
-    if (event->type() == QEvent::ParentChange) {
-        m_state->FollowAncestors();
+    if (event->type() == QEvent::ParentChange)
         m_state->FitAnew();
-    } else if (event->type() == QEvent::WinIdChange) {
+    else if (event->type() == QEvent::WinIdChange)
         m_state->FollowNativeWindow();
-    }
     return QWidget::event(event);
 }
 
 bool CGuestContainer::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Move || event->type() == QEvent::Resize || event->type() == QEvent::Show) {
-        m_state->FitAnew();
-    } else if (event->type() == QEvent::ParentChange && watched->isWidgetType()) {
-        m_state->FollowAncestors();
-    } else if (event->type() == QEvent::PlatformSurface && watched == windowHandle()) {
+    if (event->type() == QEvent::PlatformSurface && watched == windowHandle()) {
         const auto type = static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType();
         if (type == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
             m_state->Park();

@@ -38,6 +38,7 @@ struct CGuestWindow::State : native::IWindowObserver
     }
 
     void OnResized(native::WindowId, const native::Area&) override {}
+    void OnSurroundingsChanged() override {}
 
     /// Hidden first: a widget that counts as visible would not be shown again.
     void OnLost(native::WindowId lost)

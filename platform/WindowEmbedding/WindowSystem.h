@@ -41,6 +41,8 @@ std::optional<Area> AreaOnScreen(WindowId window);
 void Fit(WindowId window, const Area& holderOnScreen);
 
 void Map(WindowId window);
+/// Gives the window the keyboard. A watched window that got it before this call does not count as focused any
+/// more, even if the news comes later.
 void Focus(WindowId window);
 
 enum class Change {
@@ -53,7 +55,7 @@ enum class Change {
     Focused,
 };
 
-/// Hears of one window's changes, on the GUI thread, some time after they happened.
+/// Hears of one watched window's changes, on the GUI thread, some time after they happened.
 class IWindowObserver
 {
 public:
@@ -61,6 +63,8 @@ public:
     virtual void OnChange(WindowId window, Change change) = 0;
     /// The window's area within its holder, when it was resized.
     virtual void OnResized(WindowId window, const Area& inHolder) = 0;
+    /// A window of this process was moved or resized: what embedded windows stand in may be elsewhere now.
+    virtual void OnSurroundingsChanged() = 0;
 };
 
 /// Whose window is watched: another process's, which this one embeds, or its own, which another embeds.
@@ -69,6 +73,10 @@ enum class Owner { Other, Self };
 /// The observer must live until Unwatch. False when there is no such window.
 [[nodiscard]] bool Watch(WindowId window, Owner owner, IWindowObserver& observer);
 void Unwatch(WindowId window);
+
+/// Called with a window of this process that got the keyboard focus, for whatever reason.
+using FocusListener = void (*)(WindowId window);
+void SetFocusListener(FocusListener listener);
 
 /// Corrects what the toolkit makes of focus changes between this process and embedded ones; to be called
 /// once. Watch does it too.

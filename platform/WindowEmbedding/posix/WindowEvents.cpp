@@ -48,6 +48,20 @@ public:
         return node ? std::optional<Watched>(node.mapped()) : std::nullopt;
     }
 
+    void SetFocusListener(FocusListener listener) { m_focusListener = listener; }
+
+    /// Without a time: the press that asks for it is newer than whatever a window manager did about the same
+    /// press with its older time.
+    void Focus(xcb_window_t window)
+    {
+        xcb_connection_t* connection = QX11Info::connection();
+        const auto request =
+            xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
+        xcb_discard_reply(connection, request.sequence);
+        xcb_flush(connection);
+        m_focusRequest = request.sequence;
+    }
+
     bool nativeEventFilter(const QByteArray& type, void* message, long* /*result*/) override
     {
         return type == "xcb_generic_event_t" && Take(static_cast<xcb_generic_event_t*>(message));
@@ -59,7 +73,7 @@ private:
     {
         switch (event->response_type & 0x7F) {
         case 0:
-            return IsOfDeadWindow(reinterpret_cast<xcb_generic_error_t*>(event));
+            return IsOfDeadWindow(*reinterpret_cast<xcb_generic_error_t*>(event));
         case XCB_DESTROY_NOTIFY:
             TakeEnd(reinterpret_cast<xcb_destroy_notify_event_t*>(event)->window);
             return false;
@@ -104,17 +118,31 @@ private:
         Tell(window, Change::Destroyed);
     }
 
-    bool IsOfDeadWindow(const xcb_generic_error_t* error) const
+    /// A graphics context that was to be made for a dead window is missing as well.
+    bool IsOfDeadWindow(const xcb_generic_error_t& error)
     {
-        return std::find(m_ended.begin(), m_ended.end(), error->resource_id) != m_ended.end();
+        const bool dead = std::find(m_ended.begin(), m_ended.end(), error.resource_id) != m_ended.end();
+        m_drewOnDeadWindow = m_drewOnDeadWindow || (dead && error.major_code == XCB_CREATE_GC);
+        return dead || (m_drewOnDeadWindow && error.error_code == XCB_G_CONTEXT);
     }
 
+    /// A window manager's own notices count for the surroundings: Qt tells of a move when it asks for it, not
+    /// when it has happened.
     void TakeSize(const xcb_configure_notify_event_t& event)
     {
         const bool sent = (event.response_type & 0x80) != 0;
         const Watched* watched = Find(event.window);
-        if (watched && !sent)
+        if (!watched || watched->owner == Owner::Self)
+            TellSurroundings();
+        else if (!sent)
             watched->observer->OnResized(event.window, {event.x, event.y, event.width, event.height});
+    }
+
+    void TellSurroundings() const
+    {
+        for (const auto& [window, watched] : m_watched)
+            if (watched.owner == Owner::Other)
+                watched.observer->OnSurroundingsChanged();
     }
 
     /// An event that only says that the pointer is over the window, or that keys are grabbed for a moment,
@@ -127,7 +155,7 @@ private:
             return false;
         const Watched* watched = Find(event.event);
         if (watched && watched->owner == Owner::Other) {
-            if (in)
+            if (in && !PrecedesOwnRequest(event))
                 watched->observer->OnChange(event.event, Change::Focused);
             return false;
         }
@@ -135,7 +163,15 @@ private:
                    event.detail == XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL))
             return true;
         m_focused = in;
+        if (in && m_focusListener)
+            m_focusListener(event.event);
         return false;
+    }
+
+    bool PrecedesOwnRequest(const xcb_focus_in_event_t& event) const
+    {
+        const auto sequence = reinterpret_cast<const xcb_generic_event_t&>(event).full_sequence;
+        return m_focusRequest != 0 && static_cast<int32_t>(sequence - m_focusRequest) < 0;
     }
 
     /// Keys go to the window under the pointer when that lies inside the one that has the focus: an embedded
@@ -176,6 +212,10 @@ private:
     std::deque<xcb_window_t> m_ended;
     /// A window of this process has the keyboard focus.
     bool m_focused = false;
+    /// The connection's number of the last request for the focus; 0 before the first.
+    uint32_t m_focusRequest = 0;
+    FocusListener m_focusListener = nullptr;
+    bool m_drewOnDeadWindow = false;
 };
 
 bool Select(xcb_window_t window, uint32_t events)
@@ -192,6 +232,16 @@ bool Select(xcb_window_t window, uint32_t events)
 void StartListening()
 {
     EventListener::Instance().Install();
+}
+
+void SetFocusListener(FocusListener listener)
+{
+    EventListener::Instance().SetFocusListener(listener);
+}
+
+void Focus(WindowId window)
+{
+    EventListener::Instance().Focus(static_cast<xcb_window_t>(window));
 }
 
 bool Watch(WindowId window, Owner owner, IWindowObserver& observer)

@@ -142,12 +142,4 @@ void Map(WindowId window)
     xcb_flush(Connection());
 }
 
-/// Without a time: the press that asks for it is newer than whatever a window manager did about the same
-/// press with its older time.
-void Focus(WindowId window)
-{
-    Forget(xcb_set_input_focus_checked(Connection(), XCB_INPUT_FOCUS_PARENT, Id(window), XCB_CURRENT_TIME));
-    xcb_flush(Connection());
-}
-
 } // namespace embedding::native

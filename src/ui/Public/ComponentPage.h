@@ -20,6 +20,9 @@ public:
     /// title: translated; the page's window title.
     explicit CComponentPage(const QString& title);
 
+    /// False for a page that only says that it is not there yet.
+    virtual bool IsAvailable() const { return true; }
+
     /// Another user is about to take over: what runs in the name of the present one ends. Popups and dialogs
     /// are closed already.
     virtual void StopWorking() {}

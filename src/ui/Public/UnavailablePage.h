@@ -12,6 +12,8 @@ class CUnavailablePage : public CComponentPage
 public:
     /// title: translated; icon: a name that VantorGUIToolkit::icon knows.
     CUnavailablePage(const QString& title, const QString& icon);
+
+    bool IsAvailable() const override { return false; }
 };
 
 } // namespace video

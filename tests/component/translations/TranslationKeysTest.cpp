@@ -24,7 +24,7 @@ const TsTexts& KeysOfTheSources()
     static const TsTexts keys = [] {
         const QTemporaryDir dir;
         const QString found = dir.filePath("found.ts");
-        QStringList arguments = {"-silent", "-locations", "none"};
+        QStringList arguments = {"-silent", "-locations", "none", "-I", kRoot};
         for (const char* folder : {"src", "platform", "framework", "tools"})
             arguments << kRoot + folder;
         QProcess lupdate;

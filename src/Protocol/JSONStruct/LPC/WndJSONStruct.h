@@ -3,6 +3,7 @@
 #include "Protocol/JSONStruct/JSONMessage.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 /// Messages about the component's windows.
@@ -21,10 +22,12 @@ struct GetWndHandleResponseData : CMessage<GetWndHandleResponseData, ILPCData>
 {
     static constexpr const char* kKey = "getWndHandle";
     std::int64_t wndId = 0; ///< the platform's native window identifier
+    std::optional<bool> available; ///< false: the page only says that it does not exist yet; absent: true
 
     static constexpr auto Fields()
     {
-        return std::make_tuple(Must("wndId", &GetWndHandleResponseData::wndId));
+        using T = GetWndHandleResponseData;
+        return std::make_tuple(Must("wndId", &T::wndId), May("available", &T::available));
     }
 };
 

@@ -1,0 +1,69 @@
+#include "Base/FileUtil.h"
+#include "Base/Log.h"
+#include "Base/ProcessUtil.h"
+#include "Base/StringUtil.h"
+#include "CommonMethodLib/UserDataPath.h"
+#include "UiDataController/HighDPIMgr.h"
+#include "WindowEmbedding/GuestWindow.h"
+#include "framework/ui/FrameworkApplication.h"
+
+#include <QApplication>
+#include <QPointer>
+
+#include <clocale>
+#include <cstdio>
+
+namespace {
+
+constexpr int kWrongCommandLine = 2;
+
+bool PreparePaths()
+{
+    const std::string exeDir = Base::FileUtil::GetCurExeDir();
+    Base::FileUtil::InitCurExeDirUtf8(Base::LocalToUTF8(exeDir));
+    return comm_methodlib::CUserDataPath::Instance().init(exeDir + "../", "Framework.C", -1, -1);
+}
+
+int Run(const framework::CommandLine& line)
+{
+    framework::CFrameworkApplication application(line);
+    const QPointer<framework::CFrameworkApplication> self(&application);
+    Base::ProcessUtil::OnEndRequest([self] {
+        QMetaObject::invokeMethod(
+            qApp, [self] { self ? self->RequestEnd() : QCoreApplication::quit(); }, Qt::QueuedConnection);
+    });
+    QString error;
+    if (!application.Start(error)) {
+        if (!error.isEmpty())
+            std::fprintf(stderr, "%s\n", qPrintable(error));
+        return error.isEmpty() ? 0 : 1;
+    }
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    std::setlocale(LC_CTYPE, "");
+    Base::ProcessUtil::HoldEndRequests();
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments << QString::fromLocal8Bit(argv[index]);
+    QString error;
+    const auto line = framework::ParseCommandLine(arguments, error);
+    if (!line || line->help) {
+        std::fputs(qPrintable(line ? framework::HelpText() : error + '\n'), line ? stdout : stderr);
+        return line ? 0 : kWrongCommandLine;
+    }
+    if (!PreparePaths())
+        return 1;
+    Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
+    QApplication application(argc, argv);
+    QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() + "/../plugins");
+    embedding::FollowMouseWithFocus();
+    const int result = Run(*line);
+    Base::CLog::Instance().UninitLog();
+    return result;
+}

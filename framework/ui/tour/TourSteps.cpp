@@ -1,0 +1,208 @@
+#include "framework/ui/tour/TourSteps.h"
+
+#include "VantorGUIToolkit/Language.h"
+#include "VantorGUIToolkit/Widgets/NoticeStack.h"
+#include "framework/core/FrameworkCore.h"
+#include "framework/ui/pages/SkinPicker.h"
+#include "framework/ui/parts/Report.h"
+#include "framework/ui/parts/WindowTable.h"
+#include "framework/ui/shell/ComponentTab.h"
+#include "framework/ui/shell/MainWindow.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
+#include <QTimer>
+
+namespace framework {
+
+namespace {
+
+const QString kCameraName = QStringLiteral("Entrance north");
+
+QString PendingTab(const TourStage& stage, const QString& name)
+{
+    CTabArea& tabs = stage.window().Tabs();
+    if (tabs.Current() != name)
+        return QStringLiteral("the tab did not come to the front");
+    const auto* tab = qobject_cast<CComponentTab*>(tabs.Page(name));
+    if (!tab)
+        return {};
+    const TabState state = const_cast<CComponentTab*>(tab)->Session().State();
+    return state == TabState::Embedded ? QString()
+                                       : QStringLiteral("the tab is in the state \"%1\"").arg(NameOf(state));
+}
+
+QRect ContentArea(const TourStage& stage)
+{
+    return ScreenRect(stage.window().Tabs().Content());
+}
+
+TourStep TabStep(const TourStage& stage, const QString& name, const QString& tab)
+{
+    return {name,
+            [=] { stage.window().Open(tab); },
+            [=] { return PendingTab(stage, tab); },
+            [=] { return ContentArea(stage); },
+            {}};
+}
+
+void PressLater(QWidget* parent, const QString& buttonName)
+{
+    QTimer::singleShot(0, parent, [=] {
+        if (auto* button = parent->findChild<QAbstractButton*>(buttonName))
+            button->click();
+    });
+}
+
+QDialog* OpenDialog(const QString& name)
+{
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    return dialog && dialog->objectName() == name ? dialog : nullptr;
+}
+
+/// A dialog that begin opens; pressed: the button that is pressed in it before the picture, if any.
+TourStep DialogStep(const QString& name, const QString& dialogName, const std::function<void()>& begin,
+                    const QString& pressed = {})
+{
+    const auto pressedOnce = std::make_shared<bool>(pressed.isEmpty());
+    return {name, begin,
+            [=] {
+                QDialog* dialog = OpenDialog(dialogName);
+                if (!dialog)
+                    return QStringLiteral("the dialog did not open");
+                if (!*pressedOnce)
+                    PressLater(dialog, pressed);
+                *pressedOnce = true;
+                return QString();
+            },
+            [=] {
+                const QDialog* dialog = OpenDialog(dialogName);
+                return dialog ? ScreenRect(*dialog) : QRect();
+            },
+            [=] {
+                if (QDialog* dialog = OpenDialog(dialogName))
+                    dialog->reject();
+            }};
+}
+
+DeviceEntry SampleDevice()
+{
+    DeviceEntry entry;
+    entry.name = kCameraName.toStdString();
+    entry.typeCode = Recorder;
+    entry.address = "192.168.20.14";
+    entry.userName = "admin";
+    entry.password = "sample-password";
+    return entry;
+}
+
+TourStep DeviceStep(const TourStage& stage)
+{
+    TourStep step = TabStep(stage, "device-added", "Devices");
+    const auto error = std::make_shared<std::string>();
+    step.begin = [=] {
+        if (!stage.core.Resources().Add(SampleDevice(), *error).empty())
+            error->clear();
+        stage.window().Open("Devices");
+    };
+    step.pending = [=] {
+        return error->empty() ? PendingTab(stage, "Devices") : QString::fromStdString(*error);
+    };
+    return step;
+}
+
+TourStep NoticeStep(const TourStage& stage)
+{
+    TourStep step = TabStep(stage, "notice", "Home");
+    step.begin = [=] {
+        stage.window().Open("Home");
+        const auto devices = stage.core.Resources().Devices();
+        if (!devices.empty())
+            stage.core.RaiseAlarm(devices.front().guid, "Test alarm of " + devices.front().name);
+    };
+    step.pending = [] {
+        return VantorGUIToolkit::CNoticeStack::Instance().Notices().empty()
+                   ? QStringLiteral("no notice was shown")
+                   : QString();
+    };
+    return step;
+}
+
+TourStep GuestStep(const TourStage& stage)
+{
+    TourStep step = TabStep(stage, "user-guest", "Home");
+    const auto refused = std::make_shared<bool>(false);
+    step.begin = [=] {
+        stage.window().Open("Home");
+        *refused = !stage.core.SwitchUser("guest", "");
+    };
+    step.pending = [=] {
+        if (*refused)
+            return QStringLiteral("the user could not be switched");
+        return stage.window().Tabs().Names().contains("Devices")
+                   ? QStringLiteral("the device list is still open")
+                   : QString();
+    };
+    step.end = [=] { static_cast<void>(stage.core.SwitchUser("admin", "")); };
+    return step;
+}
+
+/// The gallery, or the live view, in other choices than at first.
+TourStep LookStep(const TourStage& stage, const QString& name, const QString& tab, const std::string& skin,
+                  int language)
+{
+    TourStep step = TabStep(stage, name, tab);
+    step.begin = [=] {
+        FrameworkChoices choices = stage.core.Settings().Get();
+        choices.skin = skin;
+        choices.language = language;
+        stage.apply(choices);
+        stage.window().Open(tab);
+    };
+    return step;
+}
+
+void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
+{
+    const FrameworkChoices first = stage.core.Settings().Get();
+    for (const SkinChoice& choice : AllSkins())
+        if (choice.skin.toStdString() != first.skin) {
+            steps.push_back(LookStep(stage, "skin-" + choice.skin, "ToolkitGallery",
+                                     choice.skin.toStdString(), first.language));
+            steps.push_back(TabStep(stage, "skin-" + choice.skin + "-home", "Home"));
+            steps.push_back(TabStep(stage, "skin-" + choice.skin + "-settings", "Settings"));
+        }
+    for (const int language : {VantorGUIToolkit::German, VantorGUIToolkit::Arabic}) {
+        const QString tag = VantorGUIToolkit::languageTag(language);
+        steps.push_back(LookStep(stage, "language-" + tag, "ToolkitGallery", first.skin, language));
+        steps.push_back(TabStep(stage, "language-" + tag + "-home", "Home"));
+        steps.push_back(TabStep(stage, "language-" + tag + "-devices", "Devices"));
+        steps.push_back(TabStep(stage, "language-" + tag + "-settings", "Settings"));
+        steps.push_back(TabStep(stage, "language-" + tag + "-users", "Users"));
+    }
+    steps.push_back(LookStep(stage, "as-at-first", "MainView", first.skin, first.language));
+}
+
+} // namespace
+
+std::vector<TourStep> AllTourSteps(const TourStage& stage)
+{
+    std::vector<TourStep> steps;
+    for (const WindowRow& row : AllWindows())
+        steps.push_back(TabStep(stage, row.name, row.name));
+    steps.push_back(DeviceStep(stage));
+    steps.push_back(DialogStep(
+        "device-dialog", "deviceDialog",
+        [stage] { PressLater(stage.window().Tabs().Page("Devices"), "addDevice"); }, "apply"));
+    steps.push_back(NoticeStep(stage));
+    steps.push_back(TabStep(stage, "notification-centre", "Notices"));
+    steps.push_back(DialogStep("switch-user", "switchUserDialog", [stage] {
+        QTimer::singleShot(0, &stage.window(), &CMainWindow::SwitchUserRequested);
+    }));
+    steps.push_back(GuestStep(stage));
+    AddLooks(stage, steps);
+    return steps;
+}
+
+} // namespace framework

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+/// A user's hands and eyes on one display: presses the real pointer and keyboard of the X server, and sees
+/// where windows are. Lengths are device pixels of the screen.
+class PointerAndKeys
+{
+public:
+    using Window = std::uint32_t;
+
+    struct Area
+    {
+        int x;
+        int y;
+        int width;
+        int height;
+
+        bool operator==(const Area& other) const;
+    };
+
+    /// Keys that give no letter, as X keysyms.
+    enum Key : std::uint32_t { Tab = 0xFF09, Return = 0xFF0D, Escape = 0xFF1B, Down = 0xFF54 };
+
+    explicit PointerAndKeys(const std::string& display);
+    ~PointerAndKeys();
+
+    void MoveTo(int x, int y);
+    void Click(int x, int y);
+    void Press(Key key);
+    /// Letters, digits and spaces of the US keyboard; capitals are not.
+    void Type(const std::string& text);
+
+    /// The window's inside; none when there is no such window.
+    std::optional<Area> AreaOf(Window window) const;
+    /// It and all windows around it are mapped.
+    bool IsViewable(Window window) const;
+    bool Exists(Window window) const { return AreaOf(window).has_value(); }
+    /// 0 for the screen.
+    Window HolderOf(Window window) const;
+    /// The window that has the keyboard focus.
+    Window Focused() const;
+
+    /// Windows that stand on the screen and that no window manager touches, such as menus; lowest first.
+    std::vector<Window> Popups() const;
+    bool HasWindowManager() const;
+
+private:
+    void Send(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
+    void PressKeysym(std::uint32_t keysym);
+    std::uint8_t KeyCode(std::uint32_t keysym) const;
+
+    struct State;
+    std::unique_ptr<State> m_state;
+};
