@@ -302,7 +302,8 @@ void FrameworkParts::RaiseAlarm(const std::string& deviceGuid, const std::string
     notices->Add({}, "alarm", text);
 }
 
-void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<ComponentWindow> window)
+void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer,
+                            std::optional<ComponentWindow> window)
 {
     if (!eventLoop.PostTask([onAnswer, window] { onAnswer(window); }))
         onAnswer(window);
