@@ -25,7 +25,7 @@ using namespace VantorGUIToolkit;
 
 namespace {
 
-constexpr int kListWidth = 280;
+constexpr int kListWidth = 240;
 constexpr int kFormWidth = 640;
 constexpr int kLongestName = 32;
 
@@ -74,7 +74,7 @@ CUsersPage::CUsersPage(CUsers& users, QWidget* parent)
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Grid::Large);
     columns->addWidget(MakeList());
-    columns->addWidget(MakeForm(), 0, Qt::AlignTop);
+    columns->addWidget(MakeForm(), 1, Qt::AlignTop);
     columns->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Grid::Wide, Grid::Wide, Grid::Wide, Grid::Wide);
@@ -96,7 +96,7 @@ QWidget* CUsersPage::MakeForm()
 {
     auto* card = new QFrame(this);
     setSurface(card, Surface::Card);
-    card->setFixedWidth(kFormWidth);
+    card->setMaximumWidth(kFormWidth);
     m_name->setObjectName("userName");
     m_name->setMaxLength(kLongestName);
     m_password->setObjectName("userPassword");
