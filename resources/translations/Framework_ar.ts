@@ -919,8 +919,8 @@
         <translation>كلمة المرور</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>اتركه فارغًا للإبقاء على الحالية.</translation>
+        <source>Unchanged</source>
+        <translation>بدون تغيير</translation>
     </message>
     <message>
         <source>Save</source>

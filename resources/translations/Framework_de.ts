@@ -919,8 +919,8 @@
         <translation>Kennwort</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>Leer lassen, um das bisherige zu behalten.</translation>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>Save</source>

@@ -919,8 +919,8 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>Leave it empty to keep the present one.</translation>
+        <source>Unchanged</source>
+        <translation>Unchanged</translation>
     </message>
     <message>
         <source>Save</source>

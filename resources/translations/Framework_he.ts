@@ -919,8 +919,8 @@
         <translation>סיסמה</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>השאר ריק כדי לשמור על הסיסמה הנוכחית.</translation>
+        <source>Unchanged</source>
+        <translation>ללא שינוי</translation>
     </message>
     <message>
         <source>Save</source>

@@ -919,8 +919,8 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>留空则保留当前密码。</translation>
+        <source>Unchanged</source>
+        <translation>保持不变</translation>
     </message>
     <message>
         <source>Save</source>

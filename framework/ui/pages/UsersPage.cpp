@@ -101,7 +101,7 @@ QWidget* CUsersPage::MakeForm()
     m_name->setMaxLength(kLongestName);
     m_password->setObjectName("userPassword");
     m_form->AddRow(tr("Name"), m_name);
-    m_form->AddRow(tr("Password"), m_password, tr("Leave it empty to keep the present one."));
+    m_form->AddRow(tr("Password"), m_password);
     auto* checks = new QWidget(card);
     MakeChecks(checks);
 
@@ -162,6 +162,7 @@ void CUsersPage::ShowUser()
     if (row < 0 || row >= static_cast<int>(users.size()))
         return;
     m_isNew = false;
+    m_password->setPlaceholderText(tr("Unchanged"));
     const User& user = users[static_cast<std::size_t>(row)];
     m_name->setText(QString::fromStdString(user.name));
     m_name->setReadOnly(true);
@@ -177,8 +178,10 @@ void CUsersPage::NewUser()
 {
     m_list->setCurrentRow(-1);
     m_isNew = true;
+    m_password->setPlaceholderText({});
     m_name->setReadOnly(false);
     m_name->clear();
+    m_form->setFieldError(m_name, {});
     m_password->clear();
     for (QCheckBox* check : m_checks)
         check->setChecked(false);

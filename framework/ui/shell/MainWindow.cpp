@@ -301,6 +301,14 @@ void CMainWindow::SaveSoon()
     m_save.start(kSaveDelayMs);
 }
 
+// Without a window manager nobody gives the keyboard back to this window when a dialog is closed.
+bool CMainWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowUnblocked)
+        activateWindow();
+    return QWidget::event(event);
+}
+
 void CMainWindow::closeEvent(QCloseEvent* event)
 {
     event->ignore();
