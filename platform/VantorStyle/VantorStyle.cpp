@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QHeaderView>
@@ -166,21 +167,25 @@ void DrawRing(QPainter* painter, const QRect& around, const QColor& color)
     painter->restore();
 }
 
-// Days off are told by a quieter colour; Qt's own bright red can't be read on dark surfaces.
+// Days off are told by a quieter colour; Qt's own bright red can't be read on dark surfaces. Short names of
+// days have more than one word in some languages.
 void DressCalendar(QCalendarWidget* calendar, const SkinPalette& colors)
 {
     QTextCharFormat format;
     format.setForeground(colors.Color("text-secondary"));
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
         calendar->setWeekdayTextFormat(day, format);
+    calendar->setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
+    calendar->setAttribute(Qt::WA_StyledBackground);
+    calendar->setContentsMargins(1, 1, 1, 1); // the frame that the style sheet draws
 }
 
 // The delegate that Qt gives the list of a combo box leaves style sheets aside; one that a page has set
-// stays.
-void DressComboList(QAbstractItemView* list)
+// stays. The list is measured before it is polished, so this can't wait for it.
+void DressComboList(QComboBox* box)
 {
-    if (list->itemDelegate()->inherits("QComboBoxDelegate"))
-        list->setItemDelegate(new QStyledItemDelegate(list));
+    if (box->itemDelegate()->inherits("QComboBoxDelegate"))
+        box->setItemDelegate(new QStyledItemDelegate(box));
 }
 
 // Views keep the heights that rows had before the sheet was known.
@@ -245,6 +250,17 @@ void CVantorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+// Sheets put the text of a button with an icon to the icon's side by themselves where the layout runs from
+// right to left, and the painter would turn it around once more.
+void CVantorStyle::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
+                                bool enabled, const QString& text, QPalette::ColorRole role) const
+{
+    const bool besideIcon = painter->layoutDirection() == Qt::RightToLeft &&
+                            (flags & Qt::TextShowMnemonic) != 0 && (flags & Qt::AlignRight) != 0;
+    QProxyStyle::drawItemText(painter, place, besideIcon ? flags | Qt::AlignAbsolute : flags, palette,
+                              enabled, text, role);
+}
+
 void CVantorStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
@@ -254,8 +270,8 @@ void CVantorStyle::polish(QWidget* widget)
         header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     if (qobject_cast<QTreeView*>(widget) || qobject_cast<QListView*>(widget))
         MeasureRowsAgain(static_cast<QAbstractItemView*>(widget));
-    if (widget->inherits("QComboBoxListView"))
-        DressComboList(static_cast<QAbstractItemView*>(widget));
+    if (auto* box = qobject_cast<QComboBox*>(widget))
+        DressComboList(box);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget); calendar && m_colors)
         DressCalendar(calendar, *m_colors);
 }
