@@ -28,6 +28,7 @@ GalleryWindow::GalleryWindow(const Options& options) : m_skin(options.skin), m_l
 void GalleryWindow::Rebuild()
 {
     TakeLook(m_skin, m_language);
+    setLocale(QLocale());
     delete m_content;
     m_content = new QWidget(this);
     auto* column = new QVBoxLayout(m_content);
