@@ -1,10 +1,11 @@
 #include "VantorStyle/VantorStyle.h"
 
+#include "VantorSkin/SkinIcon.h"
+
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
@@ -19,6 +20,7 @@
 
 #include <map>
 
+using VantorGUIToolkit::skinIcon;
 using VantorGUIToolkit::SkinPalette;
 
 namespace {
@@ -114,21 +116,6 @@ const std::map<QStyle::StandardPixmap, std::pair<const char*, const char*>> kMir
     {QStyle::SP_ToolBarHorizontalExtensionButton, {"chevron-right", "chevron-left"}},
 };
 
-QString IconFile(const QString& name)
-{
-    return ":/VantorGUIToolKit/Icons/" + name + ".svg";
-}
-
-QIcon SkinIcon(const QString& name)
-{
-    if (!QFile::exists(IconFile(name)))
-        return {};
-    QIcon icon(IconFile(name));
-    icon.addFile(IconFile(name + "-disabled"), {}, QIcon::Disabled);
-    icon.addFile(IconFile(name + "-selected"), {}, QIcon::Selected);
-    return icon;
-}
-
 bool IsMirrored(const QStyleOption* option, const QWidget* widget)
 {
     if (option)
@@ -139,9 +126,9 @@ bool IsMirrored(const QStyleOption* option, const QWidget* widget)
 QIcon IconOf(QStyle::StandardPixmap standard, bool mirrored)
 {
     if (const auto pair = kMirroredIcons.find(standard); pair != kMirroredIcons.end())
-        return SkinIcon(mirrored ? pair->second.second : pair->second.first);
+        return skinIcon(mirrored ? pair->second.second : pair->second.first);
     const auto icon = kIcons.find(standard);
-    return icon == kIcons.end() ? QIcon() : SkinIcon(icon->second);
+    return icon == kIcons.end() ? QIcon() : skinIcon(icon->second);
 }
 
 int PictureSize(QStyle::StandardPixmap standard)
@@ -171,10 +158,13 @@ void DrawRing(QPainter* painter, const QRect& around, const QColor& color)
 // days have more than one word in some languages.
 void DressCalendar(QCalendarWidget* calendar, const SkinPalette& colors)
 {
-    QTextCharFormat format;
-    format.setForeground(colors.Color("text-secondary"));
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
-        calendar->setWeekdayTextFormat(day, format);
+    const QList<Qt::DayOfWeek> workdays = calendar->locale().weekdays();
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        const auto weekday = static_cast<Qt::DayOfWeek>(day);
+        QTextCharFormat format;
+        format.setForeground(colors.Color(workdays.contains(weekday) ? "text" : "text-secondary"));
+        calendar->setWeekdayTextFormat(weekday, format);
+    }
     calendar->setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
     calendar->setAttribute(Qt::WA_StyledBackground);
     calendar->setContentsMargins(1, 1, 1, 1); // the frame that the style sheet draws
