@@ -77,6 +77,16 @@ void PointerAndKeys::Click(int x, int y)
     MoveTo(x, y);
     Send(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
     Send(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
+    EXPECT_TRUE(WaitUntil([&] { return !IsButtonDown(); })) << "the click was not passed on";
+}
+
+// The server holds the release back while a window manager thinks about the press.
+bool PointerAndKeys::IsButtonDown() const
+{
+    xcb_connection_t* connection = m_state->connection;
+    const auto pointer =
+        Own(xcb_query_pointer_reply(connection, xcb_query_pointer(connection, m_state->root), nullptr));
+    return pointer && (pointer->mask & XCB_KEY_BUT_MASK_BUTTON_1) != 0;
 }
 
 void PointerAndKeys::Press(Key key)

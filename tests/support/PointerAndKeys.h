@@ -41,6 +41,7 @@ public:
     ~PointerAndKeys();
 
     void MoveTo(int x, int y);
+    /// Returns when the window manager has passed the click on, too: keys that follow come after it.
     void Click(int x, int y);
     void Press(Key key);
     /// key: a Key, or the number of a letter.
@@ -79,6 +80,7 @@ private:
     void PressKeysym(std::uint32_t keysym);
     std::uint8_t KeyCode(std::uint32_t keysym) const;
     std::uint32_t Atom(const char* name) const;
+    bool IsButtonDown() const;
 
     struct State;
     std::unique_ptr<State> m_state;

@@ -39,7 +39,7 @@ public:
     bool HasItem(const QString& name);
     void Click(const QString& item);
     void Click(const Area& area);
-    /// Clicks until the window, or one in it, has the keyboard; a window manager passes clicks on late.
+    /// Returns when the window has the keyboard.
     void ClickForKeys(const Area& area, Window window);
 
     /// Opens a component's tab through the navigation.
