@@ -54,6 +54,7 @@ build() {
 }
 
 # Starts an X server of our own where there is no display, on a number that it chooses itself.
+# Without -noreset it would start afresh, refusing clients meanwhile, whenever the last one leaves.
 need_display() {
     [ -z "${DISPLAY:-}" ] || return 0
     local pipe
