@@ -11,7 +11,7 @@
 #include "framework/ui/parts/WindowTable.h"
 #include "framework/ui/shell/ComponentTab.h"
 
-#include <QPointer>
+#include <QScrollArea>
 #include <QTimer>
 
 namespace framework {
@@ -41,7 +41,12 @@ QWidget* CPages::MakeOwn(const QString& name, QWidget* parent)
         {"Notices", &CPages::MakeNotices}, {"Operations", &CPages::MakeOperations},
         {"Users", &CPages::MakeUsers},     {"Settings", &CPages::MakeSettings},
     };
-    return (this->*makers.value(name))(parent);
+    // On a small or highly scaled screen a page is larger than its place.
+    auto* scroll = new QScrollArea(parent);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget((this->*makers.value(name))(scroll));
+    return scroll;
 }
 
 QWidget* CPages::MakeHome(QWidget* parent)
@@ -72,14 +77,13 @@ QWidget* CPages::MakeDevices(QWidget* parent)
 QWidget* CPages::MakeNotices(QWidget* parent)
 {
     auto* page = new CNoticesPage(m_core.Notices(), m_unread, parent);
-    connect(&m_relay, &CEventRelay::NoticeAdded, page, &CNoticesPage::Reload);
     connect(this, &CPages::FormatsChanged, page, &CNoticesPage::Reload);
     return page;
 }
 
 QWidget* CPages::MakeOperations(QWidget* parent)
 {
-    auto* page = new CJournalPage(m_core.Operations(), tr("Operation log"),
+    auto* page = new CJournalPage(m_core.Operations(), TitleOf("Operations"),
                                   tr("What users did, and what happened to the component."), parent);
     connect(&m_relay, &CEventRelay::OperationAdded, page, &CJournalPage::Reload);
     connect(this, &CPages::FormatsChanged, page, &CJournalPage::Reload);

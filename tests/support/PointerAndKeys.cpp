@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <xcb/xcb.h>
@@ -150,6 +151,20 @@ PointerAndKeys::Window PointerAndKeys::HolderOf(Window window) const
 {
     const auto tree = m_state->Tree(window);
     return !tree || tree->parent == tree->root ? 0 : tree->parent;
+}
+
+bool PointerAndKeys::IsAbove(Window one, Window other) const
+{
+    const auto outermost = [this](Window window) {
+        while (const Window holder = HolderOf(window))
+            window = holder;
+        return window;
+    };
+    const auto tree = m_state->Tree(m_state->root);
+    const xcb_window_t* lowest = xcb_query_tree_children(tree.get());
+    const xcb_window_t* end = lowest + xcb_query_tree_children_length(tree.get());
+    const xcb_window_t* found = std::find(lowest, end, outermost(one));
+    return found != end && found > std::find(lowest, end, outermost(other));
 }
 
 PointerAndKeys::Window PointerAndKeys::Focused() const

@@ -28,6 +28,7 @@ public:
 
     /// Keys that give no letter, as X keysyms.
     enum Key : std::uint32_t {
+        BackSpace = 0xFF08,
         Tab = 0xFF09,
         Return = 0xFF0D,
         Escape = 0xFF1B,
@@ -56,6 +57,8 @@ public:
     bool Exists(Window window) const { return AreaOf(window).has_value(); }
     /// 0 for the screen.
     Window HolderOf(Window window) const;
+    /// One covers the other where both are, with all that is around them.
+    bool IsAbove(Window one, Window other) const;
     /// The window that has the keyboard focus.
     Window Focused() const;
 

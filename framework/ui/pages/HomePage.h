@@ -35,7 +35,11 @@ signals:
     void OpenRequested(const QString& name);
     void RestartRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void ShowShortcuts();
     QWidget* MakeDevicesCard();
     QWidget* MakeComponentCard();
     QWidget* MakeShortcutsCard();
@@ -48,7 +52,10 @@ private:
     VantorGUIToolkit::CBadge* m_state = nullptr;
     QLabel* m_stateText = nullptr;
     QWidget* m_devicesButton = nullptr;
-    QWidget* m_logButton = nullptr;
+    QWidget* m_restartButton = nullptr;
+    QWidget* m_eventsCard = nullptr;
+    User m_user;
+    int m_columns = 0; ///< of the shortcuts
     QGridLayout* m_shortcuts = nullptr;
     QGridLayout* m_events = nullptr;
 };

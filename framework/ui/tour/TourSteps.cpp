@@ -170,6 +170,7 @@ void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
         if (choice.skin.toStdString() != first.skin) {
             steps.push_back(LookStep(stage, "skin-" + choice.skin, "ToolkitGallery",
                                      choice.skin.toStdString(), first.language));
+            steps.push_back(TabStep(stage, "skin-" + choice.skin + "-home", "Home"));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-settings", "Settings"));
         }
     for (const int language : {VantorGUIToolkit::German, VantorGUIToolkit::Arabic}) {
@@ -177,6 +178,8 @@ void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
         steps.push_back(LookStep(stage, "language-" + tag, "ToolkitGallery", first.skin, language));
         steps.push_back(TabStep(stage, "language-" + tag + "-home", "Home"));
         steps.push_back(TabStep(stage, "language-" + tag + "-devices", "Devices"));
+        steps.push_back(TabStep(stage, "language-" + tag + "-settings", "Settings"));
+        steps.push_back(TabStep(stage, "language-" + tag + "-users", "Users"));
     }
     steps.push_back(LookStep(stage, "as-at-first", "MainView", first.skin, first.language));
 }

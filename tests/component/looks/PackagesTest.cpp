@@ -79,7 +79,7 @@ TEST_P(ThePackages, HaveSheetsWhoseRolesAndPicturesAllExist)
         kit.setLayoutDirection(isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight);
         look.ApplySheets(kSheets);
         const QString sheet = qApp->styleSheet();
-        for (const char* part : {"QPushButton", "#settingsPageList", "#videoArea", "#frameworkTabs"})
+        for (const char* part : {"QPushButton", "#settingsPageList", "#videoArea", "#topBar"})
             EXPECT_TRUE(sheet.contains(part)) << part;
         EXPECT_FALSE(sheet.contains("Left out by the loader"));
         EXPECT_EQ(sheet.count('{'), sheet.count('}'));
