@@ -58,7 +58,7 @@ std::string Complaints(const std::string& output)
 
 } // namespace
 
-ClientRun::ClientRun(PrivateDisplay::WindowManager manager) : display(manager)
+ClientRun::ClientRun(PrivateDisplay::WindowManager manager, int dpi) : display(manager, dpi)
 {
     setenv("QT_QPA_PLATFORM", "xcb", 1);
 }

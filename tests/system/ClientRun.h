@@ -18,7 +18,7 @@ public:
     using Area = PointerAndKeys::Area;
     using Window = PointerAndKeys::Window;
 
-    explicit ClientRun(PrivateDisplay::WindowManager manager);
+    explicit ClientRun(PrivateDisplay::WindowManager manager, int dpi = 96);
     /// Ends a client that runs, as End.
     ~ClientRun();
 
@@ -34,7 +34,7 @@ public:
     QJsonObject Await(const QJsonObject& fields, int times = 1);
     int Count(const QJsonObject& fields);
 
-    /// Where an item of the framework's layout is; see docs/framework.md, "layout".
+    /// Where an item of the framework's layout is; see framework/ui/shell/LayoutReport.h.
     Area Item(const QString& name);
     bool HasItem(const QString& name);
     void Click(const QString& item);

@@ -47,7 +47,7 @@ bool IsBeside(const std::optional<Area>& popup, const Area& widget, bool rightTo
 class ClientTest
 {
 protected:
-    explicit ClientTest(Manager manager) : client(manager) {}
+    explicit ClientTest(Manager manager, int dpi = 96) : client(manager, dpi) {}
 
     GalleryModel Gallery(Window page, int language = 1)
     {
@@ -62,6 +62,20 @@ protected:
         const auto before = client.user.PictureOf(counter);
         client.Click(gallery.Of("galleryButton"));
         EXPECT_TRUE(WaitUntil([&] { return client.user.PictureOf(counter) != before; })) << "nothing counted";
+    }
+
+    /// Moves and resizes the client's window; returns when it has come to rest. A title bar may shift it.
+    void Place(Window page, const Area& place)
+    {
+        const auto before = client.user.AreaOf(page);
+        client.user.Place(client.TopLevel(), place);
+        ASSERT_TRUE(WaitUntil([&] {
+            const auto now = client.user.AreaOf(page);
+            const Area content = client.Item("content");
+            return now && !(now == before) && std::abs(now->x - content.x) <= 2 &&
+                   std::abs(now->y - content.y) <= 2 && std::abs(now->width - content.width) <= 1 &&
+                   std::abs(now->height - content.height) <= 1;
+        })) << Text(client.user.AreaOf(page));
     }
 
     void ExpectPopupBeside(const Area& widget, bool rightToLeft = false)
@@ -145,18 +159,8 @@ TEST_P(Client, OpensPopupsBesideTheirWidgetsWhereverItsWindowIs)
 {
     client.Start(kLook);
     const Window page = client.OpenTab(kGallery);
-    const Area places[] = {{40, 60, 1440, 1020}, {310, 90, 1300, 1050}, {5, 30, 1100, 1000}};
-    for (const Area& place : places) {
-        const auto before = client.user.AreaOf(page);
-        client.user.Place(client.TopLevel(), place);
-        // The framework tells its layout when the window has come to rest; a title bar may shift it.
-        ASSERT_TRUE(WaitUntil([&] {
-            const auto now = client.user.AreaOf(page);
-            const Area content = client.Item("content");
-            return now && !(now == before) && std::abs(now->x - content.x) <= 2 &&
-                   std::abs(now->y - content.y) <= 2 && now->width == content.width &&
-                   now->height == content.height;
-        })) << Text(client.user.AreaOf(page));
+    for (const Area& place : {Area{40, 60, 1440, 1020}, {310, 90, 1300, 1050}, {5, 30, 1100, 1000}}) {
+        Place(page, place);
         const GalleryModel gallery = Gallery(page);
         for (const char* widget : {"galleryMenuButton", "galleryCombo"})
             ExpectPopupBeside(gallery.Of(widget));
@@ -283,6 +287,24 @@ TEST_P(Client, ClosesNoPageFromOutside)
     EXPECT_EQ(client.AwaitExit(15), 0);
     EXPECT_TRUE(client.component.WaitUntilEnded(0));
     EXPECT_THAT(client.component.MissingInOrder({"UNInitVantorApplication success"}), IsEmpty());
+}
+
+class ScaledClient : public ClientTest, public testing::Test
+{
+protected:
+    ScaledClient() : ClientTest(Manager::Openbox, 144) {}
+};
+
+TEST_F(ScaledClient, IsLargerAndTakesClicksWhereItShowsItsWidgets)
+{
+    client.Start(kLook);
+    const Window page = client.OpenTab(kGallery);
+    for (const Area& place : {Area{200, 100, 1600, 1050}, {20, 40, 1700, 1000}}) {
+        Place(page, place);
+        const GalleryModel gallery(*client.user.AreaOf(page), "BlackRedSkin", 1, 1.5);
+        ExpectClicksCount(gallery);
+        ExpectPopupBeside(gallery.Of("galleryMenuButton"));
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Displays, Client, testing::Values(Manager::None, Manager::Openbox));

@@ -9,7 +9,8 @@
 
 using namespace VantorGUIToolkit;
 
-GalleryModel::GalleryModel(const Area& page, const QString& skin, int language) : m_area(page)
+GalleryModel::GalleryModel(const Area& page, const QString& skin, int language, double scale)
+    : m_area(page), m_scale(scale)
 {
     CToolkit& kit = toolkit();
     const auto direction = isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight;
@@ -25,7 +26,7 @@ GalleryModel::GalleryModel(const Area& page, const QString& skin, int language) 
     EXPECT_TRUE(look.SetStyle());
     look.ApplySheets({});
     m_page = std::make_unique<CGalleryPage>();
-    m_page->resize(page.width, page.height);
+    m_page->resize(qRound(page.width / scale), qRound(page.height / scale));
     m_page->show();
 }
 
@@ -44,8 +45,9 @@ GalleryModel::Area GalleryModel::Of(const QString& name) const
         ADD_FAILURE() << name.toStdString() << " is not to be seen in the gallery";
         return m_area;
     }
-    const QPoint place = widget->mapTo(m_page.get(), QPoint());
-    return {m_area.x + place.x(), m_area.y + place.y(), widget->width(), widget->height()};
+    const QPointF place = QPointF(widget->mapTo(m_page.get(), QPoint())) * m_scale;
+    return {m_area.x + qRound(place.x()), m_area.y + qRound(place.y()), qRound(widget->width() * m_scale),
+            qRound(widget->height() * m_scale)};
 }
 
 std::uint32_t GalleryModel::Colour(const QString& role) const

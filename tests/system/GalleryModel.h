@@ -12,8 +12,9 @@ class GalleryModel
 public:
     using Area = PointerAndKeys::Area;
 
-    /// page: where the page lies on the screen.
-    explicit GalleryModel(const Area& page, const QString& skin = "BlackRedSkin", int language = 1);
+    /// page: where the page lies on the screen. scale: device pixels of a pixel of the layout.
+    explicit GalleryModel(const Area& page, const QString& skin = "BlackRedSkin", int language = 1,
+                          double scale = 1);
     ~GalleryModel();
 
     /// A widget's place on the screen; a test failure where the user would have to scroll to it.
@@ -24,5 +25,6 @@ public:
 
 private:
     const Area m_area;
+    const double m_scale;
     std::unique_ptr<VantorGUIToolkit::CGalleryPage> m_page;
 };
