@@ -1,10 +1,11 @@
 #include "support/PointerAndKeys.h"
 
+#include "support/WaitUntil.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
@@ -173,13 +174,12 @@ std::vector<PointerAndKeys::Window> PointerAndKeys::Popups() const
 bool PointerAndKeys::HasWindowManager() const
 {
     xcb_connection_t* connection = m_state->connection;
-    const char name[] = "_NET_SUPPORTING_WM_CHECK";
-    const auto atom = Own(xcb_intern_atom_reply(
-        connection, xcb_intern_atom(connection, 1, static_cast<uint16_t>(std::strlen(name)), name), nullptr));
-    if (!atom || atom->atom == XCB_ATOM_NONE)
-        return false;
-    const auto property = Own(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, m_state->root, atom->atom, XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    return property && property->value_len == 1;
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, m_state->root, 0, 0, 8, 8, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection, window);
+    const bool framed = WaitUntil([&] { return HolderOf(window) != 0; }, std::chrono::seconds(1));
+    xcb_destroy_window(connection, window);
+    xcb_flush(connection);
+    return framed;
 }
