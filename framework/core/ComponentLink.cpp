@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "LPC_Forward/Answer.h"
+#include "LPC_Wire/Limits.h"
 #include "LPC_Wire/WellKnownNames.h"
 #include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
 #include "Protocol/JSONStruct/HTTP/Routes.h"
@@ -17,8 +18,14 @@ namespace {
 
 namespace route = protocol::route;
 
-/// More requests that nobody has served yet are answered with "try again".
-constexpr int kMostWaiting = 1000;
+/// Of a body: JSON takes many times its length when it is read. The longest that a route needs names the
+/// channels of all devices, in 640 KiB.
+constexpr std::size_t kBodyLimit = lpc::kMiB;
+
+/// Of requests that nobody has served yet; more are answered with "try again". Each counts its body and as
+/// much more that a thousand without body fit.
+constexpr std::size_t kMostWaitingBytes = 16 * lpc::kMiB;
+constexpr std::size_t kBytesOfRequest = kMostWaitingBytes / 1000;
 
 constexpr const char* kAlarmMessage = "alarmMessage";
 
@@ -107,6 +114,14 @@ void CComponentLink::OnClientDisconnected(lpcserver::ClientId client)
     m_events.onLeft();
 }
 
+void CComponentLink::ForgetComponent()
+{
+    if (m_component.exchange(0) == 0)
+        return;
+    BASE_WARN("A client that joined before the component was started has its name; it is not taken for it.");
+    m_forwarder.SetServed({});
+}
+
 void CComponentLink::OnData(lpcserver::ClientId client, const lpc::CallBackData& data)
 {
     const std::string url = data.Header("url");
@@ -121,15 +136,21 @@ void CComponentLink::OnData(lpcserver::ClientId client, const lpc::CallBackData&
 
 void CComponentLink::ServeLater(lpcserver::ClientId client, const lpc::CallBackData& data)
 {
-    if (++m_waiting > kMostWaiting || !m_worker.PostTask([this, client, data] { Serve(client, data); })) {
-        --m_waiting;
+    if (data.body.size() > kBodyLimit)
+        return Reply(client, data.requestId, Failed(413, "The body is larger than 1 MiB."));
+    const std::size_t bytes = data.body.size() + kBytesOfRequest;
+    const auto serve = [this, client, data, bytes] {
+        m_waitingBytes -= bytes;
+        Serve(client, data);
+    };
+    if ((m_waitingBytes += bytes) > kMostWaitingBytes || !m_worker.PostTask(serve)) {
+        m_waitingBytes -= bytes;
         Reply(client, data.requestId, lpcforward::MakeAnswer(503, lpc::kTryAgain, {}));
     }
 }
 
 void CComponentLink::Serve(lpcserver::ClientId client, const lpc::CallBackData& data)
 {
-    --m_waiting;
     RouteRequest request;
     request.client = client;
     request.isFromComponent = client == m_component;

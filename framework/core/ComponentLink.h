@@ -43,6 +43,9 @@ public:
 
     bool IsJoined() const { return m_component != 0; }
 
+    /// To be called before a component is started: who has its name now is another client from then on.
+    void ForgetComponent();
+
     /// Sends the component a method's notification, if it is there.
     void Notify(const protocol::ILPCData& payload);
     void NotifyMethod(const std::string& method);
@@ -83,7 +86,7 @@ private:
     const Events m_events;
     CRouteTable m_routes;
     std::atomic<lpcserver::ClientId> m_component{0};
-    std::atomic<int> m_waiting{0}; ///< requests that the worker has not begun
+    std::atomic<std::size_t> m_waitingBytes{0}; ///< of requests that the worker has not begun
     mutable std::mutex m_mutex;
     std::map<lpcserver::ClientId, Client> m_clients;
     lpcserver::CLPCServer m_server;

@@ -20,35 +20,36 @@ lpc::Message NoDevice(const std::string& guid)
     return Failed(404, "There is no device \"" + guid + "\".");
 }
 
-/// The device as that client may see it: a component gets the credentials, enciphered; others get none.
-DeviceResponseData ForClient(DeviceResponseData device, const RouteRequest& request,
-                             const Base::Encrypt::AESParams& seal)
+/// All devices as that client may see them: a component gets the credentials, enciphered; others get none.
+std::vector<DeviceResponseData> DevicesFor(const RouteRequest& request, const CResources& resources,
+                                           const Base::Encrypt::AESParams& seal)
 {
-    for (std::string* credential : {&device.userName, &device.password}) {
-        std::string plain;
-        plain.swap(*credential);
-        if (request.isFromComponent && !plain.empty())
-            *credential = Base::Encrypt::Seal(seal, plain);
-        Base::Encrypt::Wipe(plain);
+    std::vector<DeviceResponseData> devices = resources.Devices();
+    for (DeviceResponseData& device : devices) {
+        for (std::string* credential : {&device.userName, &device.password}) {
+            const bool isShown = request.isFromComponent && !credential->empty();
+            std::string sealed = isShown ? Base::Encrypt::Seal(seal, *credential) : std::string();
+            Base::Encrypt::Wipe(*credential);
+            *credential = std::move(sealed);
+        }
     }
-    return device;
+    return devices;
 }
 
 lpc::Message AllDevices(const CResources& resources, const RouteRequest& request,
                         const Base::Encrypt::AESParams& seal)
 {
     protocol::DeviceResponseListData list;
-    for (DeviceResponseData& device : resources.Devices())
-        list.devices.push_back(ForClient(std::move(device), request, seal));
+    list.devices = DevicesFor(request, resources, seal);
     return Found(list);
 }
 
 lpc::Message OneDevice(const CResources& resources, const RouteRequest& request,
                        const Base::Encrypt::AESParams& seal)
 {
-    for (DeviceResponseData& device : resources.Devices())
+    for (const DeviceResponseData& device : DevicesFor(request, resources, seal))
         if (device.guid == request.ids[0])
-            return Found(ForClient(std::move(device), request, seal));
+            return Found(device);
     return NoDevice(request.ids[0]);
 }
 
@@ -93,8 +94,9 @@ lpc::Message SwitchOutput(CResources& resources, const RouteRequest& request, bo
 lpc::Message ModifyGroups(CResources& resources, const protocol::ModifyGroupCondition& condition)
 {
     protocol::GroupListData list;
-    list.groups = resources.ModifyGroups(condition);
-    return Found(list);
+    bool isSaved = false;
+    list.groups = resources.ModifyGroups(condition, &isSaved);
+    return isSaved ? Found(list) : Failed(500, "The groups cannot be saved.");
 }
 
 protocol::ResultCode ResultFor(const CResources& resources, const std::string& deviceGuid)

@@ -5,6 +5,7 @@
 #include "framework/core/Resources.h"
 #include "framework/core/Users.h"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -21,6 +22,7 @@ struct FrameworkOptions
     std::string dataFolder;       ///< the framework's own folder, "<root>/Framework.C/"; made when missing
     std::string componentProgram; ///< path of the component; empty: it is started by somebody else
     std::string componentOutput;  ///< file for what the component prints; empty: as this process
+    std::chrono::milliseconds endLimit{5000}; ///< for the component to end before it is killed
 };
 
 /// A window of the component, ready to be embedded.
@@ -56,7 +58,7 @@ public:
     /// Starts the component with the settings' skin, language and edition, or again after it was given up or
     /// stopped.
     void StartComponent();
-    /// Ends the component with "componentUninit" and, after five seconds, by force; it is not started again.
+    /// Ends the component with "componentUninit" and, after the end limit, by force; it is not started again.
     void StopComponent();
     /// Stop and start, as after a change of skin or language.
     void RestartComponent();

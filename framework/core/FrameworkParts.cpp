@@ -57,12 +57,6 @@ std::string FolderAbove(const std::string& folder)
     return WithSlash(std::filesystem::path(folder).parent_path().parent_path().string());
 }
 
-std::int64_t Now()
-{
-    using namespace std::chrono;
-    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
-}
-
 /// The window in the body of an answer.
 std::optional<ComponentWindow> WindowIn(const std::string& body)
 {
@@ -78,20 +72,28 @@ std::optional<ComponentWindow> WindowIn(const std::string& body)
 FrameworkParts::FrameworkParts(IFrameworkEvents& listener, FrameworkOptions given)
     : events(listener), options(Completed(std::move(given))), dataRoot(FolderAbove(options.dataFolder)),
       link(LinkEvents()), process(ProcessWays()),
-      supervisor(process, loop, [this](ComponentState now, const std::string& why) { OnState(now, why); }),
+      supervisor(
+          process, loop, [this](ComponentState now, const std::string& why) { OnState(now, why); },
+          options.endLimit),
       moves(loop, kMovePeriod, [this](const protocol::FrameworkMoveData& move) { link.Notify(move); })
 {}
 
 CComponentLink::Events FrameworkParts::LinkEvents()
 {
     return {[this] { loop.Post([this] { OnJoined(); }); }, [this] { loop.Post([this] { OnLeft(); }); },
-            [this](const std::string& method) { loop.Post([this, method] { OnMethod(method); }); }};
+            [this](const std::string& method) {
+                if (method == kReadyMethod)
+                    loop.Post([this] { OnReady(); });
+            }};
 }
 
 CComponentProcess::Ways FrameworkParts::ProcessWays()
 {
     CComponentProcess::Ways ways;
-    ways.command = [this] { return Command(); };
+    ways.command = [this] {
+        link.ForgetComponent();
+        return Command();
+    };
     ways.output = options.componentOutput;
     ways.askToEnd = [this] {
         const bool isJoined = link.IsJoined();
@@ -117,16 +119,8 @@ bool FrameworkParts::Start(std::string& error)
         error = "The folder \"" + options.dataFolder + "\" cannot be made.";
         return false;
     }
-    const auto journal = [this](const char* name, void (IFrameworkEvents::*onEntry)(const JournalEntry&)) {
-        return std::make_unique<CJournal>(
-            options.dataFolder + name, [this, onEntry](const JournalEntry& entry) {
-                eventLoop.PostTask([this, onEntry, entry] { (events.*onEntry)(entry); });
-            });
-    };
-    operations = journal("operations.jsonl", &IFrameworkEvents::OnOperation);
-    notices = journal("notices.jsonl", &IFrameworkEvents::OnNotice);
-    // What clients do meanwhile is looked at when everything has been read; a broken promise ends the wait
-    // too.
+    // The channel comes first: who has it is the only one to touch the files. What clients do meanwhile is
+    // looked at when everything has been read; a broken promise ends the wait too.
     std::promise<void> loaded;
     loop.Post([over = loaded.get_future().share()] { over.wait(); });
     const int listening = link.Listen();
@@ -144,8 +138,17 @@ bool FrameworkParts::Start(std::string& error)
     return true;
 }
 
+std::unique_ptr<CJournal> FrameworkParts::OpenJournal(const char* name, EntryEvent onEntry)
+{
+    return std::make_unique<CJournal>(options.dataFolder + name, [this, onEntry](const JournalEntry& entry) {
+        eventLoop.PostTask([this, onEntry, entry] { (events.*onEntry)(entry); });
+    });
+}
+
 bool FrameworkParts::Load(std::string& error)
 {
+    operations = OpenJournal("operations.jsonl", &IFrameworkEvents::OnOperation);
+    notices = OpenJournal("notices.jsonl", &IFrameworkEvents::OnNotice);
     const auto encryption = PrepareEncryption(dataRoot, error);
     if (!encryption)
         return false;
@@ -186,10 +189,7 @@ void FrameworkParts::Stop()
     if (isStopped.exchange(true))
         return;
     std::promise<void> ended;
-    loop.Post([&] {
-        supervisor.Stop();
-        supervisor.WhenEnded([&] { ended.set_value(); });
-    });
+    loop.Post([&] { supervisor.Finish([&] { ended.set_value(); }); });
     ended.get_future().wait();
     link.Stop();
     loop.Stop();
@@ -208,6 +208,8 @@ void FrameworkParts::OnJoined()
 {
     if (IsExternal())
         OnState(ComponentState::Starting, "The component has joined.");
+    else
+        supervisor.OnJoined();
 }
 
 void FrameworkParts::OnLeft()
@@ -218,10 +220,8 @@ void FrameworkParts::OnLeft()
         supervisor.OnLeft();
 }
 
-void FrameworkParts::OnMethod(const std::string& method)
+void FrameworkParts::OnReady()
 {
-    if (method != kReadyMethod)
-        return;
     if (IsExternal())
         OnState(ComponentState::Ready, "The component is ready.");
     else
@@ -271,6 +271,7 @@ void FrameworkParts::TellUser()
 {
     if (!users)
         return;
+    std::lock_guard<std::mutex> telling(tellingMutex);
     const User user = users->Current();
     protocol::SwitchUserUpdateFrameData update;
     update.userName = user.name;
@@ -295,13 +296,14 @@ bool FrameworkParts::SwitchUser(const std::string& name, const std::string& pass
 
 void FrameworkParts::RaiseAlarm(const std::string& deviceGuid, const std::string& text)
 {
-    const AlarmMessage alarm{kAlarmRaisedHere, deviceGuid, text, {Now()}};
+    const AlarmMessage alarm{kAlarmRaisedHere, deviceGuid, text, {CJournal::Now()}};
     link.PublishAlarm(kAlarmRaisedHere, deviceGuid,
                       protocol::json::PrintText(protocol::json::Kind<AlarmMessage>::Write(alarm).get()));
     notices->Add({}, "alarm", text);
 }
 
-void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer, std::optional<ComponentWindow> window)
+void FrameworkParts::Answer(const CFrameworkCore::WindowAnswer& onAnswer,
+                            std::optional<ComponentWindow> window)
 {
     if (!eventLoop.PostTask([onAnswer, window] { onAnswer(window); }))
         onAnswer(window);

@@ -43,7 +43,8 @@ struct FrameworkParts : Base::CNoncopyable
     std::atomic<bool> resourceEventWaits{false};
     std::atomic<bool> isStopped{false};
     std::mutex userMutex;
-    std::string lastUser;
+    std::string lastUser;    ///< under userMutex
+    std::mutex tellingMutex; ///< so that the component hears of the newest user last
 
     Base::CMessageLoop eventLoop{"events"};
     std::unique_ptr<CJournal> operations;
@@ -58,6 +59,9 @@ struct FrameworkParts : Base::CNoncopyable
     TNewestOnly<protocol::FrameworkMoveData> moves; ///< on the loop's thread
 
 private:
+    using EntryEvent = void (IFrameworkEvents::*)(const JournalEntry& entry);
+
+    std::unique_ptr<CJournal> OpenJournal(const char* name, EntryEvent onEntry);
     [[nodiscard]] bool Load(std::string& error);
     void AddRoutes(const Base::Encrypt::AESParams& seal);
     std::vector<std::string> Command() const;
@@ -65,7 +69,7 @@ private:
     CComponentProcess::Ways ProcessWays();
     void OnJoined();
     void OnLeft();
-    void OnMethod(const std::string& method);
+    void OnReady();
     void OnState(ComponentState newState, const std::string& detail);
     void OnResource(const ResourceChange& change);
     void OnUsers();

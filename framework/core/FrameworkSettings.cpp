@@ -11,17 +11,29 @@ namespace framework {
 namespace {
 
 constexpr std::array<std::string_view, 4> kSkins{"BlackRedSkin", "GreyRedSkin", "BlueSkin", "NeutralSkin"};
+constexpr std::string_view kChosen = "chosen"; ///< a mark, not a choice
 
-/// The names of the choices in which the two differ.
-std::string Differences(const FrameworkChoices& left, const FrameworkChoices& right)
+/// In what two differ.
+struct Differences
 {
-    std::string names;
-    protocol::ForEachField<FrameworkChoices>([&](const auto& field) {
-        if (left.*field.member != right.*field.member)
-            names.append(names.empty() ? "" : ", ").append(field.key);
-    });
-    return names;
-}
+    bool any = false;
+    std::string names; ///< of the choices that a user made
+
+    Differences(const FrameworkChoices& left, const FrameworkChoices& right)
+    {
+        protocol::ForEachField<FrameworkChoices>([&](const auto& field) {
+            if (left.*field.member != right.*field.member)
+                Add(field.key);
+        });
+    }
+
+    void Add(std::string_view key)
+    {
+        any = true;
+        if (key != kChosen)
+            names.append(names.empty() ? "" : ", ").append(key);
+    }
+};
 
 void SetIfEmpty(std::string& text, const std::string& otherwise)
 {
@@ -78,12 +90,13 @@ void CFrameworkSettings::Set(const FrameworkChoices& choices)
     std::string names;
     const auto take = [&](FrameworkChoices& value) {
         const FrameworkChoices wanted = m_state->Completed(choices);
-        names = Differences(m_state->Completed(value), wanted);
+        const Differences differences(m_state->Completed(value), wanted);
+        names = differences.names;
         value = wanted;
-        return !names.empty();
+        return differences.any;
     };
     const auto tell = [&] {
-        if (m_state->onChanged)
+        if (m_state->onChanged && !names.empty())
             m_state->onChanged(names);
     };
     (void)m_state->stored.Change(take, tell);

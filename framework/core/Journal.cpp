@@ -16,16 +16,11 @@ namespace {
 namespace json = protocol::json;
 
 constexpr std::size_t kTextLimit = 1000;
+constexpr std::size_t kFileLimit = 64 * 1024 * 1024; // twice kKept lines, each byte of which may be escaped
 
 std::string LineOf(const JournalEntry& entry)
 {
     return json::PrintText(json::Kind<JournalEntry>::Write(entry).get()) + "\n";
-}
-
-std::int64_t Now()
-{
-    using namespace std::chrono;
-    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
 }
 
 bool AppendLine(const std::string& path, const std::string& line)
@@ -44,7 +39,7 @@ CJournal::CJournal(std::string path, std::function<void(const JournalEntry&)> on
 }
 
 // A last line that was cut by a crash makes the first new entry write the file anew, so that nothing is
-// appended to it.
+// appended to it; so does one that Write could not append.
 void CJournal::Load()
 {
     m_linesOnDisk = 2 * kKept;
@@ -52,8 +47,8 @@ void CJournal::Load()
     std::error_code error;
     if (!std::filesystem::exists(m_path, error))
         return;
-    if (!Base::FileUtil::ReadFile(m_path, content)) {
-        (void)stored::SetAside(m_path, "it cannot be read, or is larger than 16 MiB");
+    if (!Base::FileUtil::ReadFile(m_path, content, kFileLimit)) {
+        (void)stored::SetAside(m_path, "it cannot be read, or is larger than 64 MiB");
         return;
     }
     std::vector<std::string> lines = Base::StringUtil::Split(content, '\n');
@@ -81,6 +76,12 @@ bool CJournal::Parse(const std::string& line)
     return true;
 }
 
+std::int64_t CJournal::Now()
+{
+    using namespace std::chrono;
+    return duration_cast<seconds>(system_clock::now().time_since_epoch()).count();
+}
+
 void CJournal::Add(const std::string& user, const std::string& kind, const std::string& text)
 {
     std::lock_guard<std::mutex> writing(m_writing);
@@ -101,7 +102,7 @@ void CJournal::Write(const JournalEntry& entry)
     bool written = false;
     if (m_linesOnDisk < 2 * kKept) {
         written = AppendLine(m_path, LineOf(entry));
-        ++m_linesOnDisk;
+        m_linesOnDisk = written ? m_linesOnDisk + 1 : 2 * kKept;
     } else {
         std::string content;
         const std::vector<JournalEntry> entries = Entries();

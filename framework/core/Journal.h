@@ -38,6 +38,9 @@ public:
     /// path: of the file; its folder exists. onEntry is called for each new entry.
     CJournal(std::string path, std::function<void(const JournalEntry&)> onEntry);
 
+    /// The present time, as entries have it.
+    static std::int64_t Now();
+
     /// Adds an entry with the present time. A text is cut after 1000 bytes.
     void Add(const std::string& user, const std::string& kind, const std::string& text);
 

@@ -259,7 +259,8 @@ bool CResources::SwitchOutput(const std::string& deviceGuid, const std::string& 
     });
 }
 
-std::vector<protocol::GroupInfo> CResources::ModifyGroups(const protocol::ModifyGroupCondition& condition)
+std::vector<protocol::GroupInfo> CResources::ModifyGroups(const protocol::ModifyGroupCondition& condition,
+                                                          bool* isSaved)
 {
     std::vector<protocol::GroupInfo> modified;
     const auto modify = [&](ResourceFile& file, ResourceChanges& changes) {
@@ -272,7 +273,10 @@ std::vector<protocol::GroupInfo> CResources::ModifyGroups(const protocol::Modify
         }
         return !modified.empty();
     };
-    if (!m_state->Change(modify))
+    const bool isChanged = m_state->Change(modify);
+    if (isSaved)
+        *isSaved = isChanged || modified.empty();
+    if (!isChanged)
         modified.clear();
     return modified;
 }

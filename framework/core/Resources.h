@@ -74,8 +74,10 @@ public:
     void SetOnline(const std::string& guid, bool online);
     [[nodiscard]] bool SwitchOutput(const std::string& deviceGuid, const std::string& outputGuid,
                                     bool active);
-    /// Applies the condition to all groups; the groups that it changed.
-    std::vector<protocol::GroupInfo> ModifyGroups(const protocol::ModifyGroupCondition& condition);
+    /// Applies the condition to all groups; the groups that it changed. isSaved, when given, tells whether
+    /// there was nothing to change or the change could be written.
+    std::vector<protocol::GroupInfo> ModifyGroups(const protocol::ModifyGroupCondition& condition,
+                                                  bool* isSaved = nullptr);
 
 private:
     struct State;

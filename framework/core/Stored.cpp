@@ -49,9 +49,10 @@ std::string SetAside(const std::string& path, const std::string& problem)
     const std::string name = FreeName(path);
     std::error_code error;
     fs::rename(path, name, error);
-    const std::string sentence =
-        Base::StringUtil::Format("The file [%s] is damaged (%s) and was set aside as [%s].", path.c_str(),
-                                 problem.c_str(), error ? error.message().c_str() : name.c_str());
+    const std::string outcome =
+        error ? "cannot be set aside (" + error.message() + ")" : "was set aside as [" + name + "]";
+    const std::string sentence = Base::StringUtil::Format("The file [%s] is damaged (%s) and %s.",
+                                                          path.c_str(), problem.c_str(), outcome.c_str());
     BASE_ERROR("%s", sentence.c_str());
     return sentence;
 }

@@ -3,6 +3,7 @@
 #include "Base/StringUtil.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace framework {
 
@@ -17,8 +18,9 @@ int Count(std::chrono::seconds time)
 
 } // namespace
 
-CSupervisor::CSupervisor(IComponentProcess& process, ITimer& timer, OnState onState)
-    : m_process(process), m_timer(timer), m_onState(std::move(onState))
+CSupervisor::CSupervisor(IComponentProcess& process, ITimer& timer, OnState onState,
+                         std::chrono::milliseconds endLimit)
+    : m_process(process), m_timer(timer), m_onState(std::move(onState)), m_endLimit(endLimit)
 {}
 
 void CSupervisor::Set(ComponentState state, const std::string& detail)
@@ -27,7 +29,7 @@ void CSupervisor::Set(ComponentState state, const std::string& detail)
     m_onState(state, detail);
 }
 
-void CSupervisor::AfterUnlessOver(std::chrono::seconds pause, Base::Task task)
+void CSupervisor::AfterUnlessOver(std::chrono::milliseconds pause, Base::Task task)
 {
     m_timer.After(pause, [this, epoch = m_epoch, task = std::move(task)] {
         if (epoch == m_epoch)
@@ -43,6 +45,8 @@ void CSupervisor::ForgetFailures()
 
 void CSupervisor::Start()
 {
+    if (m_isFinished)
+        return;
     m_startAfterEnd = m_isEnding;
     if (m_runs)
         return;
@@ -55,6 +59,7 @@ void CSupervisor::Launch()
     ++m_epoch;
     m_starts.push_back(m_timer.Now());
     m_killReason.clear();
+    m_isJoined = false;
     std::string error;
     if (!m_process.Start(error))
         return Died("The component cannot be started: " + error + ".");
@@ -63,7 +68,7 @@ void CSupervisor::Launch()
     KillUnlessEnded(kReadyLimit, "It was not ready in time.", true);
 }
 
-void CSupervisor::KillUnlessEnded(std::chrono::seconds limit, const char* reason, bool unlessReady)
+void CSupervisor::KillUnlessEnded(std::chrono::milliseconds limit, const char* reason, bool unlessReady)
 {
     AfterUnlessOver(limit, [this, reason, unlessReady] {
         if (unlessReady && m_state == ComponentState::Ready)
@@ -87,7 +92,7 @@ void CSupervisor::Stop()
     m_isEnding = true;
     Set(ComponentState::Stopped, "The component was asked to end.");
     m_process.AskToEnd();
-    KillUnlessEnded(kEndLimit, "It did not end in time.", false);
+    KillUnlessEnded(m_endLimit, "It did not end in time.", false);
 }
 
 void CSupervisor::Restart()
@@ -96,16 +101,18 @@ void CSupervisor::Restart()
     Start();
 }
 
-void CSupervisor::WhenEnded(Base::Task task)
+void CSupervisor::Finish(Base::Task whenEnded)
 {
+    m_isFinished = true;
+    Stop();
     if (!m_runs)
-        return task();
-    m_whenEnded = std::move(task);
+        return whenEnded();
+    m_whenEnded = std::move(whenEnded);
 }
 
 void CSupervisor::OnReady()
 {
-    if (!m_runs || m_isEnding || m_state != ComponentState::Starting)
+    if (!m_isJoined || m_isEnding || m_state != ComponentState::Starting)
         return;
     m_readySince = m_timer.Now();
     Set(ComponentState::Ready, "The component is ready.");
@@ -113,7 +120,7 @@ void CSupervisor::OnReady()
 
 void CSupervisor::OnLeft()
 {
-    if (m_runs && !m_isEnding)
+    if (std::exchange(m_isJoined, false) && m_runs && !m_isEnding)
         KillUnlessEnded(kLeaveLimit, "It had left the channel.", false);
 }
 
@@ -130,7 +137,7 @@ void CSupervisor::OnExit(const std::string& how)
         if (m_startAfterEnd)
             Start();
     }
-    if (m_whenEnded && !m_runs)
+    if (m_whenEnded)
         std::exchange(m_whenEnded, {})();
 }
 

@@ -40,15 +40,19 @@ class CSupervisor : Base::CNoncopyable
 public:
     using OnState = std::function<void(ComponentState state, const std::string& detail)>;
 
-    CSupervisor(IComponentProcess& process, ITimer& timer, OnState onState);
+    /// endLimit: how long the process may take to end when it is asked to.
+    CSupervisor(IComponentProcess& process, ITimer& timer, OnState onState,
+                std::chrono::milliseconds endLimit = supervision::kEndLimit);
 
     void Start();
     void Stop();
     void Restart();
-    /// Calls the task when no process runs any more; at once when none does.
-    void WhenEnded(Base::Task task);
+    /// Stops for good: nothing starts it again. Calls the task when no process runs any more.
+    void Finish(Base::Task whenEnded);
 
-    // What happens to the component.
+    // What happens to the component. Its readiness and its leaving count only after it has joined, because
+    // they may be those of the process before, told late.
+    void OnJoined() { m_isJoined = true; }
     void OnReady();
     void OnLeft();
     void OnExit(const std::string& how);
@@ -61,17 +65,20 @@ private:
     void Set(ComponentState state, const std::string& detail);
     void ForgetFailures();
     bool MayStartAt(ITimer::TimePoint time) const;
-    void KillUnlessEnded(std::chrono::seconds limit, const char* reason, bool unlessReady);
+    void KillUnlessEnded(std::chrono::milliseconds limit, const char* reason, bool unlessReady);
     /// Runs the task after the pause unless the component was started, asked to end or ended meanwhile.
-    void AfterUnlessOver(std::chrono::seconds pause, Base::Task task);
+    void AfterUnlessOver(std::chrono::milliseconds pause, Base::Task task);
 
     IComponentProcess& m_process;
     ITimer& m_timer;
     const OnState m_onState;
+    const std::chrono::milliseconds m_endLimit;
     ComponentState m_state = ComponentState::Stopped;
     bool m_runs = false;
+    bool m_isJoined = false;
     bool m_isEnding = false;
     bool m_startAfterEnd = false;
+    bool m_isFinished = false;
     std::string m_killReason;
     std::uint64_t m_epoch = 0; ///< tells tasks of an earlier start or pause from present ones
     std::deque<ITimer::TimePoint> m_starts;

@@ -54,8 +54,9 @@ public:
     std::vector<User> All() const;
     User Current() const;
 
-    /// Makes another user the current one; false for an unknown name or a wrong password, which take the same
-    /// time (about a tenth of a second). beforeChange is called when the password was right, with who leaves.
+    /// Makes the user the current one, which changes nothing when it is that already; false for an unknown
+    /// name or a wrong password, which take the same time (about a tenth of a second). beforeChange is called
+    /// before another user takes over, with who leaves.
     [[nodiscard]] bool Login(const std::string& name, const std::string& password,
                              const std::function<void(const User& leaving)>& beforeChange = {});
 

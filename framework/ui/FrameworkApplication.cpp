@@ -6,10 +6,12 @@
 #include "framework/ui/Look.h"
 #include "framework/ui/StartDialog.h"
 #include "framework/ui/pages/SwitchUserDialog.h"
+#include "framework/ui/parts/WindowMemory.h"
 #include "framework/ui/shell/MainWindow.h"
 #include "framework/ui/tour/Tour.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QTimer>
 
 namespace framework {
@@ -38,6 +40,8 @@ CFrameworkApplication::CFrameworkApplication(CommandLine line)
       m_pages(m_core, m_relay, m_windows, m_unread, m_report)
 {
     QApplication::setQuitOnLastWindowClosed(false);
+    // Before the pages, which show it, and also while there is no window yet.
+    connect(&m_relay, &CEventRelay::NoticeAdded, &m_unread, &CUnreadNotices::Add);
 }
 
 CFrameworkApplication::~CFrameworkApplication()
@@ -58,6 +62,7 @@ bool CFrameworkApplication::Start(QString& error)
         error = QString::fromStdString(why);
         return false;
     }
+    m_unread.Set(WindowMemory::Load(MemoryPath()).unread);
     if (!ChooseLook())
         return false;
     connect(&m_pages, &CPages::OpenRequested, this, [this](const QString& name) { m_window->Open(name); });
@@ -70,6 +75,11 @@ bool CFrameworkApplication::Start(QString& error)
     if (!m_line.tourFolder.isEmpty())
         StartTour();
     return true;
+}
+
+std::string CFrameworkApplication::MemoryPath() const
+{
+    return m_folder + "window.json";
 }
 
 bool CFrameworkApplication::ChooseLook()
@@ -99,8 +109,7 @@ void CFrameworkApplication::MakeWindow()
 {
     m_window = std::make_unique<CMainWindow>(
         m_core, m_relay, m_report, m_unread,
-        [this](const WindowRow& row, QWidget* parent) { return m_pages.Make(row, parent); },
-        m_folder + "window.json");
+        [this](const WindowRow& row, QWidget* parent) { return m_pages.Make(row, parent); }, MemoryPath());
     connect(m_window.get(), &CMainWindow::EndRequested, this, &CFrameworkApplication::RequestEnd);
     connect(m_window.get(), &CMainWindow::SwitchUserRequested, this, &CFrameworkApplication::SwitchUser);
     m_window->Restore();
@@ -161,6 +170,7 @@ void CFrameworkApplication::SwitchUser()
 
 void CFrameworkApplication::StartTour()
 {
+    m_window->setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
     const TourStage stage{[this]() -> CMainWindow& { return *m_window; }, m_core,
                           [this](const FrameworkChoices& choices) {
                               m_core.Settings().Set(choices);

@@ -36,6 +36,7 @@ public:
 
 private:
     bool ChooseLook();
+    std::string MemoryPath() const;
     void MakeWindow();
     void ReportEvents();
     void OnChoices(const FrameworkChoices& before, const FrameworkChoices& now);

@@ -77,14 +77,13 @@ QWidget* CPages::MakeDevices(QWidget* parent)
 QWidget* CPages::MakeNotices(QWidget* parent)
 {
     auto* page = new CNoticesPage(m_core.Notices(), m_unread, parent);
-    connect(&m_relay, &CEventRelay::NoticeAdded, page, &CNoticesPage::Reload);
     connect(this, &CPages::FormatsChanged, page, &CNoticesPage::Reload);
     return page;
 }
 
 QWidget* CPages::MakeOperations(QWidget* parent)
 {
-    auto* page = new CJournalPage(m_core.Operations(), tr("Operation log"),
+    auto* page = new CJournalPage(m_core.Operations(), TitleOf("Operations"),
                                   tr("What users did, and what happened to the component."), parent);
     connect(&m_relay, &CEventRelay::OperationAdded, page, &CJournalPage::Reload);
     connect(this, &CPages::FormatsChanged, page, &CJournalPage::Reload);

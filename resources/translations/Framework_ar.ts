@@ -271,6 +271,34 @@
         <source>The user is at work.</source>
         <translation>المستخدم قيد العمل حاليًّا.</translation>
     </message>
+    <message>
+        <source>skin</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>edition</source>
+        <translation>الإصدار</translation>
+    </message>
+    <message>
+        <source>date format</source>
+        <translation>تنسيق التاريخ</translation>
+    </message>
+    <message>
+        <source>time format</source>
+        <translation>تنسيق الوقت</translation>
+    </message>
+    <message>
+        <source>folder of clips</source>
+        <translation>مجلد المقاطع</translation>
+    </message>
+    <message>
+        <source>folder of pictures</source>
+        <translation>مجلد الصور</translation>
+    </message>
 </context>
 <context>
     <name>Windows</name>
@@ -394,10 +422,6 @@
         <translation>في انتظار المكوِّن…</translation>
     </message>
     <message>
-        <source>The component did not provide this window. It may be too old, or it could not open the page.</source>
-        <translation>لم يوفّر المكوِّن هذه النافذة. قد يكون إصداره قديمًا، أو تعذّر فتح الصفحة.</translation>
-    </message>
-    <message>
         <source>Try again</source>
         <translation>إعادة المحاولة</translation>
     </message>
@@ -414,12 +438,16 @@
         <translation>المكوِّن لا يعمل.</translation>
     </message>
     <message>
-        <source>It ended too often, or was stopped. The operation log has the details.</source>
-        <translation>توقّف مرات كثيرة أو جرى إيقافه. التفاصيل في سجل العمليات.</translation>
-    </message>
-    <message>
         <source>Start the component</source>
         <translation>تشغيل المكوِّن</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time, or it cannot show this page.</source>
+        <translation>لم يستجب المكوِّن في الوقت المناسب، أو لا يمكنه عرض هذه الصفحة.</translation>
+    </message>
+    <message>
+        <source>It ended too often. The operation log has the details.</source>
+        <translation>لقد توقف مرات كثيرة. التفاصيل في سجل العمليات.</translation>
     </message>
 </context>
 <context>
@@ -483,10 +511,6 @@
 </context>
 <context>
     <name>framework::CDevicesPage</name>
-    <message>
-        <source>Devices</source>
-        <translation>الأجهزة</translation>
-    </message>
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>الكاميرات وأجهزة التسجيل وخوادم التخزين التي يعمل معها البرنامج.</translation>
@@ -571,16 +595,8 @@
 <context>
     <name>framework::CHomePage</name>
     <message>
-        <source>Home</source>
-        <translation>الرئيسية</translation>
-    </message>
-    <message>
         <source>Your devices and the client at a glance.</source>
         <translation>أجهزتك والبرنامج في لمحة.</translation>
-    </message>
-    <message>
-        <source>Device list</source>
-        <translation>قائمة الأجهزة</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -597,10 +613,6 @@
     <message>
         <source>Shortcuts</source>
         <translation>اختصارات</translation>
-    </message>
-    <message>
-        <source>Operation log</source>
-        <translation>سجل العمليات</translation>
     </message>
     <message>
         <source>Last events</source>
@@ -683,10 +695,6 @@
 <context>
     <name>framework::CNoticesPage</name>
     <message>
-        <source>Notification centre</source>
-        <translation>مركز الإشعارات</translation>
-    </message>
-    <message>
         <source>Alarms and messages of devices and of the system.</source>
         <translation>إنذارات ورسائل الأجهزة والنظام.</translation>
     </message>
@@ -702,13 +710,13 @@
         <source>Alarms of your devices appear here.</source>
         <translation>تظهر هنا إنذارات أجهزتك.</translation>
     </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>تعليم كمقروء</translation>
+    </message>
 </context>
 <context>
     <name>framework::CPages</name>
-    <message>
-        <source>Operation log</source>
-        <translation>سجل العمليات</translation>
-    </message>
     <message>
         <source>What users did, and what happened to the component.</source>
         <translation>ما فعله المستخدمون وما حدث للمكوِّن.</translation>
@@ -864,10 +872,6 @@
         <translation>Vantor Video Client</translation>
     </message>
     <message>
-        <source>Notification centre</source>
-        <translation>مركز الإشعارات</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>المستخدم</translation>
     </message>
@@ -915,8 +919,8 @@
         <translation>كلمة المرور</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>اتركه فارغًا للإبقاء على الحالية.</translation>
+        <source>Unchanged</source>
+        <translation>بدون تغيير</translation>
     </message>
     <message>
         <source>Save</source>
@@ -949,6 +953,25 @@
     <message>
         <source>The user was removed.</source>
         <translation>تمت إزالة المستخدم.</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>كل علامات التبويب المفتوحة</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>إغلاق الأخرى</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>إغلاق الكل</translation>
     </message>
 </context>
 </TS>

@@ -271,6 +271,34 @@
         <source>The user is at work.</source>
         <translation>Der Benutzer arbeitet gerade.</translation>
     </message>
+    <message>
+        <source>skin</source>
+        <translation>Oberfläche</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>edition</source>
+        <translation>Edition</translation>
+    </message>
+    <message>
+        <source>date format</source>
+        <translation>Datumsformat</translation>
+    </message>
+    <message>
+        <source>time format</source>
+        <translation>Zeitformat</translation>
+    </message>
+    <message>
+        <source>folder of clips</source>
+        <translation>Ordner für Videoclips</translation>
+    </message>
+    <message>
+        <source>folder of pictures</source>
+        <translation>Ordner für Bilder</translation>
+    </message>
 </context>
 <context>
     <name>Windows</name>
@@ -394,10 +422,6 @@
         <translation>Warten auf die Komponente …</translation>
     </message>
     <message>
-        <source>The component did not provide this window. It may be too old, or it could not open the page.</source>
-        <translation>Die Komponente hat dieses Fenster nicht bereitgestellt. Möglicherweise ist sie zu alt, oder die Seite ließ sich nicht öffnen.</translation>
-    </message>
-    <message>
         <source>Try again</source>
         <translation>Erneut versuchen</translation>
     </message>
@@ -414,12 +438,16 @@
         <translation>Die Komponente läuft nicht.</translation>
     </message>
     <message>
-        <source>It ended too often, or was stopped. The operation log has the details.</source>
-        <translation>Sie wurde zu oft beendet oder angehalten. Näheres steht im Betriebsprotokoll.</translation>
-    </message>
-    <message>
         <source>Start the component</source>
         <translation>Komponente starten</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time, or it cannot show this page.</source>
+        <translation>Die Komponente hat nicht rechtzeitig geantwortet oder kann diese Seite nicht anzeigen.</translation>
+    </message>
+    <message>
+        <source>It ended too often. The operation log has the details.</source>
+        <translation>Sie wurde zu oft beendet. Einzelheiten stehen im Betriebsprotokoll.</translation>
     </message>
 </context>
 <context>
@@ -483,10 +511,6 @@
 </context>
 <context>
     <name>framework::CDevicesPage</name>
-    <message>
-        <source>Devices</source>
-        <translation>Geräte</translation>
-    </message>
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>Kameras, Rekorder und Speicherserver, mit denen der Client arbeitet.</translation>
@@ -571,16 +595,8 @@
 <context>
     <name>framework::CHomePage</name>
     <message>
-        <source>Home</source>
-        <translation>Start</translation>
-    </message>
-    <message>
         <source>Your devices and the client at a glance.</source>
         <translation>Ihre Geräte und der Client auf einen Blick.</translation>
-    </message>
-    <message>
-        <source>Device list</source>
-        <translation>Geräteliste</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -597,10 +613,6 @@
     <message>
         <source>Shortcuts</source>
         <translation>Schnellzugriff</translation>
-    </message>
-    <message>
-        <source>Operation log</source>
-        <translation>Betriebsprotokoll</translation>
     </message>
     <message>
         <source>Last events</source>
@@ -683,10 +695,6 @@
 <context>
     <name>framework::CNoticesPage</name>
     <message>
-        <source>Notification centre</source>
-        <translation>Mitteilungszentrale</translation>
-    </message>
-    <message>
         <source>Alarms and messages of devices and of the system.</source>
         <translation>Alarme und Meldungen der Geräte und des Systems.</translation>
     </message>
@@ -702,13 +710,13 @@
         <source>Alarms of your devices appear here.</source>
         <translation>Hier erscheinen die Alarme Ihrer Geräte.</translation>
     </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>Als gelesen markieren</translation>
+    </message>
 </context>
 <context>
     <name>framework::CPages</name>
-    <message>
-        <source>Operation log</source>
-        <translation>Betriebsprotokoll</translation>
-    </message>
     <message>
         <source>What users did, and what happened to the component.</source>
         <translation>Was Benutzer taten und was mit der Komponente geschah.</translation>
@@ -864,10 +872,6 @@
         <translation>Vantor Video Client</translation>
     </message>
     <message>
-        <source>Notification centre</source>
-        <translation>Mitteilungszentrale</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>Benutzer</translation>
     </message>
@@ -915,8 +919,8 @@
         <translation>Kennwort</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>Leer lassen, um das bisherige zu behalten.</translation>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
     </message>
     <message>
         <source>Save</source>
@@ -949,6 +953,25 @@
     <message>
         <source>The user was removed.</source>
         <translation>Der Benutzer wurde entfernt.</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>Alle offenen Registerkarten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>Andere schließen</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>Alle schließen</translation>
     </message>
 </context>
 </TS>

@@ -271,6 +271,34 @@
         <source>The user is at work.</source>
         <translation>The user is at work.</translation>
     </message>
+    <message>
+        <source>skin</source>
+        <translation>skin</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>language</translation>
+    </message>
+    <message>
+        <source>edition</source>
+        <translation>edition</translation>
+    </message>
+    <message>
+        <source>date format</source>
+        <translation>date format</translation>
+    </message>
+    <message>
+        <source>time format</source>
+        <translation>time format</translation>
+    </message>
+    <message>
+        <source>folder of clips</source>
+        <translation>folder of clips</translation>
+    </message>
+    <message>
+        <source>folder of pictures</source>
+        <translation>folder of pictures</translation>
+    </message>
 </context>
 <context>
     <name>Windows</name>
@@ -394,10 +422,6 @@
         <translation>Waiting for the component…</translation>
     </message>
     <message>
-        <source>The component did not provide this window. It may be too old, or it could not open the page.</source>
-        <translation>The component did not provide this window. It may be too old, or it could not open the page.</translation>
-    </message>
-    <message>
         <source>Try again</source>
         <translation>Try again</translation>
     </message>
@@ -414,12 +438,16 @@
         <translation>The component is not running.</translation>
     </message>
     <message>
-        <source>It ended too often, or was stopped. The operation log has the details.</source>
-        <translation>It ended too often, or was stopped. The operation log has the details.</translation>
-    </message>
-    <message>
         <source>Start the component</source>
         <translation>Start the component</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time, or it cannot show this page.</source>
+        <translation>The component did not answer in time, or it cannot show this page.</translation>
+    </message>
+    <message>
+        <source>It ended too often. The operation log has the details.</source>
+        <translation>It ended too often. The operation log has the details.</translation>
     </message>
 </context>
 <context>
@@ -483,10 +511,6 @@
 </context>
 <context>
     <name>framework::CDevicesPage</name>
-    <message>
-        <source>Devices</source>
-        <translation>Devices</translation>
-    </message>
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>Cameras, recorders and storage servers that the client works with.</translation>
@@ -571,16 +595,8 @@
 <context>
     <name>framework::CHomePage</name>
     <message>
-        <source>Home</source>
-        <translation>Home</translation>
-    </message>
-    <message>
         <source>Your devices and the client at a glance.</source>
         <translation>Your devices and the client at a glance.</translation>
-    </message>
-    <message>
-        <source>Device list</source>
-        <translation>Device list</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -597,10 +613,6 @@
     <message>
         <source>Shortcuts</source>
         <translation>Shortcuts</translation>
-    </message>
-    <message>
-        <source>Operation log</source>
-        <translation>Operation log</translation>
     </message>
     <message>
         <source>Last events</source>
@@ -683,10 +695,6 @@
 <context>
     <name>framework::CNoticesPage</name>
     <message>
-        <source>Notification centre</source>
-        <translation>Notification centre</translation>
-    </message>
-    <message>
         <source>Alarms and messages of devices and of the system.</source>
         <translation>Alarms and messages of devices and of the system.</translation>
     </message>
@@ -702,13 +710,13 @@
         <source>Alarms of your devices appear here.</source>
         <translation>Alarms of your devices appear here.</translation>
     </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>Mark as read</translation>
+    </message>
 </context>
 <context>
     <name>framework::CPages</name>
-    <message>
-        <source>Operation log</source>
-        <translation>Operation log</translation>
-    </message>
     <message>
         <source>What users did, and what happened to the component.</source>
         <translation>What users did, and what happened to the component.</translation>
@@ -864,10 +872,6 @@
         <translation>Vantor Video Client</translation>
     </message>
     <message>
-        <source>Notification centre</source>
-        <translation>Notification centre</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>User</translation>
     </message>
@@ -915,8 +919,8 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>Leave it empty to keep the present one.</translation>
+        <source>Unchanged</source>
+        <translation>Unchanged</translation>
     </message>
     <message>
         <source>Save</source>
@@ -949,6 +953,25 @@
     <message>
         <source>The user was removed.</source>
         <translation>The user was removed.</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>All open tabs</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>Close the others</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>Close all</translation>
     </message>
 </context>
 </TS>

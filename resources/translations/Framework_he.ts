@@ -271,6 +271,34 @@
         <source>The user is at work.</source>
         <translation>המשתמש עובד כעת.</translation>
     </message>
+    <message>
+        <source>skin</source>
+        <translation>ערכת נושא</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>שפה</translation>
+    </message>
+    <message>
+        <source>edition</source>
+        <translation>מהדורה</translation>
+    </message>
+    <message>
+        <source>date format</source>
+        <translation>תבנית התאריך</translation>
+    </message>
+    <message>
+        <source>time format</source>
+        <translation>תבנית השעה</translation>
+    </message>
+    <message>
+        <source>folder of clips</source>
+        <translation>תיקיית קטעי הווידאו</translation>
+    </message>
+    <message>
+        <source>folder of pictures</source>
+        <translation>תיקיית התמונות</translation>
+    </message>
 </context>
 <context>
     <name>Windows</name>
@@ -394,10 +422,6 @@
         <translation>ממתין לרכיב…</translation>
     </message>
     <message>
-        <source>The component did not provide this window. It may be too old, or it could not open the page.</source>
-        <translation>הרכיב לא סיפק את החלון הזה. ייתכן שהגרסה ישנה מדי, או שלא ניתן היה לפתוח את הדף.</translation>
-    </message>
-    <message>
         <source>Try again</source>
         <translation>נסה שוב</translation>
     </message>
@@ -414,12 +438,16 @@
         <translation>הרכיב אינו פועל.</translation>
     </message>
     <message>
-        <source>It ended too often, or was stopped. The operation log has the details.</source>
-        <translation>הרכיב נסגר פעמים רבות מדי או נעצר. הפרטים ביומן הפעולות.</translation>
-    </message>
-    <message>
         <source>Start the component</source>
         <translation>הפעל את הרכיב</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time, or it cannot show this page.</source>
+        <translation>הרכיב לא הגיב בזמן, או שאינו יכול להציג דף זה.</translation>
+    </message>
+    <message>
+        <source>It ended too often. The operation log has the details.</source>
+        <translation>הוא הסתיים פעמים רבות מדי. הפרטים ביומן הפעולות.</translation>
     </message>
 </context>
 <context>
@@ -483,10 +511,6 @@
 </context>
 <context>
     <name>framework::CDevicesPage</name>
-    <message>
-        <source>Devices</source>
-        <translation>התקנים</translation>
-    </message>
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>המצלמות, המקליטים ושרתי האחסון שהתוכנה עובדת איתם.</translation>
@@ -571,16 +595,8 @@
 <context>
     <name>framework::CHomePage</name>
     <message>
-        <source>Home</source>
-        <translation>בית</translation>
-    </message>
-    <message>
         <source>Your devices and the client at a glance.</source>
         <translation>ההתקנים והתוכנה במבט אחד.</translation>
-    </message>
-    <message>
-        <source>Device list</source>
-        <translation>רשימת התקנים</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -597,10 +613,6 @@
     <message>
         <source>Shortcuts</source>
         <translation>קיצורי דרך</translation>
-    </message>
-    <message>
-        <source>Operation log</source>
-        <translation>יומן פעולות</translation>
     </message>
     <message>
         <source>Last events</source>
@@ -683,10 +695,6 @@
 <context>
     <name>framework::CNoticesPage</name>
     <message>
-        <source>Notification centre</source>
-        <translation>מרכז ההודעות</translation>
-    </message>
-    <message>
         <source>Alarms and messages of devices and of the system.</source>
         <translation>התראות והודעות של ההתקנים ושל המערכת.</translation>
     </message>
@@ -702,13 +710,13 @@
         <source>Alarms of your devices appear here.</source>
         <translation>התראות מההתקנים שלך יופיעו כאן.</translation>
     </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>סימון כנקרא</translation>
+    </message>
 </context>
 <context>
     <name>framework::CPages</name>
-    <message>
-        <source>Operation log</source>
-        <translation>יומן פעולות</translation>
-    </message>
     <message>
         <source>What users did, and what happened to the component.</source>
         <translation>מה שעשו המשתמשים ומה שקרה לרכיב.</translation>
@@ -864,10 +872,6 @@
         <translation>Vantor Video Client</translation>
     </message>
     <message>
-        <source>Notification centre</source>
-        <translation>מרכז ההודעות</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>משתמש</translation>
     </message>
@@ -915,8 +919,8 @@
         <translation>סיסמה</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>השאר ריק כדי לשמור על הסיסמה הנוכחית.</translation>
+        <source>Unchanged</source>
+        <translation>ללא שינוי</translation>
     </message>
     <message>
         <source>Save</source>
@@ -949,6 +953,25 @@
     <message>
         <source>The user was removed.</source>
         <translation>המשתמש הוסר.</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>כל הכרטיסיות הפתוחות</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>סגירת האחרות</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>סגירת הכול</translation>
     </message>
 </context>
 </TS>

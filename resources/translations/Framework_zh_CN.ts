@@ -25,7 +25,7 @@
     </message>
     <message>
         <source>The component ended and will be started again.</source>
-        <translation>组件已结束,将重新启动。</translation>
+        <translation>组件已结束，将重新启动。</translation>
     </message>
     <message>
         <source>Failed</source>
@@ -33,7 +33,7 @@
     </message>
     <message>
         <source>The component ended too often and is not started again.</source>
-        <translation>组件结束次数过多,不再自动启动。</translation>
+        <translation>组件结束次数过多，不再自动启动。</translation>
     </message>
     <message>
         <source>Stopped</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>The component ended with exit code %1. It is started again in %2 s.</source>
-        <translation>组件已结束,退出代码 %1。%2 秒后重新启动。</translation>
+        <translation>组件已结束，退出代码 %1。%2 秒后重新启动。</translation>
     </message>
     <message>
         <source>The component ended with signal %1. It is started again in %2 s.</source>
@@ -193,11 +193,11 @@
     </message>
     <message>
         <source>The component ended with %1. It was started %2 times within a minute and is given up.</source>
-        <translation>组件已结束(%1)。一分钟内已启动 %2 次,不再重试。</translation>
+        <translation>组件已结束（%1）。一分钟内已启动 %2 次，不再重试。</translation>
     </message>
     <message>
         <source>The component ended with exit code %1.</source>
-        <translation>组件已结束,退出代码 %1。</translation>
+        <translation>组件已结束，退出代码 %1。</translation>
     </message>
     <message>
         <source>The component ended with signal %1.</source>
@@ -205,7 +205,7 @@
     </message>
     <message>
         <source>The component cannot be started: %1.</source>
-        <translation>无法启动组件:%1。</translation>
+        <translation>无法启动组件：%1。</translation>
     </message>
     <message>
         <source>Device &quot;%1&quot; was added.</source>
@@ -225,7 +225,7 @@
     </message>
     <message>
         <source>Changed settings: %1.</source>
-        <translation>已更改的设置:%1。</translation>
+        <translation>已更改的设置：%1。</translation>
     </message>
     <message>
         <source>The users were changed.</source>
@@ -270,6 +270,34 @@
     <message>
         <source>The user is at work.</source>
         <translation>该用户正在使用中。</translation>
+    </message>
+    <message>
+        <source>skin</source>
+        <translation>皮肤</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>语言</translation>
+    </message>
+    <message>
+        <source>edition</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>date format</source>
+        <translation>日期格式</translation>
+    </message>
+    <message>
+        <source>time format</source>
+        <translation>时间格式</translation>
+    </message>
+    <message>
+        <source>folder of clips</source>
+        <translation>视频片段文件夹</translation>
+    </message>
+    <message>
+        <source>folder of pictures</source>
+        <translation>图片文件夹</translation>
     </message>
 </context>
 <context>
@@ -394,16 +422,12 @@
         <translation>正在等待组件…</translation>
     </message>
     <message>
-        <source>The component did not provide this window. It may be too old, or it could not open the page.</source>
-        <translation>组件未提供此窗口。可能是组件版本过旧,或页面无法打开。</translation>
-    </message>
-    <message>
         <source>Try again</source>
         <translation>重试</translation>
     </message>
     <message>
         <source>The component ended. It is being restarted…</source>
-        <translation>组件已结束,正在重新启动…</translation>
+        <translation>组件已结束，正在重新启动…</translation>
     </message>
     <message>
         <source>Your tabs come back by themselves.</source>
@@ -414,12 +438,16 @@
         <translation>组件未运行。</translation>
     </message>
     <message>
-        <source>It ended too often, or was stopped. The operation log has the details.</source>
-        <translation>组件结束次数过多,或已被停止。详细信息请查看操作日志。</translation>
-    </message>
-    <message>
         <source>Start the component</source>
         <translation>启动组件</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time, or it cannot show this page.</source>
+        <translation>组件未及时响应，或无法显示此页面。</translation>
+    </message>
+    <message>
+        <source>It ended too often. The operation log has the details.</source>
+        <translation>组件退出次数过多。详情请查看操作日志。</translation>
     </message>
 </context>
 <context>
@@ -484,10 +512,6 @@
 <context>
     <name>framework::CDevicesPage</name>
     <message>
-        <source>Devices</source>
-        <translation>设备</translation>
-    </message>
-    <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>客户端使用的摄像机、录像机和存储服务器。</translation>
     </message>
@@ -541,7 +565,7 @@
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
-        <translation>要移除设备“%1”及其通道吗?</translation>
+        <translation>要移除设备“%1”及其通道吗？</translation>
     </message>
     <message>
         <source>Remove device</source>
@@ -571,16 +595,8 @@
 <context>
     <name>framework::CHomePage</name>
     <message>
-        <source>Home</source>
-        <translation>首页</translation>
-    </message>
-    <message>
         <source>Your devices and the client at a glance.</source>
         <translation>设备与客户端概览。</translation>
-    </message>
-    <message>
-        <source>Device list</source>
-        <translation>设备列表</translation>
     </message>
     <message>
         <source>Devices</source>
@@ -597,10 +613,6 @@
     <message>
         <source>Shortcuts</source>
         <translation>快捷方式</translation>
-    </message>
-    <message>
-        <source>Operation log</source>
-        <translation>操作日志</translation>
     </message>
     <message>
         <source>Last events</source>
@@ -659,7 +671,7 @@
     </message>
     <message>
         <source>What happens is listed here, the newest first.</source>
-        <translation>此处列出发生的事件,最新的在前。</translation>
+        <translation>此处列出发生的事件，最新的在前。</translation>
     </message>
 </context>
 <context>
@@ -683,10 +695,6 @@
 <context>
     <name>framework::CNoticesPage</name>
     <message>
-        <source>Notification centre</source>
-        <translation>通知中心</translation>
-    </message>
-    <message>
         <source>Alarms and messages of devices and of the system.</source>
         <translation>设备和系统的报警与消息。</translation>
     </message>
@@ -702,13 +710,13 @@
         <source>Alarms of your devices appear here.</source>
         <translation>设备的报警会显示在这里。</translation>
     </message>
+    <message>
+        <source>Mark as read</source>
+        <translation>标为已读</translation>
+    </message>
 </context>
 <context>
     <name>framework::CPages</name>
-    <message>
-        <source>Operation log</source>
-        <translation>操作日志</translation>
-    </message>
     <message>
         <source>What users did, and what happened to the component.</source>
         <translation>用户的操作以及组件的状态变化。</translation>
@@ -746,7 +754,7 @@
     </message>
     <message>
         <source>Another skin or language restarts the video component; open tabs come back.</source>
-        <translation>更换皮肤或语言会重新启动视频组件;已打开的标签页会恢复。</translation>
+        <translation>更换皮肤或语言会重新启动视频组件；已打开的标签页会恢复。</translation>
     </message>
     <message>
         <source>Date and time</source>
@@ -864,10 +872,6 @@
         <translation>Vantor Video Client</translation>
     </message>
     <message>
-        <source>Notification centre</source>
-        <translation>通知中心</translation>
-    </message>
-    <message>
         <source>User</source>
         <translation>用户</translation>
     </message>
@@ -900,7 +904,7 @@
     </message>
     <message>
         <source>Who works with the client, and what each may do.</source>
-        <translation>谁使用客户端,以及各自的权限。</translation>
+        <translation>谁使用客户端，以及各自的权限。</translation>
     </message>
     <message>
         <source>Add user</source>
@@ -915,8 +919,8 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>Leave it empty to keep the present one.</source>
-        <translation>留空则保留当前密码。</translation>
+        <source>Unchanged</source>
+        <translation>保持不变</translation>
     </message>
     <message>
         <source>Save</source>
@@ -940,7 +944,7 @@
     </message>
     <message>
         <source>Remove the user &quot;%1&quot;?</source>
-        <translation>要移除用户“%1”吗?</translation>
+        <translation>要移除用户“%1”吗？</translation>
     </message>
     <message>
         <source>Remove user</source>
@@ -949,6 +953,25 @@
     <message>
         <source>The user was removed.</source>
         <translation>用户已移除。</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>所有打开的标签页</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>关闭其他</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>全部关闭</translation>
     </message>
 </context>
 </TS>

@@ -41,7 +41,8 @@ void PrivateDisplay::StartServer(const std::string& output)
 {
     std::string error;
     const bool started = m_server.Start(
-        {"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-nolisten", "tcp"}, output, error);
+        {"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-dpi", "96", "-nolisten", "tcp"}, output,
+        error);
     std::string number;
     if (!started || !WaitUntil([&] { return !(number = DisplayNumber(output)).empty(); })) {
         ADD_FAILURE() << "no X server: " << error;

@@ -6,6 +6,7 @@
 #include "VantorGUIToolkit/Widgets/WarningDlg.h"
 #include "framework/core/Resources.h"
 #include "framework/ui/pages/DeviceDialog.h"
+#include "framework/ui/parts/WindowTable.h"
 
 #include <QHeaderView>
 #include <QMenu>
@@ -31,7 +32,7 @@ QString AddressText(const protocol::DeviceResponseData& device)
 } // namespace
 
 CDevicesPage::CDevicesPage(CResources& resources, RaiseAlarm raiseAlarm, QWidget* parent)
-    : CListPage(tr("Devices"), tr("Cameras, recorders and storage servers that the client works with."),
+    : CListPage(TitleOf("Devices"), tr("Cameras, recorders and storage servers that the client works with."),
                 {tr("Name"), tr("Type"), tr("Address"), tr("Channels"), tr("State")}, parent),
       m_resources(resources), m_raiseAlarm(std::move(raiseAlarm)),
       m_edit(Header().AddAction(tr("Edit"), ButtonKind::Normal)),

@@ -1,6 +1,7 @@
 #include "framework/ui/pages/HomePage.h"
 
 #include "VantorGUIToolkit/Icons.h"
+#include "VantorGUIToolkit/Toolkit.h"
 #include "VantorGUIToolkit/Widgets/Badge.h"
 #include "VantorGUIToolkit/Widgets/PageHeader.h"
 #include "framework/core/Journal.h"
@@ -23,9 +24,11 @@ using namespace VantorGUIToolkit;
 
 namespace {
 
-constexpr int kShortcutColumns = 4;
-constexpr int kEvents = 10;
+constexpr int kShortcutWidth = 192; ///< at least; decides how many stand in a row
+constexpr int kMostColumns = 4;
+constexpr int kEvents = 8;
 constexpr int kIconSize = 20;
+constexpr int kHeadHeight = 30; ///< of a card, with a button or without
 const char* const kShortcuts[] = {"MainView",  "RemotePlayback", "RecordSchedule", "Devices",
                                   "VideoFile", "SnapshotFile",   "BroadcastWID",   "AlarmOutput"};
 
@@ -40,8 +43,15 @@ QVBoxLayout* FillCard(QFrame* card, const QString& heading, QWidget* beside = nu
     top->addWidget(makeLabel(heading, TextRole::Heading, card), 1);
     if (beside)
         top->addWidget(beside);
+    else
+        top->addSpacerItem(new QSpacerItem(0, kHeadHeight));
     layout->addLayout(top);
     return layout;
+}
+
+QString Number(long number)
+{
+    return toolkit().locale().toString(static_cast<qlonglong>(number));
 }
 
 void Clear(QLayout& layout)
@@ -71,7 +81,7 @@ CHomePage::CHomePage(const CResources& resources, const CJournal& operations, QW
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Grid::Wide, Grid::Wide, Grid::Wide, Grid::Wide);
     layout->setSpacing(Grid::Large);
-    layout->addWidget(new CPageHeader(tr("Home"), tr("Your devices and the client at a glance."), this));
+    layout->addWidget(new CPageHeader(TitleOf("Home"), tr("Your devices and the client at a glance."), this));
     layout->addLayout(grid, 1);
     ShowDevices();
     ShowEvents();
@@ -80,7 +90,7 @@ CHomePage::CHomePage(const CResources& resources, const CJournal& operations, QW
 QWidget* CHomePage::MakeDevicesCard()
 {
     auto* card = new QFrame(this);
-    QPushButton* manage = makeButton(tr("Device list"), ButtonKind::Quiet, card);
+    QPushButton* manage = makeButton(TitleOf("Devices"), ButtonKind::Normal, card);
     manage->setObjectName("homeDevices");
     connect(manage, &QPushButton::clicked, this, [this] { emit OpenRequested("Devices"); });
     m_devicesButton = manage;
@@ -97,7 +107,7 @@ QWidget* CHomePage::MakeDevicesCard()
 QWidget* CHomePage::MakeComponentCard()
 {
     auto* card = new QFrame(this);
-    QPushButton* restart = makeButton(tr("Restart"), ButtonKind::Quiet, card);
+    QPushButton* restart = makeButton(tr("Restart"), ButtonKind::Normal, card);
     restart->setObjectName("homeRestart");
     restart->setIcon(icon("refresh"));
     m_restartButton = restart;
@@ -118,8 +128,6 @@ QWidget* CHomePage::MakeShortcutsCard()
     QVBoxLayout* layout = FillCard(card, tr("Shortcuts"));
     m_shortcuts = new QGridLayout;
     m_shortcuts->setSpacing(Grid::Medium);
-    for (int column = 0; column < kShortcutColumns; ++column)
-        m_shortcuts->setColumnStretch(column, 1);
     layout->addLayout(m_shortcuts);
     return card;
 }
@@ -127,7 +135,7 @@ QWidget* CHomePage::MakeShortcutsCard()
 QWidget* CHomePage::MakeEventsCard()
 {
     auto* card = new QFrame(this);
-    QPushButton* all = makeButton(tr("Operation log"), ButtonKind::Quiet, card);
+    QPushButton* all = makeButton(TitleOf("Operations"), ButtonKind::Normal, card);
     all->setObjectName("homeOperations");
     connect(all, &QPushButton::clicked, this, [this] { emit OpenRequested("Operations"); });
     m_eventsCard = card;
@@ -146,8 +154,10 @@ void CHomePage::ShowDevices()
     const auto devices = m_resources.Devices();
     const auto online =
         std::count_if(devices.begin(), devices.end(), [](const auto& each) { return each.online; });
-    m_deviceCount->setText(devices.empty() ? tr("No devices")
-                                           : tr("%1 of %2 online").arg(online).arg(devices.size()));
+    m_deviceCount->setText(
+        devices.empty()
+            ? tr("No devices")
+            : tr("%1 of %2 online").arg(Number(online), Number(static_cast<long>(devices.size()))));
     m_deviceText->setText(devices.empty() ? tr("Add the first one in the device list.")
                           : online == static_cast<long>(devices.size())
                               ? tr("All devices are reached.")
@@ -163,11 +173,32 @@ void CHomePage::ShowComponent(ComponentState state, const QString& detail)
 
 void CHomePage::ShowUser(const User& user)
 {
+    m_user = user;
+    ShowShortcuts();
+    m_devicesButton->setVisible(FindWindow("Devices")->MayOpen(user));
+    m_eventsCard->setVisible(FindWindow("Operations")->MayOpen(user));
+    m_restartButton->setVisible(user.May(permission::kSystemConfig));
+}
+
+void CHomePage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int columns = width() >= kMostColumns * kShortcutWidth ? kMostColumns : kMostColumns / 2;
+    if (columns == m_columns)
+        return;
+    m_columns = columns;
+    for (int column = 0; column < kMostColumns; ++column)
+        m_shortcuts->setColumnStretch(column, column < columns ? 1 : 0);
+    ShowShortcuts();
+}
+
+void CHomePage::ShowShortcuts()
+{
     Clear(*m_shortcuts);
     int index = 0;
     for (const char* name : kShortcuts) {
         const WindowRow* row = FindWindow(name);
-        if (!row->MayOpen(user))
+        if (m_columns == 0 || !row->MayOpen(m_user))
             continue;
         auto* button = new CStartAlignedButton(this);
         button->setText(row->Title());
@@ -177,12 +208,9 @@ void CHomePage::ShowUser(const User& user)
         button->setIcon(icon(row->icon));
         button->setIconSize({kIconSize, kIconSize});
         connect(button, &QPushButton::clicked, this, [this, name] { emit OpenRequested(name); });
-        m_shortcuts->addWidget(button, index / kShortcutColumns, index % kShortcutColumns);
+        m_shortcuts->addWidget(button, index / m_columns, index % m_columns);
         ++index;
     }
-    m_devicesButton->setVisible(FindWindow("Devices")->MayOpen(user));
-    m_eventsCard->setVisible(FindWindow("Operations")->MayOpen(user));
-    m_restartButton->setVisible(user.May(permission::kSystemConfig));
 }
 
 void CHomePage::ShowEvents()

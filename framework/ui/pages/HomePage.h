@@ -35,7 +35,11 @@ signals:
     void OpenRequested(const QString& name);
     void RestartRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void ShowShortcuts();
     QWidget* MakeDevicesCard();
     QWidget* MakeComponentCard();
     QWidget* MakeShortcutsCard();
@@ -50,6 +54,8 @@ private:
     QWidget* m_devicesButton = nullptr;
     QWidget* m_restartButton = nullptr;
     QWidget* m_eventsCard = nullptr;
+    User m_user;
+    int m_columns = 0; ///< of the shortcuts
     QGridLayout* m_shortcuts = nullptr;
     QGridLayout* m_events = nullptr;
 };

@@ -74,36 +74,41 @@ CJournalPage::CJournalPage(const CJournal& journal, const QString& title, const 
       m_journal(journal)
 {
     setObjectName("journalPage");
-    AddFilter(1, tr("All kinds"), AllKindTexts());
+    AddFilter(KindColumn, tr("All kinds"), AllKindTexts());
     for (int column = 0; column < int(std::size(kWidths)); ++column)
         Table().setColumnWidth(column, kWidths[column]);
     Table().SetEmptyState("log", tr("Nothing has happened yet"),
                           tr("What happens is listed here, the newest first."));
-    Table().sortByColumn(0, Qt::DescendingOrder);
+    Table().sortByColumn(TimeColumn, Qt::DescendingOrder);
     Reload();
 }
 
 void CJournalPage::Reload()
 {
     const std::vector<JournalEntry> entries = m_journal.Entries();
-    const int firstUnread = static_cast<int>(entries.size()) - m_unread;
+    m_count = static_cast<int>(entries.size());
     std::vector<ListRow> rows;
-    for (int index = 0; index < static_cast<int>(entries.size()); ++index) {
+    for (int index = 0; index < m_count; ++index) {
         const JournalEntry& entry = entries[static_cast<std::size_t>(index)];
         rows.push_back({QString::number(index),
                         {{JournalTimeText(entry), index, {}},
                          {JournalKindText(entry.kind), {}, JournalKindIcon(entry.kind)},
                          {QString::fromStdString(entry.user), {}, {}},
                          {InUserLanguage(entry.text), {}, {}}},
-                        index >= firstUnread});
+                        IsUnread(m_count - 1 - index)});
     }
     SetRows(std::move(rows));
 }
 
-void CJournalPage::SetUnread(int count)
+bool CJournalPage::IsUnread(int) const
 {
-    m_unread = count;
-    Reload();
+    return false;
+}
+
+int CJournalPage::SelectedPosition() const
+{
+    const QString id = SelectedId();
+    return id.isEmpty() ? -1 : m_count - 1 - id.toInt();
 }
 
 } // namespace framework

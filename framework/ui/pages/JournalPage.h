@@ -25,12 +25,16 @@ public:
     void Reload();
 
 protected:
-    /// As many of the newest entries are shown as unread.
-    void SetUnread(int count);
+    enum Column { TimeColumn, KindColumn, UserColumn, EventColumn };
+
+    /// Whether an entry is shown as unread; its position counts from the newest, which has 0.
+    virtual bool IsUnread(int position) const;
+    /// The position of the chosen entry; -1 for none.
+    int SelectedPosition() const;
 
 private:
     const CJournal& m_journal;
-    int m_unread = 0;
+    int m_count = 0; ///< of the entries, as they are shown
 };
 
 } // namespace framework

@@ -16,6 +16,7 @@ using namespace VantorGUIToolkit;
 namespace {
 
 constexpr int kSearchWidth = 240;
+constexpr int kLeastSearchWidth = 120;
 
 } // namespace
 
@@ -28,7 +29,8 @@ CListPage::CListPage(const QString& title, const QString& sentence, const QStrin
     setSurface(this, Surface::Page);
     m_search->setObjectName("search");
     m_search->setPlaceholderText(tr("Search"));
-    m_search->setFixedWidth(kSearchWidth);
+    m_search->setMinimumWidth(kLeastSearchWidth);
+    m_search->setMaximumWidth(kSearchWidth);
     m_header->AddWidget(m_search);
     SetUpTable();
     auto* layout = new QVBoxLayout(this);
@@ -42,7 +44,6 @@ CListPage::CListPage(const QString& title, const QString& sentence, const QStrin
 void CListPage::SetUpTable()
 {
     m_searched->setSourceModel(m_model);
-
     m_searched->setFilterKeyColumn(-1);
     m_searched->setFilterCaseSensitivity(Qt::CaseInsensitive);
     m_filtered->setSourceModel(m_searched);

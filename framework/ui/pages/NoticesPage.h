@@ -8,7 +8,8 @@ namespace framework {
 
 class CUnreadNotices;
 
-/// The notification centre: the notices, unread ones bold. GUI thread.
+/// The notification centre: the notices, unread ones bold until they are marked, by a button or a double
+/// click. GUI thread.
 class CNoticesPage : public CJournalPage
 {
     Q_OBJECT
@@ -16,10 +17,17 @@ class CNoticesPage : public CJournalPage
 public:
     CNoticesPage(const CJournal& notices, CUnreadNotices& unread, QWidget* parent = nullptr);
 
-private:
-    void Update(int count);
+protected:
+    bool IsUnread(int position) const override;
 
-    QPushButton* m_markRead;
+private:
+    void Mark();
+    void Update();
+    void UpdateButtons();
+
+    CUnreadNotices& m_unread;
+    QPushButton* m_mark;
+    QPushButton* m_markAll;
 };
 
 } // namespace framework

@@ -57,7 +57,7 @@ CSettingsPage::CSettingsPage(CFrameworkSettings& settings, QWidget* parent)
 
     auto* card = new QFrame(this);
     setSurface(card, Surface::Card);
-    card->setFixedWidth(kFormWidth);
+    card->setMaximumWidth(kFormWidth);
     auto* inCard = new QVBoxLayout(card);
     inCard->setContentsMargins(Grid::Wide, Grid::Wide, Grid::Wide, Grid::Wide);
     auto* form = new CFormGrid(card);

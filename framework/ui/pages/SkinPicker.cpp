@@ -16,7 +16,7 @@ using namespace VantorGUIToolkit;
 
 namespace {
 
-constexpr QSize kPicture(152, 96);
+constexpr QSize kPicture(128, 80);
 constexpr int kFrame = 2;
 constexpr int kRadius = 6;
 
@@ -86,21 +86,21 @@ void CSkinTile::PaintWindow(QPainter& painter, const QRect& place) const
         const char* role;
     };
     const Block blocks[] = {
-        {{0, 0, 152, 16}, "bar"},
-        {{6, 5, 40, 6}, "text"},
-        {{126, 4, 20, 8}, "accent"},
-        {{0, 16, 40, 80}, "surface"},
-        {{4, 22, 32, 10}, "selection"},
-        {{8, 38, 24, 4}, "text-secondary"},
-        {{8, 48, 24, 4}, "text-secondary"},
-        {{8, 58, 20, 4}, "text-secondary"},
-        {{48, 24, 96, 64}, "surface-raised"},
-        {{54, 30, 48, 6}, "text"},
-        {{54, 42, 84, 4}, "border-strong"},
-        {{54, 52, 84, 4}, "border-strong"},
-        {{54, 62, 60, 4}, "border-strong"},
-        {{54, 74, 28, 8}, "accent"},
-        {{88, 74, 28, 8}, "button"},
+        {{0, 0, 128, 14}, "bar"},
+        {{6, 4, 34, 5}, "text"},
+        {{106, 4, 16, 6}, "accent"},
+        {{0, 14, 34, 66}, "surface"},
+        {{4, 19, 26, 8}, "selection"},
+        {{8, 32, 20, 3}, "text-secondary"},
+        {{8, 40, 20, 3}, "text-secondary"},
+        {{8, 48, 16, 3}, "text-secondary"},
+        {{40, 20, 82, 54}, "surface-raised"},
+        {{46, 25, 40, 5}, "text"},
+        {{46, 36, 70, 3}, "border-strong"},
+        {{46, 44, 70, 3}, "border-strong"},
+        {{46, 52, 50, 3}, "border-strong"},
+        {{46, 61, 24, 8}, "accent"},
+        {{74, 61, 24, 8}, "button"},
     };
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_palette.Color("window"));

@@ -25,7 +25,7 @@ using namespace VantorGUIToolkit;
 
 namespace {
 
-constexpr int kListWidth = 280;
+constexpr int kListWidth = 240;
 constexpr int kFormWidth = 640;
 constexpr int kLongestName = 32;
 
@@ -74,7 +74,7 @@ CUsersPage::CUsersPage(CUsers& users, QWidget* parent)
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Grid::Large);
     columns->addWidget(MakeList());
-    columns->addWidget(MakeForm(), 0, Qt::AlignTop);
+    columns->addWidget(MakeForm(), 1, Qt::AlignTop);
     columns->addStretch();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(Grid::Wide, Grid::Wide, Grid::Wide, Grid::Wide);
@@ -96,12 +96,12 @@ QWidget* CUsersPage::MakeForm()
 {
     auto* card = new QFrame(this);
     setSurface(card, Surface::Card);
-    card->setFixedWidth(kFormWidth);
+    card->setMaximumWidth(kFormWidth);
     m_name->setObjectName("userName");
     m_name->setMaxLength(kLongestName);
     m_password->setObjectName("userPassword");
     m_form->AddRow(tr("Name"), m_name);
-    m_form->AddRow(tr("Password"), m_password, tr("Leave it empty to keep the present one."));
+    m_form->AddRow(tr("Password"), m_password);
     auto* checks = new QWidget(card);
     MakeChecks(checks);
 
@@ -162,6 +162,7 @@ void CUsersPage::ShowUser()
     if (row < 0 || row >= static_cast<int>(users.size()))
         return;
     m_isNew = false;
+    m_password->setPlaceholderText(tr("Unchanged"));
     const User& user = users[static_cast<std::size_t>(row)];
     m_name->setText(QString::fromStdString(user.name));
     m_name->setReadOnly(true);
@@ -177,8 +178,10 @@ void CUsersPage::NewUser()
 {
     m_list->setCurrentRow(-1);
     m_isNew = true;
+    m_password->setPlaceholderText({});
     m_name->setReadOnly(false);
     m_name->clear();
+    m_form->setFieldError(m_name, {});
     m_password->clear();
     for (QCheckBox* check : m_checks)
         check->setChecked(false);

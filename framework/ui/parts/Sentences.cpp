@@ -1,7 +1,9 @@
 #include "framework/ui/parts/Sentences.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QRegularExpression>
+#include <QStringList>
 
 #include <vector>
 
@@ -10,6 +12,7 @@ namespace framework {
 namespace {
 
 constexpr char kContext[] = "Sentences";
+constexpr char kSettingsChanged[] = QT_TRANSLATE_NOOP("Sentences", "Changed settings: %1.");
 
 // %1 and %2 stand for names, which stay as they are.
 constexpr const char* kSentences[] = {
@@ -30,7 +33,7 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Sentences", "Device \"%1\" was changed."),
     QT_TRANSLATE_NOOP("Sentences", "Device \"%1\" was removed."),
     QT_TRANSLATE_NOOP("Sentences", "Test alarm of %1"),
-    QT_TRANSLATE_NOOP("Sentences", "Changed settings: %1."),
+    kSettingsChanged,
     QT_TRANSLATE_NOOP("Sentences", "The users were changed."),
     QT_TRANSLATE_NOOP("Sentences", "User \"%1\" took over from \"%2\"."),
     QT_TRANSLATE_NOOP("Sentences", "The address and port belong to another device."),
@@ -43,6 +46,33 @@ constexpr const char* kSentences[] = {
     QT_TRANSLATE_NOOP("Sentences", "Somebody must be allowed to manage users."),
     QT_TRANSLATE_NOOP("Sentences", "The user is at work."),
 };
+
+/// The keys of the settings in a list of them.
+constexpr std::pair<const char*, const char*> kSettings[] = {
+    {"skin", QT_TRANSLATE_NOOP("Sentences", "skin")},
+    {"language", QT_TRANSLATE_NOOP("Sentences", "language")},
+    {"versionType", QT_TRANSLATE_NOOP("Sentences", "edition")},
+    {"dateFormat", QT_TRANSLATE_NOOP("Sentences", "date format")},
+    {"timeFormat", QT_TRANSLATE_NOOP("Sentences", "time format")},
+    {"videoPath", QT_TRANSLATE_NOOP("Sentences", "folder of clips")},
+    {"picturePath", QT_TRANSLATE_NOOP("Sentences", "folder of pictures")},
+};
+
+QString SettingName(const QString& key)
+{
+    for (const auto& [name, text] : kSettings)
+        if (key == name)
+            return QCoreApplication::translate(kContext, text);
+    return key;
+}
+
+QString SettingNames(const QString& keys)
+{
+    QStringList names;
+    for (const QString& key : keys.split(", "))
+        names << SettingName(key);
+    return QLocale().createSeparatedList(names);
+}
 
 struct Pattern
 {
@@ -84,7 +114,8 @@ QString InUserLanguage(const std::string& sentence)
         case 0:
             return translated;
         case 1:
-            return translated.arg(match.captured(1));
+            return translated.arg(pattern.key == kSettingsChanged ? SettingNames(match.captured(1))
+                                                                  : match.captured(1));
         default:
             return translated.arg(match.captured(1), match.captured(2));
         }

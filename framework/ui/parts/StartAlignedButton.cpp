@@ -8,7 +8,8 @@ namespace framework {
 
 namespace {
 
-constexpr int kGap = 12; ///< between icon and text
+constexpr int kIconColumn = 20; ///< icons stand in its middle, so that texts of large and small ones align
+constexpr int kGap = 12;        ///< between icon and text
 
 } // namespace
 
@@ -28,13 +29,13 @@ void CStartAlignedButton::paintEvent(QPaintEvent*)
 
     const bool onlyIcon = text().isEmpty();
     const QSize size = iconSize();
-    const int left = onlyIcon ? (width() - size.width()) / 2 : m_indent;
+    const int left = onlyIcon ? (width() - size.width()) / 2 : m_indent + (kIconColumn - size.width()) / 2;
     const QRect picture(left, (height() - size.height()) / 2, size.width(), size.height());
     const QIcon::Mode mode = !isEnabled() ? QIcon::Disabled : isChecked() ? QIcon::Selected : QIcon::Normal;
     icon().paint(&painter, QStyle::visualRect(layoutDirection(), rect(), picture), Qt::AlignCenter, mode);
     if (onlyIcon)
         return;
-    const int from = m_indent + (icon().isNull() ? 0 : size.width() + kGap);
+    const int from = m_indent + (icon().isNull() ? 0 : kIconColumn + kGap);
     const QRect words =
         QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(from, 0, -m_indent / 2, 0));
     const auto side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;

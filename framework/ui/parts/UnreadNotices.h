@@ -2,29 +2,35 @@
 
 #include <QObject>
 
+#include <cstdint>
+#include <vector>
+
 namespace framework {
 
-/// How many of the newest notices nobody has looked at yet. GUI thread.
+/// Which notices nobody has marked as read yet. A notice's position counts from the newest one, which has 0.
+/// GUI thread.
 class CUnreadNotices : public QObject
 {
     Q_OBJECT
 
 public:
-    int Count() const { return m_count; }
+    int Count() const { return static_cast<int>(m_positions.size()); }
+    bool Contains(int position) const;
+    /// In ascending order, as they are kept on disk.
+    const std::vector<std::int32_t>& Positions() const { return m_positions; }
 
-    void Set(int count)
-    {
-        if (count == m_count)
-            return;
-        m_count = count;
-        emit Changed(count);
-    }
+    /// As they were kept; what cannot be a position is left out.
+    void Set(std::vector<std::int32_t> positions);
+    /// A notice has come.
+    void Add();
+    void MarkRead(int position);
+    void MarkAllRead() { Set({}); }
 
 signals:
-    void Changed(int count);
+    void Changed();
 
 private:
-    int m_count = 0;
+    std::vector<std::int32_t> m_positions;
 };
 
 } // namespace framework

@@ -17,16 +17,16 @@ struct WindowMemory : protocol::CMessage<WindowMemory, protocol::IInboundData>
     std::string currentTab;
     bool navigationCollapsed = false;
     std::vector<std::int32_t> closedGroups; ///< numbers of WindowGroup
-    std::int32_t unreadNotices = 0;         ///< as many of the newest notices are unread
+    std::vector<std::int32_t> unread;       ///< see CUnreadNotices::Positions
 
     static constexpr auto Fields()
     {
         using T = WindowMemory;
         using protocol::May;
-        return std::make_tuple(
-            May("geometry", &T::geometry), May("maximized", &T::maximized), May("tabs", &T::tabs),
-            May("currentTab", &T::currentTab), May("navigationCollapsed", &T::navigationCollapsed),
-            May("closedGroups", &T::closedGroups), May("unreadNotices", &T::unreadNotices));
+        return std::make_tuple(May("geometry", &T::geometry), May("maximized", &T::maximized),
+                               May("tabs", &T::tabs), May("currentTab", &T::currentTab),
+                               May("navigationCollapsed", &T::navigationCollapsed),
+                               May("closedGroups", &T::closedGroups), May("unread", &T::unread));
     }
 
     /// From the file; as at the first start when there is none or it cannot be read.

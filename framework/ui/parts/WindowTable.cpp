@@ -91,6 +91,12 @@ bool WindowRow::MayOpen(const User& user) const
     return *permission == '\0' || user.May(permission);
 }
 
+QString TitleOf(const QString& window)
+{
+    const WindowRow* row = FindWindow(window);
+    return row ? row->Title() : QString();
+}
+
 QString TitleOf(WindowGroup group)
 {
     for (const GroupTitle& each : kGroupTitles)

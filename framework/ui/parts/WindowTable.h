@@ -32,6 +32,9 @@ struct WindowRow
 /// Every tab, in the order of the navigation. The one place that knows them.
 const std::vector<WindowRow>& AllWindows();
 
+/// The title of a tab in the language of the user; empty for an unknown name.
+QString TitleOf(const QString& window);
+
 /// The row of a name; nullptr for none.
 const WindowRow* FindWindow(const QString& name);
 

@@ -76,18 +76,16 @@ void CComponentTab::ShowStatePage(TabState state)
     case TabState::Loading:
         return m_statePage->ShowBusy(m_title, tr("Waiting for the component…"));
     case TabState::NoWindow:
-        return m_statePage->ShowReason("warning", m_title,
-                                       tr("The component did not provide this window. It may be too old, "
-                                          "or it could not open the page."),
-                                       tr("Try again"));
+        return m_statePage->ShowReason(
+            "warning", m_title, tr("The component did not answer in time, or it cannot show this page."),
+            tr("Try again"));
     case TabState::Ended:
         return m_statePage->ShowBusy(tr("The component ended. It is being restarted…"),
                                      tr("Your tabs come back by themselves."));
     case TabState::GivenUp:
-        return m_statePage->ShowReason(
-            "power", tr("The component is not running."),
-            tr("It ended too often, or was stopped. The operation log has the details."),
-            tr("Start the component"));
+        return m_statePage->ShowReason("power", tr("The component is not running."),
+                                       tr("It ended too often. The operation log has the details."),
+                                       tr("Start the component"));
     case TabState::Embedded:
         return;
     }

@@ -20,7 +20,10 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace framework {
 
@@ -30,6 +33,7 @@ constexpr int kMoveSettleMs = 60;
 constexpr int kSaveDelayMs = 500;
 constexpr QSize kSmallest(1024, 640);
 constexpr QSize kFirstSize(1440, 900);
+constexpr int kNarrow = 1100; ///< a window below this width begins with icons only in its navigation
 
 } // namespace
 
@@ -49,6 +53,7 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
     connect(&m_save, &QTimer::timeout, this, &CMainWindow::Save);
     ConnectTabs();
     ConnectEvents();
+    AddShortcuts();
     if (m_report.IsOpen())
         m_layoutReport =
             std::make_unique<CLayoutReport>(m_report, [this](QJsonObject& items) { CollectItems(items); });
@@ -57,6 +62,7 @@ CMainWindow::CMainWindow(CFrameworkCore& core, CEventRelay& relay, CReport& repo
 CMainWindow::~CMainWindow()
 {
     Save();
+    m_writer.Stop();
     m_layoutReport.reset();
     // The pages' signals must not arrive in a window that is half gone.
     m_tabs->disconnect(this);
@@ -85,12 +91,11 @@ void CMainWindow::ConnectTabs()
     });
     connect(m_tabs, &CTabArea::Closed, this, [this](const QString& name) {
         m_report.Tell("tab", {{"name", name}, {"state", "closed"}});
-        m_save.start(kSaveDelayMs);
+        SaveSoon();
     });
-    connect(m_top, &CTopBar::NavigationToggled, this, [this] {
-        m_navigation->SetCollapsed(!m_navigation->IsCollapsed());
-        m_save.start(kSaveDelayMs);
-    });
+    connect(m_tabs, &CTabArea::Moved, this, &CMainWindow::SaveSoon);
+    connect(m_navigation, &CNavigation::GroupsChanged, this, &CMainWindow::SaveSoon);
+    connect(m_top, &CTopBar::NavigationToggled, this, &CMainWindow::ToggleNavigation);
     connect(m_top, &CTopBar::NoticesRequested, this, [this] { Open("Notices"); });
     connect(m_top, &CTopBar::SettingsRequested, this, [this] { Open("Settings"); });
     connect(m_top, &CTopBar::SwitchUserRequested, this, &CMainWindow::SwitchUserRequested);
@@ -105,10 +110,31 @@ void CMainWindow::ConnectEvents()
     connect(&m_relay, &CEventRelay::ResizeWished, this, &CMainWindow::OnResizeWish);
     connect(&m_relay, &CEventRelay::OperationAdded, this,
             [this](const JournalEntry& entry) { m_status->ShowEvent(InUserLanguage(entry.text)); });
-    connect(&m_unread, &CUnreadNotices::Changed, this, [this](int count) {
-        m_top->SetUnread(count);
-        m_save.start(kSaveDelayMs);
+    connect(&m_unread, &CUnreadNotices::Changed, this, [this] {
+        m_top->SetUnread(m_unread.Count());
+        SaveSoon();
     });
+}
+
+void CMainWindow::AddShortcuts()
+{
+    const auto add = [this](const QKeySequence& keys, auto action) {
+        connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
+    };
+    add(Qt::CTRL + Qt::Key_W, [this] { m_tabs->Close(m_tabs->Current()); });
+    add(Qt::CTRL + Qt::Key_Tab, [this] { m_tabs->Step(1); });
+    add(Qt::CTRL + Qt::SHIFT + Qt::Key_Tab, [this] { m_tabs->Step(-1); });
+    add(Qt::CTRL + Qt::Key_B, [this] { ToggleNavigation(); });
+    add(Qt::Key_F11, [this] { setWindowState(windowState() ^ Qt::WindowFullScreen); });
+}
+
+// What is chosen in a narrow window holds for as long as it is narrow.
+void CMainWindow::ToggleNavigation()
+{
+    m_navigation->SetCollapsed(!m_navigation->IsCollapsed());
+    if (!m_isNarrow)
+        m_wantsCollapsed = m_navigation->IsCollapsed();
+    SaveSoon();
 }
 
 void CMainWindow::Restore()
@@ -121,16 +147,26 @@ void CMainWindow::Restore()
     m_top->SetUser(user);
     m_navigation->SetUser(user);
     m_navigation->SetClosedGroups(closed);
-    m_navigation->SetCollapsed(memory.navigationCollapsed);
-    m_unread.Set(memory.unreadNotices);
+    m_wantsCollapsed = memory.navigationCollapsed;
+    m_navigation->SetCollapsed(m_isNarrow || m_wantsCollapsed);
     m_top->SetUnread(m_unread.Count());
     m_status->SetComponent(m_core.State(), {});
     PlaceOnScreen(memory);
-    Open("Home");
-    for (const std::string& tab : memory.tabs)
-        Open(QString::fromStdString(tab));
-    Open(QString::fromStdString(memory.currentTab));
+    OpenAsBefore(memory);
+    m_tabs->setFocus();
     m_restored = true;
+}
+
+void CMainWindow::OpenAsBefore(const WindowMemory& memory)
+{
+    const QString home = "Home";
+    if (std::find(memory.tabs.begin(), memory.tabs.end(), home.toStdString()) == memory.tabs.end())
+        m_tabs->Add(home);
+    for (const std::string& tab : memory.tabs)
+        if (const QString name = QString::fromStdString(tab); MayOpen(name))
+            m_tabs->Add(name);
+    const QString current = QString::fromStdString(memory.currentTab);
+    m_tabs->Open(m_tabs->Names().contains(current) ? current : home);
 }
 
 // On a screen that is smaller than the window was, the window becomes smaller too.
@@ -154,8 +190,13 @@ void CMainWindow::PlaceOnScreen(const WindowMemory& memory)
 
 bool CMainWindow::Open(const QString& name)
 {
+    return MayOpen(name) && m_tabs->Open(name);
+}
+
+bool CMainWindow::MayOpen(const QString& name) const
+{
     const WindowRow* row = FindWindow(name);
-    return row && row->MayOpen(m_core.Users().Current()) && m_tabs->Open(name);
+    return row && row->MayOpen(m_core.Users().Current());
 }
 
 void CMainWindow::OnComponentChanged(ComponentState state, const QString& detail)
@@ -164,6 +205,8 @@ void CMainWindow::OnComponentChanged(ComponentState state, const QString& detail
     for (const QString& name : m_tabs->Names())
         if (CComponentTab* tab = ComponentTab(name))
             tab->Session().OnComponentState(state);
+    if (state == ComponentState::Ready)
+        TellCurrentTab();
 }
 
 void CMainWindow::OnUsersChanged()
@@ -178,7 +221,6 @@ void CMainWindow::OnUsersChanged()
 
 void CMainWindow::OnNotice(const JournalEntry& entry)
 {
-    m_unread.Set(m_unread.Count() + 1);
     const QString text = InUserLanguage(entry.text);
     m_status->ShowEvent(text);
     VantorGUIToolkit::CNotice::Show(text, VantorGUIToolkit::Tone::Warn, this);
@@ -187,10 +229,15 @@ void CMainWindow::OnNotice(const JournalEntry& entry)
 void CMainWindow::OnCurrentTab(const QString& name)
 {
     m_navigation->SetCurrent(name);
-    const WindowRow* row = FindWindow(name);
-    m_core.TabSwitched(row->isOwn ? std::string() : name.toStdString());
+    TellCurrentTab();
     m_report.Tell("current", {{"name", name}});
-    m_save.start(kSaveDelayMs);
+    SaveSoon();
+}
+
+void CMainWindow::TellCurrentTab()
+{
+    const WindowRow* row = FindWindow(m_tabs->Current());
+    m_core.TabSwitched(row->isOwn ? std::string() : row->name);
 }
 
 // The window grows by what the embedded one lacks, as far as the screen allows.
@@ -214,6 +261,10 @@ void CMainWindow::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     if (m_ending)
         m_ending->setGeometry(rect());
+    if (const bool narrow = width() < kNarrow; narrow != m_isNarrow) {
+        m_isNarrow = narrow;
+        m_navigation->SetCollapsed(narrow || m_wantsCollapsed);
+    }
     m_moved.start(kMoveSettleMs);
 }
 
@@ -224,7 +275,7 @@ void CMainWindow::TellPosition()
             tab->TellPosition();
     const QPoint place = ScreenRect(*this).topLeft();
     m_core.WindowMoved(place.x(), place.y());
-    m_save.start(kSaveDelayMs);
+    SaveSoon();
 }
 
 void CMainWindow::Save()
@@ -238,11 +289,24 @@ void CMainWindow::Save()
     for (const QString& name : m_tabs->Names())
         memory.tabs.push_back(name.toStdString());
     memory.currentTab = m_tabs->Current().toStdString();
-    memory.navigationCollapsed = m_navigation->IsCollapsed();
+    memory.navigationCollapsed = m_wantsCollapsed;
     for (const WindowGroup group : m_navigation->ClosedGroups())
         memory.closedGroups.push_back(static_cast<int>(group));
-    memory.unreadNotices = m_unread.Count();
-    memory.Save(m_memoryPath);
+    memory.unread = m_unread.Positions();
+    m_writer.PostTask([memory, path = m_memoryPath] { memory.Save(path); });
+}
+
+void CMainWindow::SaveSoon()
+{
+    m_save.start(kSaveDelayMs);
+}
+
+// Without a window manager nobody gives the keyboard back to this window when a dialog is closed.
+bool CMainWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowUnblocked)
+        activateWindow();
+    return QWidget::event(event);
 }
 
 void CMainWindow::closeEvent(QCloseEvent* event)

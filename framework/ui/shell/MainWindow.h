@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/MessageLoop.h"
 #include "framework/core/FrameworkEvents.h"
 #include "framework/ui/parts/WindowMemory.h"
 #include "framework/ui/shell/TabArea.h"
@@ -48,6 +49,7 @@ signals:
     void SwitchUserRequested();
 
 protected:
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -56,14 +58,20 @@ private:
     void LayOut();
     void ConnectTabs();
     void ConnectEvents();
+    void AddShortcuts();
+    void ToggleNavigation();
+    void OpenAsBefore(const WindowMemory& memory);
+    bool MayOpen(const QString& name) const;
     void OnComponentChanged(ComponentState state, const QString& detail);
     void OnUsersChanged();
     void OnNotice(const JournalEntry& entry);
     void OnCurrentTab(const QString& name);
+    void TellCurrentTab();
     void OnResizeWish(const QString& name, const QSize& size);
     void TellPosition();
     void PlaceOnScreen(const WindowMemory& memory);
     void Save();
+    void SaveSoon();
     void CollectItems(QJsonObject& items) const;
     CComponentTab* ComponentTab(const QString& name) const;
 
@@ -79,7 +87,10 @@ private:
     QLabel* m_ending = nullptr;
     QTimer m_moved; ///< waits for the end of a move
     QTimer m_save;
+    Base::CMessageLoop m_writer{"window-memory"}; ///< nothing waits for the disk
     bool m_restored = false;
+    bool m_isNarrow = false;
+    bool m_wantsCollapsed = false; ///< the navigation, where there is room for all of it
     std::unique_ptr<CLayoutReport> m_layoutReport;
 };
 

@@ -1,6 +1,7 @@
 #include "framework/ui/shell/Navigation.h"
 
 #include "VantorGUIToolkit/Icons.h"
+#include "VantorGUIToolkit/Widgets/Dress.h"
 #include "framework/ui/parts/StartAlignedButton.h"
 
 #include <QPushButton>
@@ -9,9 +10,11 @@
 
 namespace framework {
 
+namespace Grid = VantorGUIToolkit::Grid;
+
 namespace {
 
-constexpr int kWideWidth = 224;
+constexpr int kWideWidth = 240;
 constexpr int kNarrowWidth = 56;
 constexpr int kItemIcon = 20;
 constexpr int kHeadingIcon = 12;
@@ -25,6 +28,7 @@ QPushButton* MakeButton(const char* kind, int iconSize, QWidget* parent)
     button->setProperty("kind", kind);
     button->setIconSize({iconSize, iconSize});
     button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    button->setFocusPolicy(Qt::TabFocus); // a press of the mouse leaves no frame behind
     return button;
 }
 
@@ -37,7 +41,7 @@ CNavigation::CNavigation(QWidget* parent) : QFrame(parent)
     auto* list = new QWidget(this);
     list->setObjectName("navigationList");
     auto* rows = new QVBoxLayout(list);
-    rows->setContentsMargins(8, 8, 8, 8);
+    rows->setContentsMargins(Grid::Small, Grid::Small, Grid::Small, Grid::Small);
     rows->setSpacing(0);
     for (const WindowGroup group : kGroups)
         AddGroup(group, *rows);
@@ -55,20 +59,25 @@ CNavigation::CNavigation(QWidget* parent) : QFrame(parent)
     setFixedWidth(kWideWidth);
 }
 
-void CNavigation::AddGroup(WindowGroup group, QVBoxLayout& layout)
+void CNavigation::AddGroup(WindowGroup group, QVBoxLayout& list)
 {
+    auto* box = new QWidget(this);
+    m_groups.insert(static_cast<int>(group), box);
+    list.addWidget(box);
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, group == WindowGroup::Start ? 0 : Grid::Small, 0, 0);
+    layout->setSpacing(0);
     if (group != WindowGroup::Start) {
         QPushButton* heading = MakeButton("navGroup", kHeadingIcon, this);
         heading->setObjectName(QString("navGroup%1").arg(static_cast<int>(group)));
         heading->setText(TitleOf(group));
-        heading->setFocusPolicy(Qt::TabFocus);
         connect(heading, &QPushButton::clicked, this, [this, group] { Toggle(group); });
         m_headings.insert(static_cast<int>(group), heading);
-        layout.addWidget(heading);
+        layout->addWidget(heading);
     }
     for (const WindowRow& row : AllWindows())
         if (row.group == group)
-            AddItem(row, layout);
+            AddItem(row, *layout);
 }
 
 void CNavigation::AddItem(const WindowRow& row, QVBoxLayout& layout)
@@ -124,6 +133,7 @@ void CNavigation::Toggle(WindowGroup group)
     if (!m_closed.removeOne(group))
         m_closed.append(group);
     UpdateItems();
+    emit GroupsChanged();
 }
 
 bool CNavigation::IsShown(const WindowRow& row) const
@@ -140,13 +150,15 @@ void CNavigation::UpdateItems()
         item->setText(m_collapsed ? QString() : row.Title());
         groupHasItems[static_cast<int>(row.group)] |= row.MayOpen(m_user);
     }
+    for (auto box = m_groups.cbegin(); box != m_groups.cend(); ++box)
+        box.value()->setVisible(groupHasItems.value(box.key()));
     for (auto heading = m_headings.cbegin(); heading != m_headings.cend(); ++heading) {
         const bool closed = m_closed.contains(static_cast<WindowGroup>(heading.key()));
         heading.value()->setIcon(VantorGUIToolkit::icon(!closed ? "chevron-down"
                                                         : layoutDirection() == Qt::RightToLeft
                                                             ? "chevron-left"
                                                             : "chevron-right"));
-        heading.value()->setVisible(!m_collapsed && groupHasItems.value(heading.key()));
+        heading.value()->setVisible(!m_collapsed);
     }
 }
 

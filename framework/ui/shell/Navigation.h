@@ -36,15 +36,17 @@ public:
 
 signals:
     void OpenRequested(const QString& name);
+    void GroupsChanged();
 
 private:
-    void AddGroup(WindowGroup group, QVBoxLayout& layout);
+    void AddGroup(WindowGroup group, QVBoxLayout& list);
     void AddItem(const WindowRow& row, QVBoxLayout& layout);
     void Toggle(WindowGroup group);
     void UpdateItems();
     bool IsShown(const WindowRow& row) const;
 
     QHash<QString, QPushButton*> m_items;
+    QHash<int, QWidget*> m_groups; ///< what holds the heading and the items of each
     QHash<int, QPushButton*> m_headings;
     QList<WindowGroup> m_closed;
     User m_user;

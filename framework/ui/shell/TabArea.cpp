@@ -3,9 +3,10 @@
 #include "VantorGUIToolkit/Icons.h"
 #include "framework/ui/parts/Report.h"
 #include "framework/ui/parts/WindowTable.h"
+#include "framework/ui/shell/TabStrip.h"
 
+#include <QApplication>
 #include <QStackedWidget>
-#include <QStyle>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -14,47 +15,41 @@ namespace framework {
 namespace {
 
 const QString kHome = QStringLiteral("Home");
-constexpr int kIconSize = 16;
-
-QTabBar* MakeBar(QWidget* parent)
-{
-    auto* bar = new QTabBar(parent);
-    bar->setObjectName("tabBar");
-    bar->setMovable(true);
-    bar->setTabsClosable(true);
-    bar->setDrawBase(false);
-    bar->setExpanding(false);
-    bar->setElideMode(Qt::ElideNone);
-    bar->setUsesScrollButtons(true);
-    bar->setIconSize({kIconSize, kIconSize});
-    return bar;
-}
 
 } // namespace
 
 CTabArea::CTabArea(PageFactory factory, QWidget* parent)
-    : QWidget(parent), m_factory(std::move(factory)), m_bar(MakeBar(this)), m_stack(new QStackedWidget(this))
+    : QWidget(parent), m_factory(std::move(factory)), m_strip(new CTabStrip(this)), m_bar(&m_strip->Bar()),
+      m_stack(new QStackedWidget(this))
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
-    layout->addWidget(m_bar);
+    layout->addWidget(m_strip);
     layout->addWidget(m_stack, 1);
+    setFocusProxy(m_stack);
     m_stack->setObjectName("content");
     m_stack->setProperty("surface", "page");
     connect(m_bar, &QTabBar::currentChanged, this, &CTabArea::ShowCurrent);
-    connect(m_bar, &QTabBar::tabCloseRequested, this, [this](int index) { Close(NameAt(index)); });
+    connect(m_bar, &QTabBar::tabMoved, this, &CTabArea::Moved);
+    connect(m_strip, &CTabStrip::CloseRequested, this, [this](int index) { Close(NameAt(index)); });
 }
 
 bool CTabArea::Open(const QString& name)
 {
-    const WindowRow* row = FindWindow(name);
-    if (!row)
+    if (!Add(name))
         return false;
-    if (IndexOf(name) < 0)
-        AddTab(*row);
     m_bar->setCurrentIndex(IndexOf(name));
+    ShowCurrent();
     return true;
+}
+
+bool CTabArea::Add(const QString& name)
+{
+    const WindowRow* row = FindWindow(name);
+    if (row && IndexOf(name) < 0)
+        AddTab(*row);
+    return row != nullptr;
 }
 
 void CTabArea::AddTab(const WindowRow& row)
@@ -63,17 +58,14 @@ void CTabArea::AddTab(const WindowRow& row)
     QWidget* page = m_factory(row, m_stack);
     m_pages.insert(name, page);
     m_stack->addWidget(page);
-    // The page has to be known before the bar makes a first tab the current one.
+    // The bar makes a first tab the current one before it can have a name.
     const QSignalBlocker blocker(m_bar);
     const int index = m_bar->addTab(VantorGUIToolkit::icon(row.icon), row.Title());
     m_bar->setTabData(index, name);
     m_bar->setTabToolTip(index, row.Title());
     if (name == kHome)
-        for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide})
-            m_bar->setTabButton(index, side, nullptr);
-    m_bar->setCurrentIndex(index);
+        m_strip->MakePermanent(index);
     emit Opened(name);
-    ShowCurrent();
 }
 
 void CTabArea::Close(const QString& name)
@@ -86,6 +78,12 @@ void CTabArea::Close(const QString& name)
     m_stack->removeWidget(page);
     delete page;
     emit Closed(name);
+}
+
+void CTabArea::Step(int places)
+{
+    const int count = m_bar->count();
+    m_bar->setCurrentIndex((m_bar->currentIndex() + places + count) % count);
 }
 
 QStringList CTabArea::Names() const
@@ -122,10 +120,8 @@ QRect CTabArea::CloseRect(const QString& name) const
     const int index = IndexOf(name);
     if (index < 0)
         return {};
-    for (const auto side : {QTabBar::LeftSide, QTabBar::RightSide})
-        if (const QWidget* cross = m_bar->tabButton(index, side))
-            return ScreenRect(*cross);
-    return {};
+    const QWidget* cross = m_strip->Cross(index);
+    return cross ? ScreenRect(*cross) : QRect();
 }
 
 int CTabArea::IndexOf(const QString& name) const
@@ -144,10 +140,14 @@ QString CTabArea::NameAt(int index) const
 void CTabArea::ShowCurrent()
 {
     QWidget* page = m_pages.value(Current());
-    if (!page)
+    if (!page || Current() == m_shown)
         return;
+    m_shown = Current();
+    // The focus must not wander from a page that is hidden to some button elsewhere.
+    if (const QWidget* focus = QApplication::focusWidget(); !focus || m_stack->isAncestorOf(focus))
+        m_stack->setFocus();
     m_stack->setCurrentWidget(page);
-    emit CurrentChanged(Current());
+    emit CurrentChanged(m_shown);
 }
 
 } // namespace framework

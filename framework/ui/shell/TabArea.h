@@ -10,6 +10,7 @@ class QTabBar;
 
 namespace framework {
 
+class CTabStrip;
 struct WindowRow;
 
 /// The tab bar and the page of the tab in front. Each tab is one row of the window table and is open at most
@@ -26,8 +27,13 @@ public:
 
     /// Opens the tab or brings it to the front. False for an unknown name.
     bool Open(const QString& name);
+    /// Opens the tab behind the others unless it is open. False for an unknown name.
+    bool Add(const QString& name);
     /// Closes the tab; its page is destroyed.
     void Close(const QString& name);
+
+    /// Brings the tab so many places further to the front; behind the last one comes the first.
+    void Step(int places);
 
     QStringList Names() const;
     QString Current() const;
@@ -43,6 +49,7 @@ public:
 signals:
     void Opened(const QString& name);
     void Closed(const QString& name);
+    void Moved();
     void CurrentChanged(const QString& name);
 
 private:
@@ -52,9 +59,11 @@ private:
     void AddTab(const WindowRow& row);
 
     PageFactory m_factory;
-    QTabBar* m_bar;
+    CTabStrip* m_strip;
+    QTabBar* m_bar; ///< the strip's
     QStackedWidget* m_stack;
     QHash<QString, QWidget*> m_pages;
+    QString m_shown; ///< the tab that CurrentChanged told last
 };
 
 } // namespace framework

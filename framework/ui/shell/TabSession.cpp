@@ -57,7 +57,7 @@ void CTabSession::OnComponentState(ComponentState state)
         return;
     switch (state) {
     case ComponentState::Ready:
-        if (m_state != TabState::Embedded)
+        if (m_state != TabState::Embedded && !m_isAsked)
             Ask();
         return;
     case ComponentState::Starting:
@@ -66,8 +66,9 @@ void CTabSession::OnComponentState(ComponentState state)
         return;
     case ComponentState::Waiting:
         return Leave(TabState::Ended);
+    case ComponentState::Stopped: // it is about to start, again or for the first time
+        return Leave(TabState::Loading);
     case ComponentState::GivenUp:
-    case ComponentState::Stopped:
         return Leave(TabState::GivenUp);
     }
 }
@@ -85,6 +86,7 @@ void CTabSession::OnGuestLost()
 
 void CTabSession::Ask()
 {
+    m_isAsked = true;
     const int question = ++m_question;
     m_component.Ask(
         m_name, [self = QPointer<CTabSession>(this), question](const std::optional<ComponentWindow>& window) {
@@ -97,6 +99,7 @@ void CTabSession::OnAnswer(int question, const std::optional<ComponentWindow>& w
 {
     if (question != m_question || m_closed)
         return;
+    m_isAsked = false;
     m_window = window.value_or(ComponentWindow());
     if (!window || !m_view.Embed(m_window.wnd))
         return Enter(TabState::NoWindow);
@@ -107,6 +110,7 @@ void CTabSession::OnAnswer(int question, const std::optional<ComponentWindow>& w
 void CTabSession::Leave(TabState state)
 {
     ++m_question;
+    m_isAsked = false;
     m_view.Release();
     m_window.wnd = 0;
     Enter(state);

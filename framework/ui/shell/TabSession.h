@@ -11,9 +11,9 @@ namespace framework {
 enum class TabState {
     Loading,  ///< waits for the component or for its answer
     Embedded, ///< shows the component's window
-    NoWindow, ///< the component has no such window, or it could not be embedded
+    NoWindow, ///< the component has no such window or does not answer, or it could not be embedded
     Ended,    ///< the component ended and is being restarted
-    GivenUp,  ///< it ended too often, or was stopped; the user may start it again
+    GivenUp,  ///< it ended too often; the user may start it again
 };
 
 /// "loading", "embedded", "no window", "ended", "given up": as the report has them.
@@ -64,6 +64,7 @@ private:
     TabState m_state = TabState::Loading;
     ComponentWindow m_window;
     int m_question = 0; ///< answers to earlier questions are stale
+    bool m_isAsked = false;
     bool m_closed = false;
 };
 

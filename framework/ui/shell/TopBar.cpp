@@ -4,11 +4,14 @@
 #include "VantorGUIToolkit/Toolkit.h"
 #include "VantorGUIToolkit/Widgets/Dress.h"
 #include "framework/core/Users.h"
+#include "framework/ui/parts/WindowTable.h"
 
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QMenu>
 #include <QToolButton>
+
+#include <algorithm>
 
 namespace framework {
 
@@ -18,6 +21,7 @@ using namespace VantorGUIToolkit;
 
 constexpr int kHeight = 48;
 constexpr int kIconSize = 20;
+constexpr int kBellWidth = 56;
 constexpr int kMostShown = 99;
 
 QToolButton* MakeBarButton(const QString& iconName, const QString& name, QWidget* parent)
@@ -25,6 +29,7 @@ QToolButton* MakeBarButton(const QString& iconName, const QString& name, QWidget
     QToolButton* button = makeIconButton(iconName, name, parent);
     button->setIconSize({kIconSize, kIconSize});
     button->setFixedHeight(Grid::Huge);
+    button->setFocusPolicy(Qt::TabFocus);
     return button;
 }
 
@@ -58,6 +63,8 @@ CTopBar::CTopBar(QWidget* parent)
     layout->addSpacing(Grid::Small);
     layout->addWidget(MakeBell());
     layout->addWidget(m_user);
+    setTabOrder(menu, findChild<QWidget*>("bell"));
+    setTabOrder(findChild<QWidget*>("bell"), m_user);
     SetUnread(0);
     ShowTime();
     connect(&m_clock, &QTimer::timeout, this, &CTopBar::ShowTime);
@@ -67,18 +74,18 @@ CTopBar::CTopBar(QWidget* parent)
 QWidget* CTopBar::MakeBell()
 {
     auto* place = new QWidget(this);
-    auto* bell = MakeBarButton("bell", tr("Notification centre"), place);
+    auto* bell = MakeBarButton("bell", TitleOf("Notices"), place);
     bell->setObjectName("bell");
     m_unread->setParent(place);
     m_unread->setObjectName("unreadCount");
-    m_unread->setProperty("role", "badge");
-    m_unread->setProperty("tone", "error");
+    m_unread->setAlignment(Qt::AlignCenter);
     m_unread->setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* layout = new QHBoxLayout(place);
-    layout->setContentsMargins({});
-    layout->setSpacing(Grid::Tight);
-    layout->addWidget(bell);
-    layout->addWidget(m_unread);
+    // The number lies over the bell's corner, so that nothing moves when it comes and goes.
+    auto* layout = new QGridLayout(place);
+    layout->setContentsMargins(0, 0, Grid::Small, 0);
+    layout->addWidget(bell, 0, 0, Qt::AlignCenter);
+    layout->addWidget(m_unread, 0, 0, Qt::AlignTop | Qt::AlignTrailing);
+    place->setFixedSize(kBellWidth, kHeight - Grid::Small);
     connect(bell, &QToolButton::clicked, this, &CTopBar::NoticesRequested);
     return place;
 }
@@ -113,7 +120,8 @@ void CTopBar::SetUser(const User& user)
 void CTopBar::SetUnread(int count)
 {
     m_unread->setVisible(count > 0);
-    m_unread->setText(count > kMostShown ? tr("%1+").arg(kMostShown) : QString::number(count));
+    const QString number = toolkit().locale().toString(std::min(count, kMostShown));
+    m_unread->setText(count > kMostShown ? tr("%1+").arg(number) : number);
 }
 
 void CTopBar::ShowTime()

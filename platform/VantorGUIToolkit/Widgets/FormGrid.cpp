@@ -48,7 +48,9 @@ void CFormGrid::AddField(QWidget* field)
 
 void CFormGrid::AddHeading(const QString& text)
 {
-    m_grid->addWidget(makeLabel(text, TextRole::Heading, this), m_grid->rowCount(), LabelColumn, 1, 2);
+    QLabel* heading = makeLabel(text, TextRole::Heading, this);
+    heading->setContentsMargins(0, m_fields.isEmpty() ? 0 : Grid::Large, 0, 0);
+    m_grid->addWidget(heading, m_grid->rowCount(), LabelColumn, 1, 2);
 }
 
 void CFormGrid::AddLineBelow(QWidget* field)

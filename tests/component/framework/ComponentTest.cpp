@@ -87,12 +87,25 @@ TEST_F(Component, IsStartedAgainAfterItWasKilled)
 TEST_F(Component, ThatDoesNotEndWhenItIsAskedToIsKilled)
 {
     setenv("FAKE_COMPONENT_WAY", "stubborn", 1);
+    endLimit = std::chrono::milliseconds(100);
     StartCore(Script());
     core->StartComponent();
     ASSERT_TRUE(events.texts.Take("state ready"));
     core->StopComponent();
     EXPECT_TRUE(events.texts.Take(
         "state stopped: The component ended with signal 9 (SIGKILL). It did not end in time."));
+}
+
+TEST_F(Component, IsNotKeptOutByAClientThatHasItsName)
+{
+    StartCore(Script());
+    TestClient other(lpc::kVideoComponentName);
+    other.Notify("initFinish");
+    core->StartComponent();
+    ASSERT_TRUE(events.texts.Take("state ready"));
+    EXPECT_EQ(other.Request("GET", "/fake/echo", "x").body, "x");
+    core->StopComponent();
+    EXPECT_TRUE(events.texts.Take("state stopped: The component ended with exit code 0."));
 }
 
 TEST_F(Component, IsAskedThroughTheFramework)

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <filesystem>
 
 namespace {
 
@@ -21,12 +22,12 @@ bool Texts::Take(const std::string& beginning)
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     const auto find = [&] {
-        return std::find_if(m_texts.begin(), m_texts.end(),
+        return std::find_if(m_texts.begin() + m_taken, m_texts.end(),
                             [&](const std::string& text) { return text.rfind(beginning, 0) == 0; });
     };
     if (!m_changed.wait_for(lock, kLimit, [&] { return find() != m_texts.end(); }))
         return false;
-    m_texts.erase(m_texts.begin(), find() + 1);
+    m_taken = find() + 1 - m_texts.begin();
     return true;
 }
 
@@ -34,6 +35,14 @@ std::vector<std::string> Texts::All() const
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     return m_texts;
+}
+
+std::size_t Texts::CountOf(const std::string& beginning) const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return static_cast<std::size_t>(
+        std::count_if(m_texts.begin(), m_texts.end(),
+                      [&](const std::string& text) { return text.rfind(beginning, 0) == 0; }));
 }
 
 void Events::OnComponentState(framework::ComponentState state, const std::string& detail)
@@ -114,9 +123,15 @@ void CoreTest::StartCore(const std::string& program)
 {
     core.reset();
     core = std::make_unique<framework::CFrameworkCore>(
-        events, framework::FrameworkOptions{Folder(), program, root.Path() + "output"});
+        events, framework::FrameworkOptions{Folder(), program, root.Path() + "output", endLimit});
     std::string error;
     ASSERT_TRUE(core->Start(error)) << error;
+}
+
+void CoreTest::Block(const std::string& name)
+{
+    std::filesystem::remove(Folder() + name);
+    std::filesystem::create_directories(Folder() + name + "/in the way");
 }
 
 std::string CoreTest::AddDevice(const std::string& name, int port, int channels)

@@ -21,14 +21,17 @@ class Texts
 {
 public:
     void Add(const std::string& text);
-    /// Whether a text that begins so comes within the time; it and all before it are taken away.
+    /// Whether a text that begins so comes within the time; it and all before it are taken.
     bool Take(const std::string& beginning);
+    /// All that came, taken or not.
     std::vector<std::string> All() const;
+    std::size_t CountOf(const std::string& beginning) const;
 
 private:
     mutable std::mutex m_mutex;
     std::condition_variable m_changed;
     std::vector<std::string> m_texts;
+    std::ptrdiff_t m_taken = 0;
 };
 
 /// What the core tells, as texts: "state ready: detail", "resources", "users", "notice text",
@@ -79,11 +82,14 @@ protected:
 
     /// Starts a core, ending the earlier one. program: see FrameworkOptions.
     void StartCore(const std::string& program = {});
+    /// Lets no change of the file be written.
+    void Block(const std::string& name);
     std::string AddDevice(const std::string& name, int port = 8000, int channels = 2);
     std::string Folder() const { return root.Path() + "Framework.C/"; }
 
     TestDataRoot root;
     Events events;
+    std::chrono::milliseconds endLimit{5000}; ///< of the components of cores that are started
     std::unique_ptr<framework::CFrameworkCore> core;
 };
 

@@ -112,6 +112,48 @@ TEST_F(Kept, IsAJournalWhoseLastLineWasCut)
     EXPECT_EQ(write(0), framework::CJournal::kKept);
 }
 
+TEST_F(Kept, IsAJournalThatCouldNotBeWrittenForAWhile)
+{
+    const std::string path = root.Path() + "journal";
+    {
+        framework::CJournal journal(path, {});
+        journal.Add("u", "k", "before");
+        fs::rename(path, path + ".away");
+        fs::create_symlink("/dev/full", path);
+        journal.Add("u", "k", "meanwhile");
+        journal.Add("u", "k", "after");
+    }
+    EXPECT_EQ(framework::CJournal(path, {}).Entries().size(), 3u);
+}
+
+TEST_F(Kept, IsWhatWasBeforeAChangeThatCannotBeWritten)
+{
+    StartCore();
+    const std::string device = AddDevice("Yard");
+    TestClient component(lpc::kVideoComponentName);
+    component.BecomeReady();
+    Block("users.json");
+    EXPECT_FALSE(core->SwitchUser("guest", ""));
+    EXPECT_EQ(core->Users().Current().name, "admin");
+    ASSERT_TRUE(component.received.Take("switchUserStopWorking"));
+    EXPECT_TRUE(component.received.Take(
+        R"(switchUserUpdateFrame {"method":"switchUserUpdateFrame","data":{"userName":"admin")"));
+    Block("resources.json");
+    const std::string devices = "/vantor/v1/deviceManagement/devices/";
+    const std::string output = core->Resources().AlarmOutputs(device)[0].guid;
+    EXPECT_EQ(component
+                  .Request("PUT", devices + device + "/alarmOutputs/" + output + "/controls",
+                           R"({"alarmOutputControl":{"active":true}})")
+                  .status,
+              "500");
+    EXPECT_EQ(component
+                  .Request("PUT", "/vantor/v1/deviceManagement/groups",
+                           R"({"modifyGroupCondition":{"allSmartRule":1}})")
+                  .status,
+              "500");
+    EXPECT_FALSE(core->Resources().AlarmOutputs(device)[0].active);
+}
+
 TEST_F(Kept, IsADataEncryptionSetupThatCannotBeRead)
 {
     StartCore();

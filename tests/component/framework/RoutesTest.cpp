@@ -138,6 +138,15 @@ TEST_F(Routes, GiveCredentialsToTheComponentOnlyAndEnciphered)
     Base::Encrypt::ClearAESParams();
 }
 
+TEST_F(Routes, TakeOnlyWhatFitsIntoMemory)
+{
+    TestClient other("somebody");
+    const std::string url = kManagement + "batchTimeSynchronization";
+    const std::string mebibyte = R"({"deviceGuidList":[]})" + std::string(1024 * 1024 - 21, ' ');
+    EXPECT_EQ(other.Request("POST", url, mebibyte).status, "200");
+    EXPECT_EQ(other.Request("POST", url, mebibyte + " ").status, "413");
+}
+
 TEST_F(Routes, LetNobodyButAComponentRegister)
 {
     TestClient other("somebody");

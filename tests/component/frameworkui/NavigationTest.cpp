@@ -81,4 +81,21 @@ TEST(TabArea, OpensATabOnceAndKeepsHome)
     EXPECT_EQ(tabs.Page("MainView"), nullptr);
 }
 
+TEST(TabArea, TellsEachTabThatComesToTheFrontOnce)
+{
+    CTabArea tabs([](const WindowRow&, QWidget* parent) { return new QWidget(parent); });
+    QStringList told;
+    QObject::connect(&tabs, &CTabArea::CurrentChanged, [&](const QString& name) { told << name; });
+    for (const char* name : {"Home", "MainView", "Wiper"})
+        EXPECT_TRUE(tabs.Add(name));
+    EXPECT_EQ(told, QStringList());
+    tabs.Open("MainView");
+    tabs.Open("MainView");
+    tabs.Step(1);
+    tabs.Step(1);
+    tabs.Step(-1);
+    tabs.Close("Wiper");
+    EXPECT_EQ(told, QStringList({"MainView", "Wiper", "Home", "Wiper", tabs.Current()}));
+}
+
 } // namespace

@@ -47,14 +47,14 @@ TEST(WindowMemory, ComesBackAndADamagedOneIsAsAtTheFirstStart)
     memory.tabs = {"Home", "MainView"};
     memory.currentTab = "MainView";
     memory.closedGroups = {3};
-    memory.unreadNotices = 4;
+    memory.unread = {0, 4};
     memory.Save(path);
     const WindowMemory again = WindowMemory::Load(path);
     EXPECT_EQ(again.geometry, memory.geometry);
     EXPECT_EQ(again.tabs, memory.tabs);
     EXPECT_EQ(again.currentTab, "MainView");
     EXPECT_EQ(again.closedGroups, memory.closedGroups);
-    EXPECT_EQ(again.unreadNotices, 4);
+    EXPECT_EQ(again.unread, memory.unread);
     QFile file(QString::fromStdString(path));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("{\"window\":{\"tabs\":3");

@@ -82,6 +82,25 @@ TEST(TabSession, ComesBackAfterTheComponentWasRestarted)
     EXPECT_THAT(world.calls, ElementsAre("release", "ask", "embed 8", "show MainView"));
 }
 
+TEST(TabSession, AsksOnceWhenTheNewsOfTheReadyComponentComesAfterTheTabWasOpened)
+{
+    TabWorld world;
+    world.session.Open();
+    world.Enter(ComponentState::Ready);
+    EXPECT_THAT(world.calls, ElementsAre("ask"));
+}
+
+TEST(TabSession, WaitsForAComponentThatIsAboutToStart)
+{
+    TabWorld world;
+    world.OpenAndEmbed(7);
+    world.Enter(ComponentState::Stopped);
+    EXPECT_EQ(world.session.State(), TabState::Loading);
+    world.Enter(ComponentState::Starting);
+    world.Enter(ComponentState::Ready);
+    EXPECT_THAT(world.calls, ElementsAre("release", "release", "ask"));
+}
+
 TEST(TabSession, IgnoresAnswersThatComeTooLate)
 {
     TabWorld world;

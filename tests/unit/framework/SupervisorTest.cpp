@@ -69,7 +69,7 @@ public:
             return false;
         runs = true;
         if (life.ready)
-            timer.After(std::chrono::seconds(*life.ready), [this] { supervisor.OnReady(); });
+            timer.After(std::chrono::seconds(*life.ready), [this] { JoinAndBeReady(); });
         if (life.dies)
             timer.After(std::chrono::seconds(*life.dies), [this] { End("exit code 1"); });
         return true;
@@ -81,6 +81,12 @@ public:
             timer.After(1s, [this] { End("exit code 0"); });
     }
     void Kill() override { End("signal 9"); }
+
+    void JoinAndBeReady()
+    {
+        supervisor.OnJoined();
+        supervisor.OnReady();
+    }
 
     void End(const char* how)
     {
@@ -148,7 +154,8 @@ TEST(AComponent, ThatIsEndedOnPurposeIsNotStartedAgain)
         world.timer.Pass(2s);
         world.supervisor.Stop();
         bool isOver = false;
-        world.supervisor.WhenEnded([&] { isOver = true; });
+        world.supervisor.Finish([&] { isOver = true; });
+        world.supervisor.Start();
         EXPECT_FALSE(isOver);
         EXPECT_EQ(world.supervisor.State(), ComponentState::Stopped);
         world.timer.Pass(endsWhenAsked ? 1s : 4s);
@@ -207,6 +214,22 @@ TEST(AComponent, ThatLeftTheChannelButRunsOnIsKilled)
     world.timer.Pass(1s);
     EXPECT_FALSE(world.runs);
     EXPECT_EQ(world.supervisor.State(), ComponentState::Waiting);
+}
+
+TEST(AComponent, IsNotTakenForTheOneBeforeWhoseLinkIsClosedLate)
+{
+    World world({5, {}});
+    world.supervisor.Start();
+    world.timer.Pass(6s);
+    world.supervisor.Restart();
+    world.timer.Pass(1s);
+    ASSERT_EQ(world.starts.size(), 2u);
+    world.supervisor.OnReady();
+    world.supervisor.OnLeft();
+    EXPECT_EQ(world.supervisor.State(), ComponentState::Starting);
+    world.timer.Pass(100s);
+    EXPECT_EQ(world.starts.size(), 2u);
+    EXPECT_EQ(world.supervisor.State(), ComponentState::Ready);
 }
 
 TEST(TheNewestValue, IsPassedOnOnceAPeriod)
