@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
