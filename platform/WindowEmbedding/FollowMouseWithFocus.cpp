@@ -61,7 +61,7 @@ private:
     /// A dialog leaves the keyboard to nobody when there is no window manager that hands it on.
     void OnHide(const QWindow& dialog) const
     {
-        if (dialog.type() != Qt::Dialog || !native::NobodyIsFocused())
+        if (dialog.type() != Qt::Dialog || !native::IsFocusLost())
             return;
         const QWindow* next = dialog.transientParent() ? dialog.transientParent() : m_pressed.data();
         if (next && TakesFocus(*next))

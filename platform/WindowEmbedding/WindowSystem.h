@@ -45,8 +45,8 @@ void Map(WindowId window);
 /// Gives the window the keyboard. A watched window that got it before this call does not count as focused any
 /// more, even if the news comes later.
 void Focus(WindowId window);
-/// The keyboard goes to no window in particular.
-bool NobodyIsFocused();
+/// No window has the keyboard, and there is no window manager that would give it to one.
+bool IsFocusLost();
 
 enum class Change {
     Destroyed,

@@ -282,10 +282,12 @@ std::uint32_t PointerAndKeys::Atom(const char* name) const
 bool PointerAndKeys::HasWindowManager() const
 {
     xcb_connection_t* connection = m_state->connection;
-    const auto property =
-        Own(xcb_get_property_reply(connection,
-                                   xcb_get_property(connection, 0, m_state->root,
-                                                    Atom("_NET_SUPPORTING_WM_CHECK"), XCB_ATOM_WINDOW, 0, 1),
-                                   nullptr));
-    return property && property->value_len == 1;
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, m_state->root, 0, 0, 8, 8, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection, window);
+    const bool framed = WaitUntil([&] { return HolderOf(window) != 0; }, std::chrono::seconds(1));
+    xcb_destroy_window(connection, window);
+    xcb_flush(connection);
+    return framed;
 }

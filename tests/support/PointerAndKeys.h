@@ -76,6 +76,8 @@ public:
 
     /// Windows that stand on the screen and that no window manager touches, such as menus; lowest first.
     std::vector<Window> Popups() const;
+    /// Shows a window for a moment, and sees whether it gets a frame: a window manager that only just started
+    /// may announce itself and still miss windows. Takes a second when there is none.
     bool HasWindowManager() const;
 
 private:

@@ -142,12 +142,4 @@ void Map(WindowId window)
     xcb_flush(Connection());
 }
 
-bool NobodyIsFocused()
-{
-    const auto reply =
-        Own(xcb_get_input_focus_reply(Connection(), xcb_get_input_focus(Connection()), nullptr));
-    return reply && (reply->focus == XCB_INPUT_FOCUS_NONE || reply->focus == XCB_INPUT_FOCUS_POINTER_ROOT ||
-                     reply->focus == Root());
-}
-
 } // namespace embedding::native

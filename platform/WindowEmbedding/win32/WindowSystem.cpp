@@ -93,7 +93,7 @@ void Focus(WindowId window)
 }
 
 /// Windows gives the keyboard to a dialog's owner.
-bool NobodyIsFocused()
+bool IsFocusLost()
 {
     return false;
 }
