@@ -60,7 +60,7 @@ need_display() {
     local pipe
     pipe=$(mktemp -u "${TMPDIR:-/tmp}/vantor-display.XXXXXX")
     mkfifo -m 600 "$pipe"
-    Xvfb -displayfd 3 -screen 0 1600x1000x24 -dpi 96 -nolisten tcp 3>"$pipe" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 1600x1000x24 -dpi 96 -nolisten tcp -noreset 3>"$pipe" 2>/dev/null &
     XVFB_PID=$!
     DISPLAY=":$(timeout 20 head -n 1 "$pipe" || true)"
     rm -f "$pipe"
