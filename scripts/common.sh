@@ -54,12 +54,13 @@ build() {
 }
 
 # Starts an X server of our own where there is no display, on a number that it chooses itself.
+# Without -noreset it would start afresh, refusing clients meanwhile, whenever the last one leaves.
 need_display() {
     [ -z "${DISPLAY:-}" ] || return 0
     local pipe
     pipe=$(mktemp -u "${TMPDIR:-/tmp}/vantor-display.XXXXXX")
     mkfifo -m 600 "$pipe"
-    Xvfb -displayfd 3 -screen 0 1600x1000x24 -dpi 96 -nolisten tcp 3>"$pipe" 2>/dev/null &
+    Xvfb -displayfd 3 -screen 0 1600x1000x24 -dpi 96 -nolisten tcp -noreset 3>"$pipe" 2>/dev/null &
     XVFB_PID=$!
     DISPLAY=":$(timeout 20 head -n 1 "$pipe" || true)"
     rm -f "$pipe"

@@ -113,6 +113,7 @@ bool CWndIdManager::HideWnd(const std::string& name)
 
 std::vector<CComponentPage*> CWndIdManager::Pages() const
 {
+    WaitReady();
     std::vector<CComponentPage*> pages;
     for (const auto& window : m_windows)
         if (CComponentPage* const page = MadePage(window.first))
@@ -122,6 +123,7 @@ std::vector<CComponentPage*> CWndIdManager::Pages() const
 
 std::vector<std::string> CWndIdManager::Names() const
 {
+    WaitReady();
     std::vector<std::string> names;
     for (const auto& window : m_windows)
         names.push_back(window.first);

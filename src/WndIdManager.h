@@ -19,6 +19,9 @@ class CSystemconfigUIManager;
 /// A page is created, without being shown, when its identifier is first asked for, and lives to the end: one
 /// whose tab was closed is hidden, and found again. The settings pages belong to their own manager and are
 /// served here by their names. All functions but Init belong to the GUI thread.
+///
+/// An identifier fits the int that the channel carries: those of X11 have 29 bits, those of Windows 32 that
+/// matter.
 class CWndIdManager : Base::CNoncopyable
 {
 public:
@@ -32,7 +35,7 @@ public:
     static CWndIdManager& Instance();
     void SetPageFactory(PageFactory factory) { m_factory = std::move(factory); }
 
-    /// What a getter waits for before it looks at the pages: the end of Init on its worker.
+    /// What is waited for before anything looks at the table: the end of Init on its worker.
     void SetReadyWait(std::function<void()> wait) { m_waitReady = std::move(wait); }
 
     /// Start-up on a worker thread: draws up the table of windows. Creates no widget.

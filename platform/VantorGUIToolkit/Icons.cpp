@@ -1,18 +1,13 @@
 #include "VantorGUIToolkit/Icons.h"
 
 #include "Base/Log.h"
+#include "VantorSkin/SkinIcon.h"
 
-#include <QFile>
 #include <QSet>
 
 namespace VantorGUIToolkit {
 
 namespace {
-
-QString PathOf(const QString& name)
-{
-    return ":/VantorGUIToolKit/Icons/" + name + ".svg";
-}
 
 void WarnOnce(const QString& name)
 {
@@ -23,19 +18,11 @@ void WarnOnce(const QString& name)
     BASE_WARN("The skin has no icon [%s].", name.toUtf8().constData());
 }
 
-/// The picture of a suffix for the normal state; the others are the same for all.
 QIcon IconOf(const QString& name, const QString& suffix)
 {
-    if (!QFile::exists(PathOf(name + suffix))) {
+    const QIcon icon = skinIcon(name, suffix);
+    if (icon.isNull())
         WarnOnce(name);
-        return {};
-    }
-    QIcon icon(PathOf(name + suffix));
-    const std::pair<const char*, QIcon::Mode> variants[] = {{"-disabled", QIcon::Disabled},
-                                                            {"-selected", QIcon::Selected}};
-    for (const auto& [suffix, mode] : variants)
-        if (const QString path = PathOf(name + suffix); QFile::exists(path))
-            icon.addFile(path, {}, mode);
     return icon;
 }
 

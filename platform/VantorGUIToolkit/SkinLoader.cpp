@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "VantorGUIToolkit/Toolkit.h"
+#include "VantorGUIToolkit/WidgetManners.h"
 #include "VantorSkin/SkinPalette.h"
 
 #include <QApplication>
@@ -108,6 +109,7 @@ bool CSkinLoader::SetStyle()
 
 void CSkinLoader::ApplySheets(const QStringList& files)
 {
+    CWidgetManners::Install();
     qApp->setStyleSheet(m_toolkit.handleQssByInputParams(Joined(ToolkitSheets() + files)));
 }
 

@@ -45,7 +45,7 @@ public:
     bool SetStyle();
 
     /// Joins the toolkit's sheets (all of its folder but "MacSpecial.qss") and these files, fills their
-    /// markers and gives the result to the application.
+    /// markers and gives the result to the application, with the manners of widgets that they count on.
     void ApplySheets(const QStringList& files);
 
 private:

@@ -31,6 +31,7 @@ const Role kRoles[] = {
     {"accent-hover", QPalette::Highlight},
     {"accent-pressed", QPalette::Highlight},
     {"on-accent", QPalette::HighlightedText},
+    {"accent-line", QPalette::Highlight},
     {"accent-text", QPalette::Link},
     {"button", QPalette::Button},
     {"button-hover", QPalette::Midlight},
@@ -50,6 +51,7 @@ const Role kRoles[] = {
     {"info", QPalette::WindowText},
     {"info-soft", QPalette::Window},
     {"idle-soft", QPalette::Window},
+    {"video", QPalette::Shadow},
     {"overlay", QPalette::Window},
     {"tooltip", QPalette::ToolTipBase},
     {"on-tooltip", QPalette::ToolTipText},
@@ -139,8 +141,6 @@ std::optional<SkinPalette> SkinPalette::FromJson(const QByteArray& json, QString
             return Refuse(why, "no colour for the role " + role);
         palette.m_colors.insert(role, QColor(text));
     }
-    if (colors.size() != palette.m_colors.size())
-        return Refuse(why, "roles that no skin has");
     return palette;
 }
 

@@ -21,8 +21,9 @@ public:
     /// A larger document is refused.
     static constexpr int kMaxBytes = 64 * 1024;
 
-    /// Reads {"name": "...", "roles": {"role": "#RRGGBB" or "#AARRGGBB", ...}}. Every role has to be there
-    /// and no other. Nothing, and the reason in why, when the document is anything else.
+    /// Reads {"name": "...", "roles": {"role": "#RRGGBB" or "#AARRGGBB", ...}}. Every role has to be there;
+    /// others are left aside, so that a package may be newer than the program or its style. Nothing, and the
+    /// reason in why, when the document is anything else.
     static std::optional<SkinPalette> FromJson(const QByteArray& json, QString& why);
 
     /// The same from a file or resource.

@@ -1,9 +1,11 @@
 #include "VantorStyle/VantorStyle.h"
 
+#include "VantorSkin/SkinIcon.h"
+
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QListView>
@@ -18,6 +20,7 @@
 
 #include <map>
 
+using VantorGUIToolkit::skinIcon;
 using VantorGUIToolkit::SkinPalette;
 
 namespace {
@@ -113,21 +116,6 @@ const std::map<QStyle::StandardPixmap, std::pair<const char*, const char*>> kMir
     {QStyle::SP_ToolBarHorizontalExtensionButton, {"chevron-right", "chevron-left"}},
 };
 
-QString IconFile(const QString& name)
-{
-    return ":/VantorGUIToolKit/Icons/" + name + ".svg";
-}
-
-QIcon SkinIcon(const QString& name)
-{
-    if (!QFile::exists(IconFile(name)))
-        return {};
-    QIcon icon(IconFile(name));
-    icon.addFile(IconFile(name + "-disabled"), {}, QIcon::Disabled);
-    icon.addFile(IconFile(name + "-selected"), {}, QIcon::Selected);
-    return icon;
-}
-
 bool IsMirrored(const QStyleOption* option, const QWidget* widget)
 {
     if (option)
@@ -138,9 +126,9 @@ bool IsMirrored(const QStyleOption* option, const QWidget* widget)
 QIcon IconOf(QStyle::StandardPixmap standard, bool mirrored)
 {
     if (const auto pair = kMirroredIcons.find(standard); pair != kMirroredIcons.end())
-        return SkinIcon(mirrored ? pair->second.second : pair->second.first);
+        return skinIcon(mirrored ? pair->second.second : pair->second.first);
     const auto icon = kIcons.find(standard);
-    return icon == kIcons.end() ? QIcon() : SkinIcon(icon->second);
+    return icon == kIcons.end() ? QIcon() : skinIcon(icon->second);
 }
 
 int PictureSize(QStyle::StandardPixmap standard)
@@ -166,21 +154,28 @@ void DrawRing(QPainter* painter, const QRect& around, const QColor& color)
     painter->restore();
 }
 
-// Days off are told by a quieter colour; Qt's own bright red can't be read on dark surfaces.
+// Days off are told by a quieter colour; Qt's own bright red can't be read on dark surfaces. Short names of
+// days have more than one word in some languages.
 void DressCalendar(QCalendarWidget* calendar, const SkinPalette& colors)
 {
-    QTextCharFormat format;
-    format.setForeground(colors.Color("text-secondary"));
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
-        calendar->setWeekdayTextFormat(day, format);
+    const QList<Qt::DayOfWeek> workdays = calendar->locale().weekdays();
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        const auto weekday = static_cast<Qt::DayOfWeek>(day);
+        QTextCharFormat format;
+        format.setForeground(colors.Color(workdays.contains(weekday) ? "text" : "text-secondary"));
+        calendar->setWeekdayTextFormat(weekday, format);
+    }
+    calendar->setHorizontalHeaderFormat(QCalendarWidget::SingleLetterDayNames);
+    calendar->setAttribute(Qt::WA_StyledBackground);
+    calendar->setContentsMargins(1, 1, 1, 1); // the frame that the style sheet draws
 }
 
 // The delegate that Qt gives the list of a combo box leaves style sheets aside; one that a page has set
-// stays.
-void DressComboList(QAbstractItemView* list)
+// stays. The list is measured before it is polished, so this can't wait for it.
+void DressComboList(QComboBox* box)
 {
-    if (list->itemDelegate()->inherits("QComboBoxDelegate"))
-        list->setItemDelegate(new QStyledItemDelegate(list));
+    if (box->itemDelegate()->inherits("QComboBoxDelegate"))
+        box->setItemDelegate(new QStyledItemDelegate(box));
 }
 
 // Views keep the heights that rows had before the sheet was known.
@@ -245,6 +240,17 @@ void CVantorStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* o
         QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+// Sheets put the text of a button with an icon to the icon's side by themselves where the layout runs from
+// right to left, and the painter would turn it around once more.
+void CVantorStyle::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
+                                bool enabled, const QString& text, QPalette::ColorRole role) const
+{
+    const bool besideIcon = painter->layoutDirection() == Qt::RightToLeft &&
+                            (flags & Qt::TextShowMnemonic) != 0 && (flags & Qt::AlignRight) != 0;
+    QProxyStyle::drawItemText(painter, place, besideIcon ? flags | Qt::AlignAbsolute : flags, palette,
+                              enabled, text, role);
+}
+
 void CVantorStyle::polish(QWidget* widget)
 {
     QProxyStyle::polish(widget);
@@ -254,8 +260,8 @@ void CVantorStyle::polish(QWidget* widget)
         header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     if (qobject_cast<QTreeView*>(widget) || qobject_cast<QListView*>(widget))
         MeasureRowsAgain(static_cast<QAbstractItemView*>(widget));
-    if (widget->inherits("QComboBoxListView"))
-        DressComboList(static_cast<QAbstractItemView*>(widget));
+    if (auto* box = qobject_cast<QComboBox*>(widget))
+        DressComboList(box);
     if (auto* calendar = qobject_cast<QCalendarWidget*>(widget); calendar && m_colors)
         DressCalendar(calendar, *m_colors);
 }

@@ -24,6 +24,8 @@ public:
     QPalette standardPalette() const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+    void drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette, bool enabled,
+                      const QString& text, QPalette::ColorRole role) const override;
 
     using QProxyStyle::polish;
     using QProxyStyle::unpolish;

@@ -38,19 +38,38 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (watched->isWindowType() && event->type() == QEvent::MouseButtonPress)
+        if (!watched->isWindowType())
+            return false;
+        if (event->type() == QEvent::MouseButtonPress)
             OnPress(*TopLevelOf(static_cast<QWindow*>(watched)));
+        else if (event->type() == QEvent::Hide)
+            OnHide(*static_cast<QWindow*>(watched));
         return false;
     }
 
 private:
-    static void OnPress(QWindow& window)
+    void OnPress(QWindow& window)
     {
         if (!TakesFocus(window))
             return;
+        if (window.type() != Qt::Dialog)
+            m_pressed = &window;
         window.setProperty(kFocusedGuest, QVariant());
         native::Focus(window.winId());
     }
+
+    /// A dialog leaves the keyboard to nobody when there is no window manager that hands it on.
+    void OnHide(const QWindow& dialog) const
+    {
+        if (dialog.type() != Qt::Dialog || !native::IsFocusLost())
+            return;
+        const QWindow* next = dialog.transientParent() ? dialog.transientParent() : m_pressed.data();
+        if (next && TakesFocus(*next))
+            native::Focus(next->winId());
+    }
+
+    /// The window that was used last, dialogs left out.
+    QPointer<QWindow> m_pressed;
 };
 
 /// The window manager focuses the host's window, of whose guests it knows nothing. Qt would tell of this too

@@ -41,16 +41,17 @@ std::optional<Area> AreaOnScreen(WindowId window);
 void Fit(WindowId window, const Area& holderOnScreen);
 
 void Map(WindowId window);
+
 /// Gives the window the keyboard. A watched window that got it before this call does not count as focused any
 /// more, even if the news comes later.
 void Focus(WindowId window);
+/// No window has the keyboard, and there is no window manager that would give it to one.
+bool IsFocusLost();
 
 enum class Change {
     Destroyed,
     /// Another window holds it, or none does.
     Moved,
-    /// It has another size, or another place in its holder.
-    Resized,
     Mapped,
     Focused,
 };

@@ -587,7 +587,7 @@ It scrolls when it is too long for its field.</source>
     </message>
     <message>
         <source>No schedule is active.</source>
-        <translation>لا يوجد جدول مفعّل.</translation>
+        <translation>لا يوجد جدول زمني مفعّل.</translation>
     </message>
     <message>
         <source>Try again</source>

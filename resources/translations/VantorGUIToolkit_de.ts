@@ -326,7 +326,7 @@
     </message>
     <message>
         <source>A job runs already</source>
-        <translation>Es läuft schon eine Aufgabe</translation>
+        <translation>Es läuft bereits eine Aufgabe</translation>
     </message>
 </context>
 <context>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Read-only</source>
-        <translation>Nur lesbar</translation>
+        <translation>Schreibgeschützt</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>Line edits: empty, filled, read-only, disabled, invalid</source>
-        <translation>Eingabezeilen: leer, gefüllt, nur lesbar, inaktiv, ungültig</translation>
+        <translation>Eingabefelder: leer, gefüllt, schreibgeschützt, inaktiv, ungültig</translation>
     </message>
     <message>
         <source>Entrance, second floor, camera at the north gate</source>
@@ -478,7 +478,7 @@
     </message>
     <message>
         <source>Fraction</source>
-        <translation>Bruchzahl</translation>
+        <translation>Dezimalzahl</translation>
     </message>
     <message>
         <source>Date</source>
@@ -508,7 +508,7 @@
         <source>A text of several lines.
 It scrolls when it is too long for its field.</source>
         <translation>Ein Text aus mehreren Zeilen.
-Er rollt, wenn er für sein Feld zu lang ist.</translation>
+Er lässt sich scrollen, wenn er für sein Feld zu lang ist.</translation>
     </message>
     <message>
         <source>Texts of several lines</source>
@@ -555,7 +555,7 @@ Er rollt, wenn er für sein Feld zu lang ist.</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation>Nimmt auf</translation>
+        <translation>Aufnahme läuft</translation>
     </message>
     <message>
         <source>Unused</source>
@@ -563,11 +563,11 @@ Er rollt, wenn er für sein Feld zu lang ist.</translation>
     </message>
     <message>
         <source>Badges</source>
-        <translation>Marken</translation>
+        <translation>Statusmarken</translation>
     </message>
     <message>
         <source>Banners</source>
-        <translation>Meldungszeilen</translation>
+        <translation>Meldungsleisten</translation>
     </message>
     <message>
         <source>The settings are saved on all devices.</source>
@@ -635,7 +635,7 @@ Er rollt, wenn er für sein Feld zu lang ist.</translation>
     </message>
     <message>
         <source>Notices at the bottom right of the screen</source>
-        <translation>Mitteilungen rechts unten am Bildschirm</translation>
+        <translation>Mitteilungen unten rechts auf dem Bildschirm</translation>
     </message>
     <message>
         <source>No cameras</source>
@@ -691,7 +691,7 @@ Er rollt, wenn er für sein Feld zu lang ist.</translation>
     <name>VantorGUIToolkit::CSearchEdit</name>
     <message>
         <source>Clear</source>
-        <translation>Löschen</translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Search</source>

@@ -322,7 +322,7 @@
     </message>
     <message>
         <source>Processing</source>
-        <translation>מעבד</translation>
+        <translation>מתבצע עיבוד</translation>
     </message>
     <message>
         <source>A job runs already</source>
@@ -535,7 +535,7 @@ It scrolls when it is too long for its field.</source>
     </message>
     <message>
         <source>A hint that helps with a field.</source>
-        <translation>רמז שעוזר במילוי שדה.</translation>
+        <translation>הסבר שעוזר במילוי שדה.</translation>
     </message>
     <message>
         <source>What is wrong with a field.</source>
@@ -643,7 +643,7 @@ It scrolls when it is too long for its field.</source>
     </message>
     <message>
         <source>Add a device to see its cameras here.</source>
-        <translation>הוסיפו מכשיר כדי לראות כאן את המצלמות שלו.</translation>
+        <translation>יש להוסיף מכשיר כדי לראות כאן את המצלמות שלו.</translation>
     </message>
     <message>
         <source>Add a device</source>

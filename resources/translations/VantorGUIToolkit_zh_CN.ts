@@ -527,7 +527,7 @@ It scrolls when it is too long for its field.</source>
     </message>
     <message>
         <source>Heading of a section</source>
-        <translation>章节标题</translation>
+        <translation>分区标题</translation>
     </message>
     <message>
         <source>A sentence of plain text.</source>
@@ -563,7 +563,7 @@ It scrolls when it is too long for its field.</source>
     </message>
     <message>
         <source>Badges</source>
-        <translation>标签</translation>
+        <translation>状态标签</translation>
     </message>
     <message>
         <source>Banners</source>

@@ -1,7 +1,10 @@
 #include "support/PointerAndKeys.h"
 
+#include "support/WaitUntil.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <xcb/xcb.h>
@@ -75,11 +78,28 @@ void PointerAndKeys::Click(int x, int y)
     MoveTo(x, y);
     Send(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1);
     Send(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1);
+    EXPECT_TRUE(WaitUntil([&] { return !IsButtonDown(); })) << "the click was not passed on";
+}
+
+// The server holds the release back while a window manager thinks about the press.
+bool PointerAndKeys::IsButtonDown() const
+{
+    xcb_connection_t* connection = m_state->connection;
+    const auto pointer =
+        Own(xcb_query_pointer_reply(connection, xcb_query_pointer(connection, m_state->root), nullptr));
+    return pointer && (pointer->mask & XCB_KEY_BUT_MASK_BUTTON_1) != 0;
 }
 
 void PointerAndKeys::Press(Key key)
 {
     PressKeysym(key);
+}
+
+void PointerAndKeys::PressWith(Key modifier, std::uint32_t key)
+{
+    Send(XCB_KEY_PRESS, KeyCode(modifier));
+    PressKeysym(key);
+    Send(XCB_KEY_RELEASE, KeyCode(modifier));
 }
 
 void PointerAndKeys::Type(const std::string& text)
@@ -133,6 +153,20 @@ PointerAndKeys::Window PointerAndKeys::HolderOf(Window window) const
     return !tree || tree->parent == tree->root ? 0 : tree->parent;
 }
 
+bool PointerAndKeys::IsAbove(Window one, Window other) const
+{
+    const auto outermost = [this](Window window) {
+        while (const Window holder = HolderOf(window))
+            window = holder;
+        return window;
+    };
+    const auto tree = m_state->Tree(m_state->root);
+    const xcb_window_t* lowest = xcb_query_tree_children(tree.get());
+    const xcb_window_t* end = lowest + xcb_query_tree_children_length(tree.get());
+    const xcb_window_t* found = std::find(lowest, end, outermost(one));
+    return found != end && found > std::find(lowest, end, outermost(other));
+}
+
 PointerAndKeys::Window PointerAndKeys::Focused() const
 {
     xcb_connection_t* connection = m_state->connection;
@@ -155,16 +189,105 @@ std::vector<PointerAndKeys::Window> PointerAndKeys::Popups() const
     return popups;
 }
 
+PointerAndKeys::Window PointerAndKeys::TopLevelOf(Window window) const
+{
+    Window top = 0;
+    for (; window != 0; window = HolderOf(window)) {
+        const auto owner = Own(xcb_get_property_reply(
+            m_state->connection,
+            xcb_get_property(m_state->connection, 0, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING, 0, 1),
+            nullptr));
+        if (owner && owner->value_len != 0)
+            top = window;
+    }
+    return top;
+}
+
+void PointerAndKeys::Place(Window window, const Area& area)
+{
+    const std::uint32_t values[] = {static_cast<std::uint32_t>(area.x), static_cast<std::uint32_t>(area.y),
+                                    static_cast<std::uint32_t>(area.width),
+                                    static_cast<std::uint32_t>(area.height)};
+    xcb_configure_window(m_state->connection, window,
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH |
+                             XCB_CONFIG_WINDOW_HEIGHT,
+                         values);
+    xcb_flush(m_state->connection);
+}
+
+void PointerAndKeys::AskToClose(Window window)
+{
+    xcb_client_message_event_t request = {};
+    request.response_type = XCB_CLIENT_MESSAGE;
+    request.format = 32;
+    request.window = window;
+    request.type = Atom("WM_PROTOCOLS");
+    request.data.data32[0] = Atom("WM_DELETE_WINDOW");
+    xcb_send_event(m_state->connection, 0, window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char*>(&request));
+    xcb_flush(m_state->connection);
+}
+
+PointerAndKeys::Picture PointerAndKeys::PictureOf(const Area& area) const
+{
+    xcb_connection_t* connection = m_state->connection;
+    const auto image = Own(xcb_get_image_reply(
+        connection,
+        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, m_state->root, static_cast<int16_t>(area.x),
+                      static_cast<int16_t>(area.y), static_cast<uint16_t>(area.width),
+                      static_cast<uint16_t>(area.height), ~0U),
+        nullptr));
+    if (!image)
+        return {};
+    Picture picture(static_cast<std::size_t>(xcb_get_image_data_length(image.get())) /
+                    sizeof(Picture::value_type));
+    std::memcpy(picture.data(), xcb_get_image_data(image.get()),
+                picture.size() * sizeof(Picture::value_type));
+    return picture;
+}
+
+std::string PointerAndKeys::CopiedText() const
+{
+    xcb_connection_t* connection = m_state->connection;
+    const Window taker = xcb_generate_id(connection);
+    const std::uint32_t type = Atom("UTF8_STRING");
+    const std::uint32_t place = Atom("COPIED_TEXT");
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, taker, m_state->root, 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_convert_selection(connection, taker, Atom("CLIPBOARD"), type, place, XCB_CURRENT_TIME);
+    std::string text;
+    WaitUntil(
+        [&] {
+            const auto property = Own(xcb_get_property_reply(
+                connection, xcb_get_property(connection, 0, taker, place, type, 0, 1024), nullptr));
+            if (!property || property->type != type)
+                return false;
+            text.assign(static_cast<const char*>(xcb_get_property_value(property.get())),
+                        static_cast<std::size_t>(xcb_get_property_value_length(property.get())));
+            return true;
+        },
+        std::chrono::seconds(1));
+    xcb_destroy_window(connection, taker);
+    return text;
+}
+
+std::uint32_t PointerAndKeys::Atom(const char* name) const
+{
+    xcb_connection_t* connection = m_state->connection;
+    const auto atom = Own(xcb_intern_atom_reply(
+        connection, xcb_intern_atom(connection, 0, static_cast<uint16_t>(std::strlen(name)), name), nullptr));
+    return atom ? atom->atom : std::uint32_t{XCB_ATOM_NONE};
+}
+
 bool PointerAndKeys::HasWindowManager() const
 {
     xcb_connection_t* connection = m_state->connection;
-    const char name[] = "_NET_SUPPORTING_WM_CHECK";
-    const auto atom = Own(xcb_intern_atom_reply(
-        connection, xcb_intern_atom(connection, 1, static_cast<uint16_t>(std::strlen(name)), name), nullptr));
-    if (!atom || atom->atom == XCB_ATOM_NONE)
-        return false;
-    const auto property = Own(xcb_get_property_reply(
-        connection, xcb_get_property(connection, 0, m_state->root, atom->atom, XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    return property && property->value_len == 1;
+    const xcb_window_t window = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, window, m_state->root, 0, 0, 8, 8, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection, window);
+    const bool framed = WaitUntil([&] { return HolderOf(window) != 0; }, std::chrono::seconds(1));
+    xcb_destroy_window(connection, window);
+    xcb_flush(connection);
+    return framed;
 }

@@ -25,23 +25,24 @@ std::string DisplayNumber(const std::string& output)
 
 } // namespace
 
-PrivateDisplay::PrivateDisplay(WindowManager manager)
+PrivateDisplay::PrivateDisplay(WindowManager manager, int dpi)
 {
     namespace fs = std::filesystem;
     const std::string output =
         (fs::temp_directory_path() / ("vantor-display-" + std::to_string(getpid()))).string();
-    StartServer(output);
+    StartServer(output, dpi);
     if (!m_name.empty() && manager == WindowManager::Openbox)
         StartManager(output);
     std::error_code ignored;
     fs::remove(output, ignored);
 }
 
-void PrivateDisplay::StartServer(const std::string& output)
+void PrivateDisplay::StartServer(const std::string& output, int dpi)
 {
     std::string error;
-    const bool started = m_server.Start(
-        {"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-nolisten", "tcp"}, output, error);
+    const bool started = m_server.Start({"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-dpi",
+                                         std::to_string(dpi), "-nolisten", "tcp"},
+                                        output, error);
     std::string number;
     if (!started || !WaitUntil([&] { return !(number = DisplayNumber(output)).empty(); })) {
         ADD_FAILURE() << "no X server: " << error;

@@ -11,13 +11,14 @@ public:
     enum class WindowManager { None, Openbox };
 
     /// Sets DISPLAY for the programs started from now on. A test failure when the server does not come up.
-    explicit PrivateDisplay(WindowManager manager = WindowManager::None);
+    /// dpi: the screen's pixels per inch; at 96 programs are not scaled.
+    explicit PrivateDisplay(WindowManager manager = WindowManager::None, int dpi = 96);
 
     /// ":17"; empty when the server did not come up.
     const std::string& Name() const { return m_name; }
 
 private:
-    void StartServer(const std::string& output);
+    void StartServer(const std::string& output, int dpi);
     void StartManager(const std::string& output);
 
     std::string m_name;

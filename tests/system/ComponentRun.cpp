@@ -39,7 +39,7 @@ bool WaitUntil(Condition condition, int seconds)
 
 } // namespace
 
-ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir())
+ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir()), m_program(m_bin + "Vantor.Video.C")
 {
     // The log holds the message alone, so that it can be compared word for word.
     std::filesystem::create_directories(DataPath());
@@ -51,6 +51,16 @@ ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir())
            "log4j.appender.file.layout.ConversionPattern=%m%n\n";
     if (!std::getenv("DISPLAY"))
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
+}
+
+void ComponentRun::LeaveLooksOut()
+{
+    const std::string bin = Path() + "copy/bin/";
+    std::filesystem::create_directories(bin);
+    for (const char* folder : {"maintain", "WidgetLayout"})
+        std::filesystem::create_directory_symlink(m_bin + folder, bin + folder);
+    std::filesystem::copy_file(m_program, bin + "Vantor.Video.C");
+    m_program = bin + "Vantor.Video.C";
 }
 
 int ComponentRun::Play(const std::string& script)

@@ -21,7 +21,10 @@ public:
     /// one.
     int Shell(const std::string& command) const;
 
-    std::string Program() const { return m_bin + "Vantor.Video.C"; }
+    /// From now on runs a copy of the component that has neither skins, style nor translations beside it.
+    void LeaveLooksOut();
+
+    std::string Program() const { return m_program; }
     /// The command that starts the component with the usual arguments.
     std::string Component() const;
     std::string HostCommand(const std::string& scriptPath, const std::string& options = "") const;
@@ -49,4 +52,5 @@ public:
 private:
     TestDataRoot m_root;
     std::string m_bin;
+    std::string m_program;
 };

@@ -13,6 +13,7 @@
 #include <thread>
 
 using testing::Contains;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
@@ -23,14 +24,13 @@ const std::vector<std::string> kParameters = {
     "InitSysParameter:in0", "InitSysParameter:in1", "InitSysParameter:in2", "fInitReportManager async start",
     "InitSysParameter:list-BlackRedSkin 1 0 0 0 0,skin-BlackRedSkin,lan-1,vers-0"};
 
-const std::vector<std::string> kStagesBeforeDatabase = {"fInitDatabase async start.",
-                                                        "RemoteConfigController CreateInstance",
-                                                        "RemoteConfigController InitRemoteConfig",
-                                                        "LoadConfigFile Success.",
-                                                        "LoadFont Success.",
-                                                        "LoadSkin Success.",
-                                                        "LoadStyle Success.",
-                                                        "InitGuiToolKit Success."};
+const std::vector<std::string> kStagesBeforeDatabase = {
+    "fInitDatabase async start.", "RemoteConfigController CreateInstance",
+    "RemoteConfigController InitRemoteConfig", "LoadConfigFile Success.", "LoadFont Success."};
+
+const std::vector<std::string> kLook = {"success to load VantorGUIToolKitBlackRedSkin.",
+                                        "success to load ClientCommSkin.", "LoadSkin Success.",
+                                        "LoadStyle Success.", "InitGuiToolKit Success."};
 
 const std::vector<std::string> kStagesAfterDatabase = {
     "m_fInitWinIDAndSystemManager async start.", "InitManager Success.", "fInitMultimediaComm async start.",
@@ -81,6 +81,7 @@ TEST(TheComponent, StartsAndEndsInItsOrder)
     ASSERT_EQ(framework.get(), 0) << run.Output();
     EXPECT_THAT(run.MissingInOrder(Join({kParameters,
                                          kStagesBeforeDatabase,
+                                         kLook,
                                          kStagesAfterDatabase,
                                          {"alarmRegisteredRet async start."},
                                          kReady,
@@ -111,6 +112,7 @@ TEST(TheComponent, EndsWithMinusOneWhenItsDatabaseIsNotSound)
     ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();
     EXPECT_THAT(run.MissingInOrder(Join({kParameters,
                                          kStagesBeforeDatabase,
+                                         kLook,
                                          kUnInit,
                                          {"UnititLogical Success.", "UninitLibxml2 Success."}})),
                 IsEmpty());
@@ -120,6 +122,39 @@ TEST(TheComponent, EndsWithMinusOneWhenItsDatabaseIsNotSound)
                               "UNInitVantorApplication success"})
         EXPECT_THAT(run.LogMessages(), Not(Contains(never)));
     EXPECT_EQ(std::filesystem::file_size(run.DataPath() + "VideoSystem"), 8192u);
+}
+
+/// What the component writes to its error output at the load of a package.
+std::string PackageLine(const ComponentRun& run, const char* package, const char* end)
+{
+    const auto bin = std::filesystem::path(run.Program()).parent_path();
+    return "---scc--- LoadSkin = " + (bin / "../plugins/skins" / package).string() + end;
+}
+
+TEST(TheComponent, LoadsThePackagesOfItsSkin)
+{
+    ComponentRun run;
+    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    for (const char* package : {"VantorGUIToolKitBlackRedSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
+        EXPECT_THAT(run.Output(), HasSubstr(PackageLine(run, package, " Success")));
+    EXPECT_THAT(run.Output(), Not(HasSubstr("CVantorStyle")));
+}
+
+TEST(TheComponent, StartsWithoutAnyLooksAndSaysWhatIsMissing)
+{
+    ComponentRun run;
+    run.LeaveLooksOut();
+    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
+    EXPECT_THAT(run.MissingInOrder(
+                    Join({kStagesBeforeDatabase,
+                          {"fail to load VantorGUIToolKitBlackRedSkin.", "Failed to load ClientCommSkin.",
+                           "LoadSkin Success.", "LoadStyle Success.", "InitGuiToolKit Success."},
+                          kReady})),
+                IsEmpty());
+    for (const char* package : {"VantorGUIToolKitBlackRedSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
+        EXPECT_THAT(run.Output(), HasSubstr(PackageLine(run, package, " failed")));
+    EXPECT_THAT(run.Output(),
+                HasSubstr("[scc][CVantorApplication::LoadStyle]The CVantorStyle does not exist."));
 }
 
 TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)

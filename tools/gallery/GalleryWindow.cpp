@@ -9,6 +9,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QScreen>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -21,13 +22,14 @@ GalleryWindow::GalleryWindow(const Options& options) : m_skin(options.skin), m_l
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     Rebuild();
-    resize(1280, 900);
+    resize(QSize(1280, 900).boundedTo(screen()->availableSize()));
 }
 
 // Texts, icons and directions are taken when a widget is made, so everything is made anew.
 void GalleryWindow::Rebuild()
 {
     TakeLook(m_skin, m_language);
+    setLocale(QLocale());
     delete m_content;
     m_content = new QWidget(this);
     auto* column = new QVBoxLayout(m_content);

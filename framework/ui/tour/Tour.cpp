@@ -1,5 +1,6 @@
 #include "framework/ui/tour/Tour.h"
 
+#include "framework/core/FrameworkCore.h"
 #include "framework/ui/parts/WindowTable.h"
 #include "framework/ui/shell/ComponentTab.h"
 #include "framework/ui/shell/MainWindow.h"
@@ -54,7 +55,9 @@ void CTour::Look()
     const QString pending = m_steps[m_at].pending();
     if (!pending.isEmpty()) {
         m_sinceReady.invalidate();
-        if (m_sinceBegin.elapsed() > kStepMs)
+        if (m_stage.core.State() == ComponentState::GivenUp)
+            EndEarly(pending);
+        else if (m_sinceBegin.elapsed() > kStepMs)
             EndStep(pending);
         return;
     }
@@ -62,6 +65,15 @@ void CTour::Look()
         m_sinceReady.start();
     if (m_sinceReady.elapsed() >= kSettleMs)
         TakePicture();
+}
+
+// Nothing more can be seen of a component that is not started any more.
+void CTour::EndEarly(const QString& problem)
+{
+    const int left = static_cast<int>(m_steps.size() - m_at) - 1;
+    m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(m_at) + 1, m_steps.end());
+    EndStep(problem);
+    std::printf("The component does not run: %d steps were left out.\n", left);
 }
 
 void CTour::TakePicture()

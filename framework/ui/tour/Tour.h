@@ -33,6 +33,7 @@ private:
     bool IsBlank(const QImage& screen) const;
     void CountPages();
     void EndStep(const QString& problem);
+    void EndEarly(const QString& problem);
     void Summarise();
 
     const TourStage m_stage;

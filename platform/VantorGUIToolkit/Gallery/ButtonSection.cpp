@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QToolButton>
@@ -74,6 +75,9 @@ void CButtonSection::AddPushButtons()
     AddCaption(tr("Push buttons, enabled and disabled"));
     AddRow(enabled);
     AddRow(disabled);
+    QPushButton* wide = makeButton(tr("With icon"), ButtonKind::Normal, this);
+    wide->setIcon(icon("add"));
+    AddWide(wide);
 }
 
 void CButtonSection::AddToolButtons()
@@ -113,8 +117,13 @@ void CButtonSection::AddMenu()
     QPushButton* button = makeButton(tr("Menu"), ButtonKind::Normal, this);
     button->setObjectName("galleryMenuButton");
     button->setMenu(menu);
+    auto* bar = new QMenuBar(this);
+    bar->setNativeMenuBar(false);
+    bar->addMenu(menu)->setText(tr("Menu"));
+    bar->addAction(tr("Settings"));
     AddCaption(tr("A menu with icons, shortcuts and a sub-menu"));
     AddRow({button, choice});
+    AddWide(bar);
 }
 
 void CButtonSection::AddChecks()

@@ -119,7 +119,10 @@ void CInputSection::AddNumbers()
     auto* progress = Named(new QProgressBar(this), tr("Progress"));
     progress->setMinimumWidth(160);
     progress->setValue(65);
-    AddRow({slider, disabledSlider, progress});
+    auto* vertical = Named(new QSlider(Qt::Vertical, this), tr("Volume"));
+    vertical->setFixedHeight(80);
+    vertical->setValue(40);
+    AddRow({slider, disabledSlider, progress, vertical});
 }
 
 void CInputSection::AddTexts()

@@ -17,7 +17,7 @@ CBanner::CBanner(const QString& text, Tone tone, QWidget* parent)
     m_action->hide();
     connect(m_action, &QPushButton::clicked, this, &CBanner::SignalAction);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Grid::Large, Grid::Small, Grid::Small, Grid::Small);
+    setReadingMargins(row, this, Grid::Large, Grid::Tight, Grid::Small, Grid::Tight);
     row->setSpacing(Grid::Small);
     row->addWidget(m_icon);
     row->addWidget(m_text, 1);

@@ -38,7 +38,7 @@ QWidget* CDialog::MakeTitleBar(const QString& title)
     bar->setObjectName("dialogTitleBar");
     bar->installEventFilter(this);
     auto* row = new QHBoxLayout(bar);
-    row->setContentsMargins(Grid::Wide, Grid::Small, Grid::Small, Grid::Small);
+    setReadingMargins(row, bar, Grid::Wide, Grid::Small, Grid::Small, Grid::Small);
     QLabel* label = makeLabel(title, TextRole::Heading, bar);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     row->addWidget(label, 1);
@@ -52,7 +52,6 @@ QWidget* CDialog::MakeTitleBar(const QString& title)
 QPushButton* CDialog::AddButton(const QString& text, ButtonKind kind)
 {
     QPushButton* button = makeButton(text, kind, this);
-    button->setMinimumWidth(88);
     m_buttons->addWidget(button);
     if (kind == ButtonKind::Primary || (kind == ButtonKind::Danger && !m_primary)) {
         button->setDefault(true);

@@ -4,6 +4,7 @@
 #include "VantorGUIToolkit/Restyle.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVariant>
@@ -159,6 +160,12 @@ QLabel* makeIconLabel(const QString& iconName, int size, QWidget* parent)
     label->setPixmap(icon(iconName).pixmap(size, size));
     label->setFixedSize(size, size);
     return label;
+}
+
+void setReadingMargins(QLayout* layout, const QWidget* widget, int start, int top, int end, int bottom)
+{
+    const bool mirrored = widget->isRightToLeft();
+    layout->setContentsMargins(mirrored ? end : start, top, mirrored ? start : end, bottom);
 }
 
 QString breakable(const QString& text)

@@ -3,6 +3,7 @@
 #include <QString>
 
 class QLabel;
+class QLayout;
 class QPushButton;
 class QToolButton;
 class QWidget;
@@ -50,6 +51,10 @@ QToolButton* makeIconButton(const QString& iconName, const QString& name, QWidge
 
 /// A label that shows an icon of the skin, of size x size device-independent pixels.
 QLabel* makeIconLabel(const QString& iconName, int size, QWidget* parent);
+
+/// Margins by the direction of reading; those that Qt lets one set are not mirrored. The widget is the one
+/// that the layout arranges.
+void setReadingMargins(QLayout* layout, const QWidget* widget, int start, int top, int end, int bottom);
 
 /// The text with places to break put into words that are longer than a line, such as paths and identifiers.
 QString breakable(const QString& text);

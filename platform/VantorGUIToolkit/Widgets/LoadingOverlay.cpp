@@ -20,6 +20,9 @@ namespace {
 /// A job that ends sooner is not worth a flicker.
 constexpr int kRevealAfterMs = 150;
 
+/// Of the panel, so that it keeps its form around one short word.
+constexpr int kLeastWidth = 160;
+
 const QString kMovie = QStringLiteral(":/VantorGUIToolkit/Dialog/Images/Dialog/Loading.gif");
 
 void RunCaught(const std::function<void()>& job)
@@ -57,7 +60,11 @@ bool IsInput(QEvent::Type type)
     case QEvent::MouseButtonDblClick:
     case QEvent::Wheel:
     case QEvent::ContextMenu:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
     case QEvent::DragEnter:
+    case QEvent::DragMove:
     case QEvent::Drop:
         return true;
     default:
@@ -89,14 +96,15 @@ CLoadingOverlay::CLoadingOverlay(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSurface(m_panel, Surface::Card);
     m_panel->setObjectName("loadingPanel");
+    m_panel->setMinimumWidth(kLeastWidth);
     auto* picture = new QLabel(m_panel);
     picture->setMovie(m_movie);
     picture->setAlignment(Qt::AlignCenter);
     m_text->setAlignment(Qt::AlignCenter);
     m_text->setObjectName("loadingText");
     auto* column = new QVBoxLayout(m_panel);
-    column->setContentsMargins(Grid::Huge, Grid::Large, Grid::Huge, Grid::Large);
-    column->setSpacing(Grid::Small);
+    column->setContentsMargins(Grid::Huge, Grid::Wide, Grid::Huge, Grid::Wide);
+    column->setSpacing(Grid::Medium);
     column->addWidget(picture);
     column->addWidget(m_text);
     auto* outer = new QVBoxLayout(this);
@@ -136,8 +144,8 @@ bool CLoadingOverlay::Run(const QString& text, std::function<void()> job)
 
 void CLoadingOverlay::Cover()
 {
-    while (QWidget* popup = QApplication::activePopupWidget())
-        popup->close();
+    for (QWidget* popup = QApplication::activePopupWidget(); popup && popup->close();)
+        popup = QApplication::activePopupWidget();
     QWidget* focus = window()->focusWidget(); // also of a window that is not active now
     m_focusBefore = focus && parentWidget()->isAncestorOf(focus) ? focus : nullptr;
     setAttribute(Qt::WA_StyledBackground, false); // not dimmed until Reveal

@@ -50,7 +50,7 @@ CNotice::CNotice(const QString& text, NoticeTone tone)
     setAccessibleName(text);
     setFixedWidth(kWidth);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(Grid::Large, Grid::Medium, Grid::Small, Grid::Medium);
+    setReadingMargins(row, this, Grid::Large, Grid::Medium, Grid::Small, Grid::Medium);
     row->setSpacing(Grid::Medium);
     row->addWidget(makeIconLabel(toneIconName(tone), Grid::Wide, this), 0, Qt::AlignTop);
     QLabel* label = makeLabel(breakable(text), TextRole::Plain, this);

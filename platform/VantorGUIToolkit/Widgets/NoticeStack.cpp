@@ -15,6 +15,9 @@ CNoticeStack& CNoticeStack::Instance()
 {
     CNoticeStack& stack = CUiSingleton<CNoticeStack>::Instance();
     connect(qApp, &QCoreApplication::aboutToQuit, &stack, &CNoticeStack::CloseAll, Qt::UniqueConnection);
+    // Later: the screen is still there when it is told that it goes.
+    connect(qApp, &QGuiApplication::screenRemoved, &stack, &CNoticeStack::Arrange,
+            Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
     return stack;
 }
 
@@ -31,10 +34,19 @@ void CNoticeStack::Add(QWidget* notice, QScreen* screen)
     while (m_entries.size() >= kMost)
         Close(0);
     m_entries.push_back({notice, screen});
+    Follow(screen);
     notice->installEventFilter(this);
     notice->ensurePolished();
     Arrange();
     notice->show();
+}
+
+// Resolutions and task bars change while notices are shown.
+void CNoticeStack::Follow(QScreen* screen)
+{
+    if (screen)
+        connect(screen, &QScreen::availableGeometryChanged, this, &CNoticeStack::Arrange,
+                Qt::UniqueConnection);
 }
 
 void CNoticeStack::CloseAll()
@@ -74,8 +86,10 @@ void CNoticeStack::Arrange()
 {
     Forget(nullptr);
     for (Entry& entry : m_entries)
-        if (!entry.screen)
+        if (!entry.screen) {
             entry.screen = QGuiApplication::primaryScreen();
+            Follow(entry.screen);
+        }
     for (QScreen* screen : QGuiApplication::screens())
         while (!ArrangeOn(screen)) {
         }

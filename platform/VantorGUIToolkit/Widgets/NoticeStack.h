@@ -40,6 +40,7 @@ private:
         QPointer<QScreen> screen;
     };
 
+    void Follow(QScreen* screen);
     void Close(std::size_t index);
     void Forget(const QObject* notice);
     void Arrange();

@@ -1,5 +1,6 @@
 #include "VantorGUIToolkit/Widgets/Switch.h"
 
+#include "VantorGUIToolkit/WidgetManners.h"
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QPainter>
@@ -24,7 +25,7 @@ QSize CSwitch::sizeHint() const
 {
     const QSize label = fontMetrics().size(Qt::TextShowMnemonic, text());
     const int labelWidth = text().isEmpty() ? 0 : Grid::Small + label.width();
-    return {kTrack.width() + Grid::Tight + labelWidth, qMax(kHeight, label.height())};
+    return {kTrack.width() + labelWidth, qMax(kHeight, label.height())};
 }
 
 bool CSwitch::hitButton(const QPoint& position) const
@@ -34,22 +35,23 @@ bool CSwitch::hitButton(const QPoint& position) const
 
 QRect CSwitch::TrackRect() const
 {
-    const QRect place(QPoint(2, (height() - kTrack.height()) / 2), kTrack);
+    const QRect place(QPoint(0, (height() - kTrack.height()) / 2), kTrack);
     return QStyle::visualRect(layoutDirection(), rect(), place);
 }
 
-void CSwitch::PaintFocus(QPainter& painter) const
+QPen CSwitch::TrackPen() const
 {
-    const QRectF ring = QRectF(TrackRect()).adjusted(-1, -1, 1, 1);
-    painter.setPen(QPen(palette().windowText(), 1.5));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
+    if (CWidgetManners::ShowsFocus(this))
+        return QPen(m_focusColor.isValid() ? m_focusColor : palette().color(QPalette::WindowText), 2);
+    return QPen(palette().color(isChecked() ? QPalette::Highlight : QPalette::Dark), 1);
 }
 
 void CSwitch::PaintTrack(QPainter& painter) const
 {
-    const QRectF track = QRectF(TrackRect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(palette().color(isChecked() ? QPalette::Highlight : QPalette::Dark));
+    const QPen pen = TrackPen();
+    const qreal inside = pen.widthF() / 2;
+    const QRectF track = QRectF(TrackRect()).adjusted(inside, inside, -inside, -inside);
+    painter.setPen(pen);
     painter.setBrush(palette().color(isChecked() ? QPalette::Highlight : QPalette::Base));
     painter.drawRoundedRect(track, track.height() / 2, track.height() / 2);
 }
@@ -71,9 +73,7 @@ void CSwitch::paintEvent(QPaintEvent*)
     painter.setRenderHint(QPainter::Antialiasing);
     PaintTrack(painter);
     PaintKnob(painter);
-    if (hasFocus())
-        PaintFocus(painter);
-    const int before = kTrack.width() + Grid::Tight + Grid::Small;
+    const int before = kTrack.width() + Grid::Small;
     const QRect place = rect().adjusted(before, 0, 0, 0);
     style()->drawItemText(&painter, QStyle::visualRect(layoutDirection(), rect(), place),
                           QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter) |

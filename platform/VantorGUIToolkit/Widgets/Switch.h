@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QColor>
+#include <QPen>
 
 class QPainter;
 
@@ -11,6 +13,8 @@ namespace VantorGUIToolkit {
 class CSwitch : public QCheckBox
 {
     Q_OBJECT
+    /// Of the ring; style sheets set it.
+    Q_PROPERTY(QColor focusColor MEMBER m_focusColor)
 
 public:
     explicit CSwitch(const QString& text = {}, QWidget* parent = nullptr);
@@ -24,9 +28,11 @@ protected:
 
 private:
     QRect TrackRect() const;
-    void PaintFocus(QPainter& painter) const;
+    QPen TrackPen() const;
     void PaintTrack(QPainter& painter) const;
     void PaintKnob(QPainter& painter) const;
+
+    QColor m_focusColor;
 };
 
 } // namespace VantorGUIToolkit

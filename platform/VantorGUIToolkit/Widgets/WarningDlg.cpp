@@ -4,9 +4,17 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
 namespace VantorGUIToolkit {
+
+namespace {
+
+constexpr int kTextWidth = 288;
+constexpr int kMostTextHeight = 320;
+
+} // namespace
 
 CWarningDlg::CWarningDlg(const QString& text, const QString& title, const QString& iconName, QWidget* parent)
     : CDialog(title, parent ? parent->window() : nullptr)
@@ -14,13 +22,30 @@ CWarningDlg::CWarningDlg(const QString& text, const QString& title, const QStrin
     auto* row = new QHBoxLayout;
     row->setSpacing(Grid::Large);
     row->addWidget(makeIconLabel(iconName, Grid::Huge, this), 0, Qt::AlignTop);
+    row->addWidget(MakeText(text), 1);
+    ContentLayout()->addLayout(row);
+    setAccessibleDescription(text);
+}
+
+// A list of what failed on every device can be longer than the screen is high.
+QWidget* CWarningDlg::MakeText(const QString& text)
+{
     QLabel* label = makeLabel(breakable(text), TextRole::Plain, this);
     label->setObjectName("warningText");
     label->setWordWrap(true);
-    label->setMinimumWidth(288);
-    row->addWidget(label, 1);
-    ContentLayout()->addLayout(row);
-    setAccessibleDescription(text);
+    label->setMinimumWidth(kTextWidth);
+    if (label->heightForWidth(kTextWidth) <= kMostTextHeight)
+        return label;
+    label->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    auto* scroll = new QScrollArea(this);
+    scroll->setObjectName("warningScroll");
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(label);
+    scroll->setMinimumWidth(kTextWidth + Grid::Large);
+    scroll->setFixedHeight(kMostTextHeight);
+    return scroll;
 }
 
 int CWarningDlg::Ask(CWarningDlg* dialog)

@@ -26,6 +26,7 @@ public:
 private:
     CWarningDlg(const QString& text, const QString& title, const QString& iconName, QWidget* parent);
 
+    QWidget* MakeText(const QString& text);
     static int Ask(CWarningDlg* dialog);
 };
 

@@ -1,3 +1,4 @@
+#include "GuestDialogs.h"
 #include "WindowEmbedding/WindowSystem.h"
 
 #include <QAbstractNativeEventFilter>
@@ -81,7 +82,7 @@ private:
             Tell(reinterpret_cast<xcb_reparent_notify_event_t*>(event)->window, Change::Moved);
             return false;
         case XCB_MAP_NOTIFY:
-            Tell(reinterpret_cast<xcb_map_notify_event_t*>(event)->window, Change::Mapped);
+            TakeMapped(*reinterpret_cast<xcb_map_notify_event_t*>(event));
             return false;
         case XCB_CONFIGURE_NOTIFY:
             TakeSize(*reinterpret_cast<xcb_configure_notify_event_t*>(event));
@@ -110,6 +111,13 @@ private:
             watched->observer->OnChange(window, change);
     }
 
+    void TakeMapped(const xcb_map_notify_event_t& event)
+    {
+        Tell(event.window, Change::Mapped);
+        if (!event.override_redirect && !Find(event.window))
+            KeepAboveHost(event.window);
+    }
+
     void TakeEnd(xcb_window_t window)
     {
         m_ended.push_back(window);
@@ -121,9 +129,18 @@ private:
     /// A graphics context that was to be made for a dead window is missing as well.
     bool IsOfDeadWindow(const xcb_generic_error_t& error)
     {
-        const bool dead = std::find(m_ended.begin(), m_ended.end(), error.resource_id) != m_ended.end();
+        const bool dead = std::find(m_ended.begin(), m_ended.end(), error.resource_id) != m_ended.end() ||
+                          IsOfForeignWindow(error);
         m_drewOnDeadWindow = m_drewOnDeadWindow || (dead && error.major_code == XCB_CREATE_GC);
         return dead || (m_drewOnDeadWindow && error.error_code == XCB_G_CONTEXT);
+    }
+
+    /// Qt looks at the windows around its own, which end with their process at any moment.
+    static bool IsOfForeignWindow(const xcb_generic_error_t& error)
+    {
+        const xcb_setup_t* setup = xcb_get_setup(QX11Info::connection());
+        return error.error_code == XCB_WINDOW &&
+               (error.resource_id & ~setup->resource_id_mask) != setup->resource_id_base;
     }
 
     /// A window manager's own notices count for the surroundings: Qt tells of a move when it asks for it, not
@@ -198,14 +215,10 @@ private:
 
     static xcb_window_t TopLevelOf(xcb_window_t window)
     {
-        for (const QWindow* candidate : QGuiApplication::allWindows()) {
-            if (!candidate->handle() || candidate->winId() != window)
-                continue;
-            while (candidate->parent())
-                candidate = candidate->parent();
-            return static_cast<xcb_window_t>(candidate->winId());
-        }
-        return window;
+        const QWindow* own = OwnWindow(window);
+        while (own && own->parent())
+            own = own->parent();
+        return own ? static_cast<xcb_window_t>(own->winId()) : window;
     }
 
     std::map<xcb_window_t, Watched> m_watched;

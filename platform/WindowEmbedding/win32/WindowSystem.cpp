@@ -92,4 +92,10 @@ void Focus(WindowId window)
     SetFocus(Handle(window));
 }
 
+/// Windows gives the keyboard to a dialog's owner.
+bool IsFocusLost()
+{
+    return false;
+}
+
 } // namespace embedding::native

@@ -27,12 +27,9 @@
 #include "ui/Application/PageCatalogue.h"
 #include "ui/Application/ServedRoutes.h"
 #include "ui/Application/VantorApplication.h"
-#include "ui/Public/OpenPopups.h"
 #include "ui/System/SystemconfigUIManager.h"
 
-#include <QThread>
 #include <QThreadPool>
-#include <QTimer>
 
 #include <libxml/parser.h>
 
@@ -41,11 +38,6 @@ namespace video {
 namespace {
 
 constexpr int kThreadPoolWaitMs = 5000;
-
-/// A dialog or menu of a page runs an event loop of its own, above the main one. The page must not go before
-/// that loop has ended.
-constexpr int kMainLoop = 1;
-constexpr int kQuitAgainMs = 20;
 
 std::future<void> StartMultimediaComm()
 {
@@ -123,17 +115,13 @@ bool CVantorApplication::InitLogical()
 
 void CVantorApplication::onQuit()
 {
-    if (m_quitting)
-        return;
-    if (QThread::currentThread()->loopLevel() > kMainLoop) {
-        CloseModalDialogs();
-        QTimer::singleShot(kQuitAgainMs, this, &CVantorApplication::onQuit);
-        return;
-    }
-    m_quitting = true;
+    m_quit.Ask();
+}
+
+void CVantorApplication::UnInitOnQuit()
+{
     BASE_INFO("Start UnInit Video.C");
     UnInit();
-    QCoreApplication::quit();
 }
 
 void CVantorApplication::UnInit()

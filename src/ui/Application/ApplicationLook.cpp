@@ -9,6 +9,7 @@ namespace {
 
 const QString kSystemConfigSheet = QStringLiteral(":/Vantor/Qss/Qss/SystemConfig/SystemConfig.qss");
 const QString kComponentSheet = QStringLiteral(":/Vantor/Qss/Qss/Video.C/VideoClient.qss");
+
 void TellOfPackage(const QString& path, bool loaded)
 {
     qWarning(loaded ? "---scc--- LoadSkin = %s Success" : "---scc--- LoadSkin = %s failed", qPrintable(path));

@@ -3,6 +3,7 @@
 #include "Base/WeakAnchor.h"
 #include "SingleApplication/SingleApplication.h"
 #include "ui/Application/ApplicationLook.h"
+#include "ui/Application/OrderlyQuit.h"
 #include "ui/Application/VantorEventFilter.h"
 
 #include <future>
@@ -33,7 +34,8 @@ public:
     bool IsRightToLeft() const;
 
 public slots:
-    /// Takes the component down and ends the event loop. Further calls do nothing.
+    /// Takes the component down and ends the event loop, once open dialogs are closed. Further calls do
+    /// nothing.
     void onQuit();
 
     /// Native messages that the event filter lets pass; none is swallowed.
@@ -49,6 +51,7 @@ private:
     void RegisterForNotifications();
     [[nodiscard]] bool InitLogical();
     void initDateTimeFormat();
+    void UnInitOnQuit();
     void UnInitLink();
     void UnInitGui();
     void UnInitLogical();
@@ -57,7 +60,7 @@ private:
     std::future<void> m_fInitReportManager;
     std::shared_future<void> m_fInitWinIDAndSystemManager;
     std::unique_ptr<CVantorEventFilter> m_eventFilter;
-    bool m_quitting = false;
+    COrderlyQuit m_quit{[this] { UnInitOnQuit(); }};
     Base::details::CWeakPtrBase m_anchor; ///< of the handlers of notifications
 };
 

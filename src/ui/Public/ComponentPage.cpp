@@ -1,6 +1,7 @@
 #include "ui/Public/ComponentPage.h"
 
 #include "WindowEmbedding/GuestWindow.h"
+#include "ui/Public/OpenPopups.h"
 
 #include <QCloseEvent>
 
@@ -28,6 +29,14 @@ void CComponentPage::UpdateUser(const User&) {}
 void CComponentPage::closeEvent(QCloseEvent* event)
 {
     event->ignore();
+}
+
+/// A dialog without its page would stay over other tabs and block them.
+void CComponentPage::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        CloseModalDialogsOf(*this);
 }
 
 } // namespace video

@@ -11,7 +11,7 @@ struct User;
 /// The framework embeds winId(), which is made unmapped: at first, and anew after the framework's window took
 /// the page's along when it died. The page has no frame of its own, so that it never looks like a window
 /// beside the framework's, and it is not shown before the framework asks for that. The framework alone
-/// decides when it goes: requests to close are ignored. GUI thread.
+/// decides when it goes: requests to close are ignored. Its modal dialogs go with it. GUI thread.
 class CComponentPage : public QWidget
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) final;
+    void hideEvent(QHideEvent* event) override;
 };
 
 } // namespace video

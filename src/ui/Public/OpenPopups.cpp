@@ -28,6 +28,13 @@ void DismissAll(Active active)
     }
 }
 
+bool BelongsTo(const QWidget* window, const QWidget& page)
+{
+    while (window && window != &page)
+        window = window->parentWidget();
+    return window != nullptr;
+}
+
 } // namespace
 
 void CloseOpenPopups()
@@ -39,6 +46,15 @@ void CloseModalDialogs()
 {
     CloseOpenPopups();
     DismissAll([] { return QApplication::activeModalWidget(); });
+}
+
+void CloseModalDialogsOf(const QWidget& page)
+{
+    CloseOpenPopups();
+    DismissAll([&page] {
+        QWidget* const window = QApplication::activeModalWidget();
+        return BelongsTo(window, page) ? window : nullptr;
+    });
 }
 
 } // namespace video

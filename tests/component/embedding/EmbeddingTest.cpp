@@ -35,7 +35,7 @@ protected:
         m_hostWindow = m_host.AwaitWindow();
         m_guestWindow = m_guest.AwaitWindow();
         EXPECT_TRUE(WaitUntil([&] { return m_user.IsViewable(m_hostWindow); }));
-        EmbedAndShow(m_guest, m_guestWindow);
+        EmbedAndShow(m_host, m_guest, m_guestWindow);
     }
 
     ~Embedding() override
@@ -44,25 +44,29 @@ protected:
         EXPECT_EQ(m_guest.Complaints(), "");
     }
 
-    void EmbedAndShow(PartnerProcess& guest, Window window)
+    /// Returns when both programs know where the guest is on the screen: only then are there places to click.
+    void EmbedAndShow(PartnerProcess& host, PartnerProcess& guest, Window window)
     {
-        m_host.Tell(QString("embed %1").arg(window));
-        EXPECT_EQ(m_host.Await("embedded "), "1");
+        host.Tell(QString("embed %1").arg(window));
+        EXPECT_EQ(host.Await("embedded "), "1");
         guest.Tell("show");
-        EXPECT_TRUE(WaitUntil([&] { return m_user.IsViewable(window) && Fits(guest, window); }))
+        EXPECT_TRUE(WaitUntil([&] { return Fits(host, guest, window); }))
             << "viewable " << m_user.IsViewable(window) << ", at " << Text(m_user.AreaOf(window)) << " in "
             << Text(m_user.AreaOf(m_user.HolderOf(window))) << ", container at "
-            << Text(PlaceOf(m_host, "container")) << ", guest knows " << Text(PlaceOf(guest, "page"));
+            << Text(PlaceOf(host, "container")) << ", guest knows " << Text(PlaceOf(guest, "page"));
     }
 
-    /// The guest covers exactly the window around it, and this the container; and its program knows.
-    bool Fits(PartnerProcess& guest, Window window)
+    /// The guest is seen and covers exactly the window around it, and this the container; and its program
+    /// knows.
+    bool Fits(PartnerProcess& host, PartnerProcess& guest, Window window)
     {
         const auto area = m_user.AreaOf(window);
         const Window holder = m_user.HolderOf(window);
-        return holder != 0 && area && area == m_user.AreaOf(holder) &&
-               Near(area, PlaceOf(m_host, "container")) && Near(area, PlaceOf(guest, "page"));
+        return holder != 0 && m_user.IsViewable(window) && area && area == m_user.AreaOf(holder) &&
+               Near(area, PlaceOf(host, "container")) && Near(area, PlaceOf(guest, "page"));
     }
+
+    bool Fits() { return Fits(m_host, m_guest, m_guestWindow); }
 
     /// Scaled lengths are rounded, and Qt is a pixel wrong about a native child's place in tabs.
     static bool Near(const std::optional<Area>& one, const std::optional<Area>& other)
@@ -89,12 +93,14 @@ protected:
     }
 
     void ClickInGuest(const QString& widget) { ClickOn(m_guest, widget); }
-    /// The program shows its text cursor in its line.
-    static bool HasFocusedLine(PartnerProcess& program)
+
+    /// The widget that a program shows as focused.
+    static QString FocusOf(PartnerProcess& program)
     {
         program.Tell("focus");
-        return program.Await("focus ") == "edit";
+        return program.Await("focus ");
     }
+    static bool HasFocusedLine(PartnerProcess& program) { return FocusOf(program) == "edit"; }
 
     /// Returns when the program has seen the click and has the keyboard: a window manager passes clicks on
     /// later than keys.
@@ -111,6 +117,15 @@ protected:
         ClickInLine(m_guest, m_guestWindow);
         m_user.Type(text);
         m_guest.Await("text " + QString::fromStdString(text));
+    }
+
+    /// A modal dialog; it has the keyboard.
+    Window OpenDialogInGuest(const char* parent)
+    {
+        m_guest.Tell(QString("dialog ") + parent);
+        const Window dialog = m_guest.AwaitWindow();
+        EXPECT_TRUE(WaitUntil([&] { return m_user.Focused() == dialog && FocusOf(m_guest) == "answer"; }));
+        return dialog;
     }
 
     void ExpectPopupAt(const QString& widget)
@@ -194,16 +209,35 @@ TEST_P(Embedding, PopupsOpenAtTheirWidgetsWhereverTheHostIs)
     ExpectPopupAt("combo");
     const auto before = m_user.AreaOf(m_guestWindow);
     m_host.Tell("move 230 170");
-    ASSERT_TRUE(WaitUntil(
-        [&] { return m_user.AreaOf(m_guestWindow)->x > before->x && Fits(m_guest, m_guestWindow); }));
+    ASSERT_TRUE(WaitUntil([&] { return m_user.AreaOf(m_guestWindow)->x > before->x && Fits(); }));
     ExpectPopupAt("combo");
     ExpectPopupAt("menu");
     m_host.Tell("tab 1");
     m_host.Tell("move 20 40");
     ASSERT_TRUE(WaitUntil([&] { return !m_user.IsViewable(m_guestWindow); }));
     m_host.Tell("tab 0");
-    ASSERT_TRUE(WaitUntil([&] { return m_user.IsViewable(m_guestWindow) && Fits(m_guest, m_guestWindow); }));
+    ASSERT_TRUE(WaitUntil([&] { return Fits(); }));
     ExpectPopupAt("menu");
+}
+
+TEST_P(Embedding, ADialogOfTheGuestStaysAboveTheHostAndGivesTheKeyboardBack)
+{
+    for (const char* parent : {"page", "none"}) {
+        ExpectGuestTakesKeys("a");
+        const Window dialog = OpenDialogInGuest(parent);
+        m_user.Press(PointerAndKeys::Escape);
+        ASSERT_TRUE(WaitUntil([&] { return !m_user.IsViewable(dialog); }));
+        EXPECT_TRUE(WaitUntil([&] { return m_user.Focused() == m_guestWindow; })) << parent;
+        m_user.Press(PointerAndKeys::BackSpace);
+        m_guest.Await("text ");
+
+        const Window covered = OpenDialogInGuest(parent);
+        ClickOn(m_host, "edit");
+        m_host.Await("pressed");
+        EXPECT_TRUE(m_user.IsAbove(covered, m_hostWindow)) << parent;
+        m_guest.Tell("close");
+        ASSERT_TRUE(WaitUntil([&] { return !m_user.IsViewable(covered); }));
+    }
 }
 
 TEST_P(Embedding, TheGuestIsAlwaysAsLargeAsItsContainer)
@@ -211,14 +245,12 @@ TEST_P(Embedding, TheGuestIsAlwaysAsLargeAsItsContainer)
     for (const char* size : {"420 400", "560 330", "300 300"}) {
         const auto before = m_user.AreaOf(m_guestWindow);
         m_host.Tell(QString("resize ") + size);
-        EXPECT_TRUE(WaitUntil([&] {
-            return !(m_user.AreaOf(m_guestWindow) == before) && Fits(m_guest, m_guestWindow);
-        })) << size;
+        EXPECT_TRUE(WaitUntil([&] { return !(m_user.AreaOf(m_guestWindow) == before) && Fits(); })) << size;
     }
     m_host.Tell("tab 1");
     m_host.Tell("resize 520 400");
     m_host.Tell("tab 0");
-    EXPECT_TRUE(WaitUntil([&] { return m_user.IsViewable(m_guestWindow) && Fits(m_guest, m_guestWindow); }));
+    EXPECT_TRUE(WaitUntil([&] { return Fits(); }));
     ExpectPopupAt("combo");
 }
 
@@ -227,20 +259,20 @@ TEST_P(Embedding, AGuestSurvivesHidingReleaseAndTheEndOfItsContainer)
     m_guest.Tell("hide");
     ASSERT_TRUE(WaitUntil([&] { return !m_user.IsViewable(m_guestWindow); }));
     m_guest.Tell("show");
-    ASSERT_TRUE(WaitUntil([&] { return m_user.IsViewable(m_guestWindow) && Fits(m_guest, m_guestWindow); }));
+    ASSERT_TRUE(WaitUntil([&] { return Fits(); }));
     ExpectGuestTakesKeys("a");
 
     m_host.Tell("release");
     ASSERT_TRUE(WaitUntil([&] { return m_user.HolderOf(m_guestWindow) == 0; }));
     EXPECT_FALSE(m_user.IsViewable(m_guestWindow));
-    EmbedAndShow(m_guest, m_guestWindow);
+    EmbedAndShow(m_host, m_guest, m_guestWindow);
     m_host.Tell("recreate");
     m_host.Await("recreated");
     EXPECT_FALSE(m_user.IsViewable(m_guestWindow));
-    EmbedAndShow(m_guest, m_guestWindow);
+    EmbedAndShow(m_host, m_guest, m_guestWindow);
     m_host.Tell("away");
     m_host.Await("back");
-    ASSERT_TRUE(WaitUntil([&] { return m_user.IsViewable(m_guestWindow) && Fits(m_guest, m_guestWindow); }));
+    ASSERT_TRUE(WaitUntil([&] { return Fits(); }));
     ClickInGuest("button");
     m_guest.Await("clicked");
     EXPECT_EQ(m_host.Count("guest lost"), 0);
@@ -258,7 +290,7 @@ TEST_P(Embedding, AGuestThatDiesLeavesItsPlaceToTheNext)
 
     PartnerProcess next("guest", GetParam().scale);
     const Window window = next.AwaitWindow();
-    EmbedAndShow(next, window);
+    EmbedAndShow(m_host, next, window);
     ClickOn(next, "button");
     next.Await("clicked");
     EXPECT_EQ(m_host.Count("guest lost"), 1);
@@ -277,10 +309,7 @@ TEST_P(Embedding, AGuestWhoseHostDiesLivesOnAndCanBeEmbeddedAgain)
 
     PartnerProcess next("host", GetParam().scale);
     const Window host = next.AwaitWindow();
-    next.Tell(QString("embed %1").arg(again));
-    ASSERT_EQ(next.Await("embedded "), "1");
-    m_guest.Tell("show");
-    ASSERT_TRUE(WaitUntil([&] { return m_user.IsViewable(again); }));
+    EmbedAndShow(next, m_guest, again);
     ClickOn(m_guest, "button");
     m_guest.Await("clicked");
     EXPECT_EQ(m_guest.Count("lost"), 1);

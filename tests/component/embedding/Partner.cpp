@@ -107,6 +107,10 @@ public:
             m_page.hide();
         else if (command[0] == "window")
             SayWindow();
+        else if (command[0] == "dialog")
+            OpenDialog(command[1]);
+        else if (command[0] == "close")
+            QApplication::activeModalWidget()->close();
         else if (command[0] == "place")
             SayPlace(m_page, command[1]);
         else if (command[0] == "focus")
@@ -114,6 +118,17 @@ public:
     }
 
 private:
+    void OpenDialog(const QString& parent)
+    {
+        auto* dialog = new QMessageBox(parent == "page" ? &m_page : nullptr);
+        dialog->setText("Dialog");
+        dialog->addButton(QMessageBox::Ok)->setObjectName("answer");
+        dialog->setModal(true);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->show();
+        Say(QString("window %1").arg(dialog->winId()));
+    }
+
     void SayWindow() { Say(QString("window %1").arg(m_page.winId())); }
 
     QWidget m_page;

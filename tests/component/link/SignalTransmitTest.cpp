@@ -288,6 +288,24 @@ TEST(ARemovedTab, HidesItsPageAlone)
     EXPECT_TRUE(other->isVisible());
 }
 
+TEST(ARemovedTab, TakesTheModalDialogsOfItsPageAlong)
+{
+    for (const bool ofRemoved : {true, false}) {
+        Transmitter world;
+        CToldPage* const removed = world.Page("VideoFile");
+        CToldPage* const other = world.Page("SnapshotFile");
+        for (const char* name : {"VideoFile", "SnapshotFile"})
+            world.Serve("showWnd", WindowBody("showWnd", name));
+        QDialog outer(ofRemoved ? removed : other);
+        QDialog inner(&outer);
+        outer.open();
+        inner.open();
+        world.Serve("appTabRemoved", WindowBody("appTabRemoved", "VideoFile"));
+        EXPECT_EQ(outer.isVisible(), !ofRemoved);
+        EXPECT_EQ(inner.isVisible(), !ofRemoved);
+    }
+}
+
 /// Two menus, one above the other, and two dialogs in front of a page.
 struct OpenWindows
 {

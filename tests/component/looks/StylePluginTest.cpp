@@ -69,7 +69,7 @@ TEST_F(TheStyle, LetsSheetsDressSurfacesAndListsOfComboBoxes)
     QComboBox box;
     box.addItem("one");
     page.ensurePolished();
-    box.view()->ensurePolished();
+    box.ensurePolished();
     EXPECT_TRUE(page.testAttribute(Qt::WA_StyledBackground));
     EXPECT_TRUE(qobject_cast<QStyledItemDelegate*>(box.view()->itemDelegate()));
 }

@@ -4,6 +4,7 @@
 #include "component/widgets/GuiDriving.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QLabel>
@@ -113,6 +114,10 @@ TEST_P(Gallery, IsMadeWithoutWarningsAndEveryWidgetHasAName)
         page.grab();
         EXPECT_EQ(page.layoutDirection() == Qt::RightToLeft, isRightToLeft(language));
         EXPECT_EQ(Nameless(page).join("\n").toStdString(), "");
+        auto* combo = page.findChild<QComboBox*>("galleryCombo");
+        combo->showPopup();
+        EXPECT_GE(combo->view()->visualRect(combo->model()->index(0, 0)).height(), 24);
+        combo->hidePopup();
         const QString title = page.findChild<QLabel*>("pageTitle")->text();
         EXPECT_EQ(title == "Gallery", language == English) << title.toStdString();
     }

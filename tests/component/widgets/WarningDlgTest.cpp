@@ -60,6 +60,18 @@ TEST(WarningDlg, AParentThatGoesAwayAnswersNo)
     EXPECT_EQ(CWarningDlg::CheckMessageInfo("Save?", "Information", parent.get()), 0);
 }
 
+TEST(WarningDlg, ALongListOfFailuresLeavesTheButtonsOnTheScreen)
+{
+    QSize size;
+    WhenDialogOpens([&](QWidget* dialog) {
+        size = dialog->size();
+        static_cast<QDialog*>(dialog)->reject();
+    });
+    CWarningDlg::ShowError(QString("Camera: not reached\n").repeated(300), "Error", nullptr);
+    EXPECT_GT(size.height(), 200);
+    EXPECT_LT(size.height(), 560);
+}
+
 TEST(WarningDlg, NamesOfDevicesAreNoMarkup)
 {
     QString shown;
