@@ -700,7 +700,7 @@
     </message>
     <message>
         <source>Mark all as read</source>
-        <translation>Alle als gelesen markieren</translation>
+        <translation>Alle gelesen</translation>
     </message>
     <message>
         <source>No notices</source>
@@ -712,7 +712,7 @@
     </message>
     <message>
         <source>Mark as read</source>
-        <translation>Als gelesen markieren</translation>
+        <translation>Gelesen</translation>
     </message>
 </context>
 <context>

@@ -41,7 +41,7 @@ CDevicesPage::CDevicesPage(CResources& resources, RaiseAlarm raiseAlarm, QWidget
     setObjectName("devicesPage");
     QPushButton* add = Header().AddAction(tr("Add device"), ButtonKind::Primary);
     add->setObjectName("addDevice");
-    add->setIcon(icon("add"));
+    add->setIcon(iconOnAccent("add"));
     m_edit->setObjectName("editDevice");
     m_remove->setObjectName("removeDevice");
     Table().setObjectName("devicesTable");

@@ -69,7 +69,7 @@ CUsersPage::CUsersPage(CUsers& users, QWidget* parent)
     auto* header = new CPageHeader(tr("Users"), tr("Who works with the client, and what each may do."), this);
     QPushButton* add = header->AddAction(tr("Add user"), ButtonKind::Primary);
     add->setObjectName("addUser");
-    add->setIcon(icon("add"));
+    add->setIcon(iconOnAccent("add"));
     connect(add, &QPushButton::clicked, this, &CUsersPage::NewUser);
     auto* columns = new QHBoxLayout;
     columns->setSpacing(Grid::Large);

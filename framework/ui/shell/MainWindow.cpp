@@ -240,14 +240,21 @@ void CMainWindow::TellCurrentTab()
     m_core.TabSwitched(row->isOwn ? std::string() : row->name);
 }
 
-// The window grows by what the embedded one lacks, as far as the screen allows.
+// The window grows by what the embedded one lacks, as far as the screen allows, and stays on it.
 void CMainWindow::OnResizeWish(const QString& name, const QSize& size)
 {
     const CComponentTab* tab = ComponentTab(name);
     if (!tab || isMaximized() || isFullScreen() || m_tabs->Current() != name)
         return;
-    const QSize wished = this->size() + size - m_tabs->Content().size();
-    resize(wished.boundedTo(screen()->availableGeometry().size()).expandedTo(minimumSize()));
+    const QSize lacking = (size - m_tabs->Content().size()).expandedTo({0, 0});
+    const QRect free = screen()->availableGeometry();
+    const QSize frame = frameGeometry().size() - this->size();
+    QRect place(this->pos(),
+                (this->size() + lacking).boundedTo(free.size() - frame).expandedTo(this->size()));
+    place.moveRight(std::min(place.right(), free.right() - frame.width()));
+    place.moveBottom(std::min(place.bottom(), free.bottom() - frame.height()));
+    resize(place.size());
+    move(std::max(place.left(), free.left()), std::max(place.top(), free.top()));
 }
 
 void CMainWindow::moveEvent(QMoveEvent* event)
