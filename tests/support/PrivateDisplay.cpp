@@ -40,7 +40,7 @@ PrivateDisplay::PrivateDisplay(WindowManager manager, int dpi)
 void PrivateDisplay::StartServer(const std::string& output, int dpi)
 {
     std::string error;
-    const bool started = m_server.Start({"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1200x24", "-dpi",
+    const bool started = m_server.Start({"Xvfb", "-displayfd", "1", "-screen", "0", "1920x1600x24", "-dpi",
                                          std::to_string(dpi), "-nolisten", "tcp"},
                                         output, error);
     std::string number;

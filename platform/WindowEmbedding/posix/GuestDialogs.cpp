@@ -91,17 +91,14 @@ QWindow* OwnWindow(xcb_window_t window)
     return nullptr;
 }
 
-void KeepAboveHost(xcb_window_t mapped)
+void KeepAboveHost(const QWindow& dialog)
 {
-    const QWindow* dialog = OwnWindow(mapped);
-    if (!dialog || dialog->parent())
-        return;
-    const auto host = static_cast<xcb_window_t>(HostOfDialog(*dialog));
+    const auto host = static_cast<xcb_window_t>(HostOfDialog(dialog));
     if (host == 0)
         return;
     xcb_connection_t* connection = QX11Info::connection();
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, mapped, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW,
-                        32, 1, &host);
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(dialog.winId()),
+                        XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 32, 1, &host);
     xcb_flush(connection);
 }
 

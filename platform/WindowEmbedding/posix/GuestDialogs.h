@@ -12,6 +12,6 @@ QWindow* OwnWindow(xcb_window_t window);
 /// Tells the window manager that a dialog of an embedded page belongs above the host's window. By itself it
 /// sees the dialog of a window that it does not manage, and lets the host's cover it at the next click.
 /// For a window that the window manager has just mapped.
-void KeepAboveHost(xcb_window_t mapped);
+void KeepAboveHost(const QWindow& dialog);
 
 } // namespace embedding::native

@@ -1,5 +1,6 @@
 #include "GuestDialogs.h"
 #include "WindowEmbedding/WindowSystem.h"
+#include "WindowPlace.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
@@ -114,8 +115,21 @@ private:
     void TakeMapped(const xcb_map_notify_event_t& event)
     {
         Tell(event.window, Change::Mapped);
-        if (!event.override_redirect && !Find(event.window))
-            KeepAboveHost(event.window);
+        const QWindow* own =
+            event.override_redirect || Find(event.window) ? nullptr : OwnWindow(event.window);
+        if (!own || own->parent())
+            return;
+        KeepAboveHost(*own);
+        CorrectPlace(event.window);
+    }
+
+    /// Qt asks for the place when a window manager has put the window into a frame, which may stand elsewhere
+    /// until the window is mapped; of its last step the window manager tells nothing.
+    static void CorrectPlace(xcb_window_t window)
+    {
+        if (const auto area = AreaOnScreen(window))
+            TellPlace(window, *area);
+        xcb_flush(QX11Info::connection());
     }
 
     void TakeEnd(xcb_window_t window)

@@ -1,5 +1,7 @@
 #include "WindowEmbedding/WindowSystem.h"
 
+#include "WindowPlace.h"
+
 #include <QX11Info>
 
 #include <cstdlib>
@@ -52,22 +54,6 @@ Reply<xcb_get_window_attributes_reply_t> Attributes(WindowId window)
     auto reply = Own(xcb_get_window_attributes_reply(Connection(), request, &error));
     std::free(error);
     return reply;
-}
-
-/// The window's process takes its place on the screen from this; the server itself tells it only of changes
-/// within the holder.
-void TellPlace(WindowId window, const Area& onScreen)
-{
-    xcb_configure_notify_event_t notice = {};
-    notice.response_type = XCB_CONFIGURE_NOTIFY;
-    notice.event = Id(window);
-    notice.window = Id(window);
-    notice.x = static_cast<int16_t>(onScreen.x);
-    notice.y = static_cast<int16_t>(onScreen.y);
-    notice.width = static_cast<uint16_t>(onScreen.width);
-    notice.height = static_cast<uint16_t>(onScreen.height);
-    Forget(xcb_send_event_checked(Connection(), 0, Id(window), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
-                                  reinterpret_cast<const char*>(&notice)));
 }
 
 } // namespace
@@ -123,6 +109,20 @@ std::optional<Area> AreaOnScreen(WindowId window)
     if (!size || !place)
         return std::nullopt;
     return Area{place->dst_x, place->dst_y, size->width, size->height};
+}
+
+void TellPlace(WindowId window, const Area& onScreen)
+{
+    xcb_configure_notify_event_t notice = {};
+    notice.response_type = XCB_CONFIGURE_NOTIFY;
+    notice.event = Id(window);
+    notice.window = Id(window);
+    notice.x = static_cast<int16_t>(onScreen.x);
+    notice.y = static_cast<int16_t>(onScreen.y);
+    notice.width = static_cast<uint16_t>(onScreen.width);
+    notice.height = static_cast<uint16_t>(onScreen.height);
+    Forget(xcb_send_event_checked(Connection(), 0, Id(window), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
+                                  reinterpret_cast<const char*>(&notice)));
 }
 
 void Fit(WindowId window, const Area& holderOnScreen)
