@@ -159,7 +159,7 @@ TEST_P(Client, OpensPopupsBesideTheirWidgetsWhereverItsWindowIs)
 {
     client.Start(kLook);
     const Window page = client.OpenTab(kGallery);
-    for (const Area& place : {Area{40, 60, 1440, 1020}, {310, 90, 1300, 1050}, {5, 30, 1100, 1000}}) {
+    for (const Area& place : {Area{40, 60, 1440, 1020}, {310, 90, 1300, 1050}, {5, 30, 1100, 1040}}) {
         Place(page, place);
         const GalleryModel gallery = Gallery(page);
         for (const char* widget : {"galleryMenuButton", "galleryCombo"})
