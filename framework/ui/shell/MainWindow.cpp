@@ -33,7 +33,7 @@ constexpr int kMoveSettleMs = 60;
 constexpr int kSaveDelayMs = 500;
 constexpr QSize kSmallest(1024, 640);
 constexpr QSize kFirstSize(1440, 900);
-constexpr int kNarrow = 1100; ///< a window below this width begins with icons only in its navigation
+constexpr int kNarrow = 1200; ///< a window below this width begins with icons only in its navigation
 
 } // namespace
 
