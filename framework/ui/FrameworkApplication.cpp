@@ -2,6 +2,7 @@
 
 #include "Base/AsyncTask.h"
 #include "CommonMethodLib/UserDataPath.h"
+#include "VantorGUIToolkit/Toolkit.h"
 #include "VantorGUIToolkit/Widgets/NoticeStack.h"
 #include "framework/ui/Look.h"
 #include "framework/ui/StartDialog.h"
@@ -49,6 +50,9 @@ CFrameworkApplication::~CFrameworkApplication()
     if (m_stopping.valid())
         m_stopping.wait();
     m_core.Stop();
+    m_tour.reset();
+    m_window.reset();
+    VantorGUIToolkit::toolkit().UnInit();
 }
 
 bool CFrameworkApplication::Start(QString& error)

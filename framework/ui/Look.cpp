@@ -3,8 +3,7 @@
 #include "VantorGUIToolkit/SkinLoader.h"
 #include "VantorGUIToolkit/Toolkit.h"
 
-#include <QApplication>
-#include <QPixmapCache>
+#include <QLocale>
 
 namespace framework {
 
@@ -12,21 +11,8 @@ using namespace VantorGUIToolkit;
 
 void ApplyLook(const FrameworkChoices& choices)
 {
-    const Qt::LayoutDirection direction = isRightToLeft(choices.language) ? Qt::RightToLeft : Qt::LeftToRight;
-    CToolkit& kit = toolkit();
-    qApp->setStyleSheet({});
-    kit.unloadSkinPackages();
-    QPixmapCache::clear();
-    kit.setLocale(choices.language);
-    kit.setLayoutDirection(direction);
-    kit.loadTranslations(kit.targetPath() + "../translations/", choices.language);
-    QApplication::setLayoutDirection(direction);
-    CSkinLoader look(kit);
-    look.LoadFont(choices.language);
-    look.LoadSkin(QString::fromStdString(choices.skin));
-    look.LoadPackage("Framework.rcc");
-    look.SetStyle();
-    look.ApplySheets({":/Framework/Qss/Framework.qss"});
+    takeLook(toolkit(), QString::fromStdString(choices.skin), choices.language, {"Framework.rcc"},
+             {":/Framework/Qss/Framework.qss"});
     ApplyFormats(choices);
 }
 

@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFont>
+#include <QPixmapCache>
 #include <QStyle>
 #include <QStyleFactory>
 
@@ -111,6 +112,27 @@ void CSkinLoader::ApplySheets(const QStringList& files)
 {
     CWidgetManners::Install();
     qApp->setStyleSheet(m_toolkit.handleQssByInputParams(Joined(ToolkitSheets() + files)));
+}
+
+bool takeLook(CToolkit& toolkit, const QString& skin, int language, const QStringList& packages,
+              const QStringList& sheets)
+{
+    const Qt::LayoutDirection direction = isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight;
+    qApp->setStyleSheet({});
+    toolkit.unloadSkinPackages();
+    QPixmapCache::clear(); // icons of two skins have the same names
+    toolkit.setLocale(language);
+    toolkit.setLayoutDirection(direction);
+    toolkit.loadTranslations(toolkit.targetPath() + "../translations/", language);
+    QApplication::setLayoutDirection(direction);
+    CSkinLoader loader(toolkit);
+    loader.LoadFont(language);
+    const bool hasSkin = loader.LoadSkin(skin);
+    for (const QString& package : packages)
+        loader.LoadPackage(package);
+    const bool hasStyle = loader.SetStyle();
+    loader.ApplySheets(sheets);
+    return hasSkin && hasStyle;
 }
 
 } // namespace VantorGUIToolkit

@@ -55,4 +55,10 @@ private:
     const PackageTold m_told;
 };
 
+/// The whole look at once, in the place of what the program had: translations, locale, direction, font, skin,
+/// these packages, style and these sheets. Windows that were made before keep their texts and icons. False
+/// when the skin's own package or the style is missing. GUI thread.
+bool takeLook(CToolkit& toolkit, const QString& skin, int language, const QStringList& packages = {},
+              const QStringList& sheets = {});
+
 } // namespace VantorGUIToolkit

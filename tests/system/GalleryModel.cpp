@@ -13,18 +13,9 @@ GalleryModel::GalleryModel(const Area& page, const QString& skin, int language, 
     : m_area(page), m_scale(scale)
 {
     CToolkit& kit = toolkit();
-    const auto direction = isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight;
     QCoreApplication::addLibraryPath(BUILT_PRODUCT "plugins");
     kit.setTargetPath(BUILT_PRODUCT "bin/");
-    kit.setLocale(language);
-    kit.setLayoutDirection(direction);
-    kit.loadTranslations(BUILT_PRODUCT "translations/", language);
-    QApplication::setLayoutDirection(direction);
-    CSkinLoader look(kit);
-    look.LoadFont(language);
-    EXPECT_TRUE(look.LoadSkin(skin));
-    EXPECT_TRUE(look.SetStyle());
-    look.ApplySheets({});
+    EXPECT_TRUE(takeLook(kit, skin, language));
     m_page = std::make_unique<CGalleryPage>();
     m_page->resize(qRound(page.width / scale), qRound(page.height / scale));
     m_page->show();

@@ -1,8 +1,8 @@
 #include "gallery/GalleryWindow.h"
 
-#include "gallery/GalleryLook.h"
-
 #include "VantorGUIToolkit/Gallery/GalleryPage.h"
+#include "VantorGUIToolkit/SkinLoader.h"
+#include "VantorGUIToolkit/Toolkit.h"
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QComboBox>
@@ -28,7 +28,7 @@ GalleryWindow::GalleryWindow(const Options& options) : m_skin(options.skin), m_l
 // Texts, icons and directions are taken when a widget is made, so everything is made anew.
 void GalleryWindow::Rebuild()
 {
-    TakeLook(m_skin, m_language);
+    takeLook(toolkit(), m_skin, m_language);
     setLocale(QLocale());
     delete m_content;
     m_content = new QWidget(this);

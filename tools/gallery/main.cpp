@@ -1,8 +1,9 @@
-#include "gallery/GalleryLook.h"
 #include "gallery/GalleryWindow.h"
 #include "gallery/Options.h"
 
 #include "VantorGUIToolkit/Gallery/GalleryPage.h"
+#include "VantorGUIToolkit/SkinLoader.h"
+#include "VantorGUIToolkit/Toolkit.h"
 
 #include <QApplication>
 #include <QDir>
@@ -23,7 +24,7 @@ QSize WholePage(const QWidget& page)
 /// 0 when the picture is written.
 int WritePicture(const gallery::Options& options)
 {
-    gallery::TakeLook(options.skin, options.language);
+    VantorGUIToolkit::takeLook(VantorGUIToolkit::toolkit(), options.skin, options.language);
     VantorGUIToolkit::CGalleryPage page;
     page.resize(options.size.isValid() ? options.size : WholePage(page));
     page.show();

@@ -20,6 +20,7 @@
 #include "UiDataController/LocalLogManager.h"
 #include "UiDataController/RemoteConfigController.h"
 #include "UiDataController/SystemStatusMonitor.h"
+#include "VantorGUIToolkit/Toolkit.h"
 #include "WindowEmbedding/GuestWindow.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
@@ -181,6 +182,7 @@ CVantorApplication::~CVantorApplication()
     BASE_INFO("UninitLibxml2 Success.");
     QThreadPool::globalInstance()->waitForDone(kThreadPoolWaitMs);
     QThreadPool::globalInstance()->clear();
+    VantorGUIToolkit::toolkit().UnInit();
 }
 
 } // namespace video

@@ -37,16 +37,7 @@ public:
         QApplication::addLibraryPath(BUILT_PRODUCT "plugins");
         CToolkit& look = toolkit();
         look.setTargetPath(BUILT_PRODUCT "bin/");
-        look.loadTranslations(look.targetPath() + "../translations/", language);
-        look.setLocale(language);
-        const Qt::LayoutDirection direction = isRightToLeft(language) ? Qt::RightToLeft : Qt::LeftToRight;
-        look.setLayoutDirection(direction);
-        QApplication::setLayoutDirection(direction);
-        CSkinLoader loader(look);
-        loader.LoadFont(language);
-        skinLoaded = loader.LoadSkin(skin);
-        styleLoaded = loader.SetStyle();
-        loader.ApplySheets({});
+        isWhole = takeLook(look, skin, language);
     }
 
     ~Look()
@@ -59,8 +50,7 @@ public:
         qInstallMessageHandler(m_before);
     }
 
-    bool skinLoaded;
-    bool styleLoaded;
+    bool isWhole; ///< skin and style were found
 
 private:
     QtMessageHandler m_before;
@@ -105,8 +95,7 @@ TEST_P(Gallery, IsMadeWithoutWarningsAndEveryWidgetHasAName)
 {
     const auto [skin, language] = GetParam();
     const Look look(skin, language);
-    ASSERT_TRUE(look.skinLoaded);
-    ASSERT_TRUE(look.styleLoaded);
+    ASSERT_TRUE(look.isWhole);
     {
         CGalleryPage page;
         page.resize(1280, 900);
