@@ -1,14 +1,14 @@
 #include "VantorGUIToolkit/Widgets/LoadingOverlay.h"
 
 #include "Base/Log.h"
+#include "Base/ThreadPool.h"
 #include "VantorGUIToolkit/Widgets/Dress.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QMovie>
-#include <QRunnable>
-#include <QThreadPool>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <mutex>
@@ -36,15 +36,19 @@ void RunCaught(const std::function<void()>& job)
     }
 }
 
-/// Threads for the jobs of all overlays. It goes with the application, which waits for running jobs.
-QThreadPool& JobThreads()
+/// The threads of the jobs of all overlays. They go with the application, which waits for running jobs.
+struct JobThreads : QObject
 {
-    static QPointer<QThreadPool> threads;
-    if (!threads) {
-        threads = new QThreadPool(qApp);
-        threads->setMaxThreadCount(16);
-    }
-    return *threads;
+    using QObject::QObject;
+    Base::CThreadPool pool{"page-job", 8};
+};
+
+Base::CThreadPool& JobPool()
+{
+    static QPointer<JobThreads> threads;
+    if (!threads)
+        threads = new JobThreads(qApp);
+    return threads->pool;
 }
 
 bool IsInput(QEvent::Type type)
@@ -138,8 +142,7 @@ bool CLoadingOverlay::Run(const QString& text, std::function<void()> job)
         job = nullptr;
         running->TellEnd();
     };
-    JobThreads().start(QRunnable::create(std::move(work)));
-    return true;
+    return JobPool().PostTask(std::move(work));
 }
 
 void CLoadingOverlay::Cover()
