@@ -57,7 +57,6 @@ public:
     std::vector<protocol::AlarmInputInfo> AlarmInputs(const std::string& deviceGuid) const;
     /// Of all devices when deviceGuid is empty.
     std::vector<protocol::AlarmOutputInfo> AlarmOutputs(const std::string& deviceGuid) const;
-    std::vector<protocol::GroupInfo> Groups() const;
 
     /// Whether the device is known, and whether it is online.
     [[nodiscard]] bool Find(const std::string& deviceGuid, bool& online) const;

@@ -98,9 +98,4 @@ void CListPage::AddFilter(int column, const QString& first, const QStringList& t
     });
 }
 
-int CListPage::ShownRows() const
-{
-    return m_filtered->rowCount();
-}
-
 } // namespace framework

@@ -36,8 +36,6 @@ public:
     /// A box in the head that limits the rows to those with one of these texts in a column; first: the entry
     /// for all.
     void AddFilter(int column, const QString& first, const QStringList& texts);
-    /// How many rows pass search and filter.
-    int ShownRows() const;
 
 signals:
     void SelectionChanged();

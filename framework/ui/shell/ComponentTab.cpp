@@ -67,7 +67,6 @@ void CComponentTab::ShowState(TabState state)
         m_stack->setCurrentWidget(m_statePage);
     }
     m_report.Tell("tab", fields);
-    emit StateChanged();
 }
 
 void CComponentTab::ShowStatePage(TabState state)

@@ -35,9 +35,6 @@ public:
     void Release() override;
     void ShowState(TabState state) override;
 
-signals:
-    void StateChanged();
-
 private:
     void ShowStatePage(TabState state);
 

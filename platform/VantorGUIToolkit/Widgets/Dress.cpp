@@ -13,55 +13,17 @@ namespace VantorGUIToolkit {
 
 namespace {
 
-QString KindName(ButtonKind kind)
-{
-    switch (kind) {
-    case ButtonKind::Primary:
-        return QStringLiteral("primary");
-    case ButtonKind::Danger:
-        return QStringLiteral("danger");
-    case ButtonKind::Quiet:
-        return QStringLiteral("quiet");
-    case ButtonKind::Normal:
-        break;
-    }
-    return {};
-}
+// The words of each enumeration in its order; an empty one stands for no property.
+constexpr const char* kKinds[] = {"", "primary", "danger", "quiet"};
+constexpr const char* kRoles[] = {"", "title", "heading", "hint", "error", "badge"};
+constexpr const char* kSurfaces[] = {"page", "card", "bar", "sunken", "overlay"};
+constexpr const char* kTones[] = {"ok", "warn", "error", "info", "idle"};
+constexpr const char* kToneIcons[] = {"ok", "warning", "error", "info", "minus"};
 
-QString RoleName(TextRole role)
+template<typename Value, std::size_t count>
+QString WordOf(const char* const (&words)[count], Value value)
 {
-    switch (role) {
-    case TextRole::Title:
-        return QStringLiteral("title");
-    case TextRole::Heading:
-        return QStringLiteral("heading");
-    case TextRole::Hint:
-        return QStringLiteral("hint");
-    case TextRole::Error:
-        return QStringLiteral("error");
-    case TextRole::Badge:
-        return QStringLiteral("badge");
-    case TextRole::Plain:
-        break;
-    }
-    return {};
-}
-
-QString SurfaceName(Surface surface)
-{
-    switch (surface) {
-    case Surface::Page:
-        return QStringLiteral("page");
-    case Surface::Card:
-        return QStringLiteral("card");
-    case Surface::Bar:
-        return QStringLiteral("bar");
-    case Surface::Sunken:
-        return QStringLiteral("sunken");
-    case Surface::Overlay:
-        break;
-    }
-    return QStringLiteral("overlay");
+    return QString::fromLatin1(words[static_cast<std::size_t>(value)]);
 }
 
 /// Sets a property that style sheets select by; an empty value stands for none.
@@ -77,36 +39,12 @@ void Dress(QWidget* widget, const char* property, const QString& value)
 
 QString toneName(Tone tone)
 {
-    switch (tone) {
-    case Tone::Ok:
-        return QStringLiteral("ok");
-    case Tone::Warn:
-        return QStringLiteral("warn");
-    case Tone::Error:
-        return QStringLiteral("error");
-    case Tone::Info:
-        return QStringLiteral("info");
-    case Tone::Idle:
-        break;
-    }
-    return QStringLiteral("idle");
+    return WordOf(kTones, tone);
 }
 
 QString toneIconName(Tone tone)
 {
-    switch (tone) {
-    case Tone::Ok:
-        return QStringLiteral("ok");
-    case Tone::Warn:
-        return QStringLiteral("warning");
-    case Tone::Error:
-        return QStringLiteral("error");
-    case Tone::Info:
-        return QStringLiteral("info");
-    case Tone::Idle:
-        break;
-    }
-    return QStringLiteral("minus");
+    return WordOf(kToneIcons, tone);
 }
 
 void setTone(QWidget* widget, Tone tone)
@@ -117,12 +55,12 @@ void setTone(QWidget* widget, Tone tone)
 void setSurface(QWidget* widget, Surface surface)
 {
     widget->setAttribute(Qt::WA_StyledBackground);
-    Dress(widget, "surface", SurfaceName(surface));
+    Dress(widget, "surface", WordOf(kSurfaces, surface));
 }
 
 void setButtonKind(QPushButton* button, ButtonKind kind)
 {
-    Dress(button, "kind", KindName(kind));
+    Dress(button, "kind", WordOf(kKinds, kind));
 }
 
 QLabel* makeLabel(const QString& text, TextRole role, QWidget* parent)
@@ -131,7 +69,7 @@ QLabel* makeLabel(const QString& text, TextRole role, QWidget* parent)
     label->setTextFormat(Qt::PlainText);
     label->setText(text);
     label->setWordWrap(role == TextRole::Title || role == TextRole::Hint || role == TextRole::Error);
-    Dress(label, "role", RoleName(role));
+    Dress(label, "role", WordOf(kRoles, role));
     return label;
 }
 

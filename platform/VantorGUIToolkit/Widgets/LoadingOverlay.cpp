@@ -142,7 +142,8 @@ bool CLoadingOverlay::Run(const QString& text, std::function<void()> job)
         job = nullptr;
         running->TellEnd();
     };
-    return JobPool().PostTask(std::move(work));
+    JobPool().PostTask(std::move(work)); // the pool ends with the application, after every overlay
+    return true;
 }
 
 void CLoadingOverlay::Cover()

@@ -1,4 +1,4 @@
-#include "GuestDialogs.h"
+#include "WindowEmbedding/posix/GuestDialogs.h"
 
 #include "WindowEmbedding/WindowSystem.h"
 

@@ -1,6 +1,6 @@
-#include "GuestDialogs.h"
 #include "WindowEmbedding/WindowSystem.h"
-#include "WindowPlace.h"
+#include "WindowEmbedding/posix/GuestDialogs.h"
+#include "WindowEmbedding/posix/WindowPlace.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "WindowEmbedding/WindowSystem.h"
 
-#include "WindowPlace.h"
+#include "WindowEmbedding/posix/WindowPlace.h"
 
 #include <QX11Info>
 
