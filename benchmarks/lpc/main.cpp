@@ -1,8 +1,8 @@
 // Measures the local channel between two processes, beside a bare stream socket doing the same work.
 
-#include "Placement.h"
 #include "RawStream.h"
-#include "Samples.h"
+#include "support/Placement.h"
+#include "support/Samples.h"
 
 #include "LPC_Client/LPC_Client.h"
 #include "LPC_Server/LPC_Server.h"

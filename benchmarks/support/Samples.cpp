@@ -1,4 +1,4 @@
-#include "Samples.h"
+#include "support/Samples.h"
 
 #include <algorithm>
 #include <cstdio>

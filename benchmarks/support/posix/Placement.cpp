@@ -1,4 +1,4 @@
-#include "Placement.h"
+#include "support/Placement.h"
 
 #include <csignal>
 #include <cstdlib>
