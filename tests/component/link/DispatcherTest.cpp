@@ -32,7 +32,7 @@ struct Served
     std::vector<std::string> Dispatch(const LPCCallBackData& call)
     {
         calls.clear();
-        dispatcher.Dispatch(call);
+        dispatcher.Dispatch(std::make_shared<const LPCCallBackData>(call));
         return calls;
     }
 
