@@ -78,13 +78,14 @@ void RunComponent(const Plan& plan)
     Measure("component-page-shown", component.ProcessId(), plan);
 }
 
-/// The reference framework with its window, and the component that it started.
+/// The reference framework with its window, and the component that it started, with a page embedded.
 void RunFramework(const Plan& plan)
 {
     const bench::CFreshRoot root;
     CChildProcess framework;
     std::string error;
-    if (!framework.Start({Base::FileUtil::GetCurExeDir() + "Vantor.Framework"},
+    if (!framework.Start({Base::FileUtil::GetCurExeDir() + "Vantor.Framework", "--skin", "BlackRedSkin",
+                          "--language", "1", "--open", "MainView"},
                          Base::FileUtil::UserDataRoot() + "framework-output", error)) {
         std::fprintf(stderr, "starting the framework: %s\n", error.c_str());
         std::exit(1);

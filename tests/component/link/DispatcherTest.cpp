@@ -81,6 +81,22 @@ TEST(ACallWithoutHeaders, IsTakenAsUnknownMethod)
     EXPECT_TRUE(Served().Dispatch({}).empty());
 }
 
+TEST(ANotification, HoldsItsMessageUntilEverybodyIsDone)
+{
+    Served served;
+    std::shared_ptr<protocol::WebSocketNotifyData> queued;
+    served.dispatcher.SetWebsocketSinks([&](auto notification) { queued = std::move(notification); },
+                                        [](const LPCCallBackData&) {}, [](const LPCCallBackData&) {});
+    auto call = std::make_shared<const LPCCallBackData>(Call("websocket", "", "", kOther));
+    const std::weak_ptr<const LPCCallBackData> message = call;
+    served.dispatcher.Dispatch(std::exchange(call, nullptr));
+    ASSERT_TRUE(queued);
+    EXPECT_EQ(queued->type, "deviceAdd");
+    EXPECT_FALSE(message.expired());
+    queued.reset();
+    EXPECT_TRUE(message.expired());
+}
+
 TEST(ARowThatNobodyServes, IsNamedInTheLog)
 {
     CapturedLog log;
