@@ -23,7 +23,11 @@ namespace {
 constexpr std::chrono::seconds kPatience{60};
 constexpr int kMessages = 50000;
 /// How much more memory the flood may take: the channel's queues, and the trees of what is being read.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr long kMemoryKiB = 2 * 1024 * 1024; // the sanitizers' own bookkeeping counts too
+#else
 constexpr long kMemoryKiB = 160 * 1024;
+#endif
 constexpr std::uintmax_t kLogBytes = 512 * 1024;
 
 lpc::Message Method(const std::string& method, const std::string& body)
@@ -143,26 +147,29 @@ protected:
 
 TEST_F(AComponent, BearsAFloodOfMovesAndBadMessages)
 {
-    AsksForAWindow();
-    const long memory = PeakKiB();
-    const auto log = LogBytes();
     const std::vector<lpc::Message> kinds = Kinds();
-    for (int i = 0; i < kMessages; ++i)
-        Send(kinds[static_cast<std::size_t>(i) % kinds.size()]);
-    Send(ManyValues());
+    for (const lpc::Message& kind : kinds)
+        Send(kind);
     AsksForAWindow();
-
-    EXPECT_GT(memory, 0);
-    EXPECT_LT(PeakKiB() - memory, kMemoryKiB);
-    EXPECT_LT(LogBytes() - log, kLogBytes);
-    RecordProperty("moreMemoryKiB", static_cast<int>(PeakKiB() - memory));
-    RecordProperty("moreLogBytes", static_cast<int>(LogBytes() - log));
     const auto lines = run.LogMessages();
     for (const char* beginning :
          {"Failed to cJSON_Parse( [no JSON, password=***", "Failed to cJSON_Parse( [[[[[[",
           "Failed to cJSON_GetObjectItem([data]).", "Failed to read message [showWnd]. Key: [type].",
           "There is no window [www", "[/vantor/v1/internal/video/locaFile] is not served."})
         EXPECT_THAT(lines, Contains(StartsWith(beginning)));
+
+    const long memory = PeakKiB();
+    const auto log = LogBytes();
+    for (int i = 0; i < kMessages; ++i)
+        Send(kinds[static_cast<std::size_t>(i) % kinds.size()]);
+    Send(ManyValues());
+    AsksForAWindow();
+    EXPECT_GT(memory, 0);
+    EXPECT_LT(PeakKiB() - memory, kMemoryKiB);
+    EXPECT_LT(LogBytes() - log, kLogBytes);
+    RecordProperty("moreMemoryKiB", static_cast<int>(PeakKiB() - memory));
+    RecordProperty("moreLogBytes", static_cast<int>(LogBytes() - log));
+
     EXPECT_TRUE(WaitUntil([&] {
         Send(Method("showWnd", "{"));
         const auto now = run.LogMessages();
@@ -170,7 +177,7 @@ TEST_F(AComponent, BearsAFloodOfMovesAndBadMessages)
             return line.rfind("Failed to cJSON_Parse( [", 0) == 0 && line.find(" [skipped-") != line.npos;
         });
     })) << "nothing tells how many lines were left out";
-    EXPECT_THAT(lines, Not(Contains(AnyOf(HasSubstr("hunter2"), HasSubstr("nobodyKnowsThis")))));
+    EXPECT_THAT(run.LogMessages(), Not(Contains(AnyOf(HasSubstr("hunter2"), HasSubstr("nobodyKnowsThis")))));
 
     Send(Method("componentUninit", ""));
     EXPECT_EQ(child.WaitForExit(20000), 0);
