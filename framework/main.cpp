@@ -52,9 +52,14 @@ int main(int argc, char* argv[])
         arguments << QString::fromLocal8Bit(argv[index]);
     QString error;
     const auto line = framework::ParseCommandLine(arguments, error);
-    if (!line || line->help) {
-        std::fputs(qPrintable(line ? framework::HelpText() : error + '\n'), line ? stdout : stderr);
-        return line ? 0 : kWrongCommandLine;
+    if (!line) {
+        std::fputs(qPrintable(error + '\n'), stderr);
+        return kWrongCommandLine;
+    }
+    if (line->help) {
+        const QCoreApplication application(argc, argv); // the text holds its name
+        std::fputs(qPrintable(framework::HelpText()), stdout);
+        return 0;
     }
     if (!PreparePaths())
         return 1;
