@@ -90,10 +90,16 @@ CRASH_FUNCTION void CallNull()
 CRASH_FUNCTION void LoseStack()
 {
 #if defined(__x86_64__)
-    asm volatile("movabs $0x123456789000, %%rsp; ud2" ::"r"(__builtin_frame_address(0)));
+    asm volatile("mov $0x1000, %rsp; ud2");
 #elif defined(__aarch64__)
-    asm volatile("mov x9, #0x1000; mov sp, x9; udf #0" ::"r"(__builtin_frame_address(0)));
+    asm volatile("mov x9, #0x1000; mov sp, x9; udf #0");
 #endif
+}
+
+CRASH_FUNCTION void CallLoseStack()
+{
+    LoseStack();
+    g_sum = g_sum + 1;
 }
 
 CRASH_FUNCTION void WriteToNullBesideAMarker()
@@ -145,7 +151,7 @@ constexpr Way kWays[] = {
     {"overflow", OverflowStackHere},
     {"trap", SendTrap},
     {"null-call", CallNull},
-    {"lost-stack", LoseStack},
+    {"lost-stack", CallLoseStack},
     {"marker", WriteToNullBesideAMarker},
     {"loader-locked", WriteToNullWithTheLoaderLocked},
     {"late-library", WriteToNullInALateLibrarysProcess},
