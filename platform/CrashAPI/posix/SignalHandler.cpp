@@ -17,6 +17,8 @@ namespace {
 
 constexpr int kHandled[] = {SIGSEGV, SIGBUS, SIGILL, SIGFPE, SIGABRT, SIGTRAP};
 constexpr unsigned kReportSeconds = 10;
+/// For the rest, when the folder itself is what the report got stuck on.
+constexpr unsigned kGiveUpSeconds = 2;
 
 struct sigaction g_before[std::size(kHandled)];
 /// The thread that crashed first, and by what; 0 before.
@@ -49,6 +51,9 @@ void SendToThisThread(int number)
 extern "C" void GiveUp(int)
 {
     const int number = g_signal;
+    std::signal(SIGALRM, SIG_DFL);
+    Unblock(SIGALRM);
+    ::alarm(kGiveUpSeconds);
     RemoveOldReports();
     std::signal(number, SIG_DFL);
     Unblock(number);
