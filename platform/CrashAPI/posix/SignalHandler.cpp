@@ -93,6 +93,9 @@ void PassOn(int number, const siginfo_t& info)
 void Report(int number, const siginfo_t& info, const void* context)
 {
     g_signal = number;
+    // A sanitizer blocks everything while a handler runs; a second fault must come here all the same.
+    for (const int handled : kHandled)
+        Unblock(handled);
     LimitReportTime();
     WriteReport(number, info, context);
     ::alarm(0);
