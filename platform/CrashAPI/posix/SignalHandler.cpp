@@ -72,11 +72,11 @@ void LimitReportTime()
     ::alarm(kReportSeconds);
 }
 
-/// The thread that crashed first ends the process for all.
+/// The thread that crashed first ends the process for all, at the latest when it gives up.
 void WaitForTheEnd()
 {
     const timespec step{0, 10 * 1000 * 1000};
-    for (unsigned i = 0; i < kReportSeconds * 100; ++i)
+    for (unsigned i = 0; i < (kReportSeconds + kGiveUpSeconds + 1) * 100; ++i)
         ::nanosleep(&step, nullptr);
 }
 

@@ -55,7 +55,7 @@ CRASH_FUNCTION void ThrowUncaught()
 
 CRASH_FUNCTION void DivideByZero()
 {
-    g_sum = 1 / g_zero;
+    g_sum = 42 / g_zero;
 }
 
 CRASH_FUNCTION void RunIllegalInstruction()

@@ -86,6 +86,14 @@ INSTANTIATE_TEST_SUITE_P(
                              "SIGABRT (6), code -6, raised by the program itself",
                              "crash_child",
                              "ThrowUncaught"},
+#if defined(__x86_64__)
+                    CrashRow{"DivisionByZero",
+                             {"divide"},
+                             SIGFPE,
+                             "SIGFPE (8), code 1, integer division by zero",
+                             "crash_child",
+                             "DivideByZero"},
+#endif
                     CrashRow{"IllegalInstruction",
                              {"illegal"},
                              SIGILL,
