@@ -20,7 +20,11 @@ if(MSVC)
 else()
     target_compile_options(vantor_flags INTERFACE -Wall -Wextra -Wformat=2 -Werror=format -Werror=return-type
                            -Wnon-virtual-dtor -fno-omit-frame-pointer)
-    if(CCACHE)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        # Means the functions too that hand a checked format on.
+        target_compile_options(vantor_flags INTERFACE -Wno-format-nonliteral)
+    endif()
+    if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(vantor_flags INTERFACE -fpch-preprocess)
     endif()
     if(VANTOR_SANITIZE)
