@@ -56,7 +56,8 @@ void CheckScript(const std::string& content)
     for (const lpctool::ScriptLine& line : script ? script->lines : std::vector<lpctool::ScriptLine>()) {
         FUZZ_CHECK(line.number > last);
         last = line.number;
-        FUZZ_CHECK(!lpctool::Describe(line.step).empty() || std::holds_alternative<lpctool::Heading>(line.step));
+        FUZZ_CHECK(!lpctool::Describe(line.step).empty() ||
+                   std::holds_alternative<lpctool::Heading>(line.step));
     }
 }
 

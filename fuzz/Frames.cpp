@@ -1,8 +1,8 @@
 // Bytes of a connection, cut anywhere, for lpc::CFrameReader.
 //
-// Input: a byte that says how to cut (0: not at all), and the bytes. When its highest bit is set the rest describes
-// frames instead, eight bytes each (kind, flags, id, number of header bytes, body length in three bytes, and a byte
-// that fills the body), so that long bodies come up without being in the corpus.
+// Input: a byte that says how to cut (0: not at all), and the bytes. When its highest bit is set the rest
+// describes frames instead, eight bytes each (kind, flags, id, number of header bytes, body length in three
+// bytes, and a byte that fills the body), so that long bodies come up without being in the corpus.
 
 #include "Fuzz.h"
 #include "LPC_Wire/FrameReader.h"
@@ -15,7 +15,8 @@
 
 namespace {
 
-constexpr std::size_t kLongestStream = 3 * lpc::kMiB;
+constexpr std::size_t kLongestStream = 512 * lpc::kKiB;
+constexpr std::size_t kMostPieces = 256; // about, in a long stream
 
 std::string DescribedFrame(fuzz::CInput& input)
 {
@@ -24,11 +25,13 @@ std::string DescribedFrame(fuzz::CInput& input)
     head.flags = static_cast<std::uint16_t>(input.Byte() % 3);
     head.id = input.Byte() % 4;
     head.headerBytes = input.Byte() % 5;
-    head.bodyBytes = input.Byte() + (input.Byte() << 8) + (input.Byte() << 16);
+    head.bodyBytes = input.Byte();
+    head.bodyBytes += input.Byte() << 8;
+    head.bodyBytes += input.Byte() % 4 << 16;
     std::string bytes(lpc::kFrameHeadBytes + head.headerBytes, '\0');
     lpc::WriteFrameHead(head, bytes.data());
     const auto filler = static_cast<char>(input.Byte());
-    return bytes.append(std::min<std::size_t>(head.bodyBytes, 2 * lpc::kMaxFrameBody), filler);
+    return bytes.append(head.bodyBytes, filler);
 }
 
 std::string DescribedStream(fuzz::CInput& input)
@@ -79,8 +82,8 @@ std::size_t Put(lpc::CFrameReader& reader, const char* bytes, std::size_t size)
     return put;
 }
 
-/// The reader's buffer, one step of growth twice over, what the stream may have left in strings that doubled, and the
-/// messages that are kept here.
+/// The reader's buffer, one step of growth twice over, what the stream may have left in strings that doubled,
+/// and the messages that are kept here.
 void CheckMemory(std::size_t before, std::size_t arrived)
 {
     constexpr std::size_t kFixed = 384 * lpc::kKiB;
@@ -101,7 +104,8 @@ Reading ReadAll(const std::string& bytes, CPieces pieces)
     lpc::CFrameReader reader;
     Reading reading;
     for (std::size_t done = 0; done < bytes.size() && reader.GetFault() == lpc::Fault::None;) {
-        const std::size_t put = Put(reader, bytes.data() + done, std::min(pieces.Next(), bytes.size() - done));
+        const std::size_t piece = std::max(pieces.Next(), bytes.size() / kMostPieces);
+        const std::size_t put = Put(reader, bytes.data() + done, std::min(piece, bytes.size() - done));
         FUZZ_CHECK(put > 0);
         done += put;
         TakeMessages(reader, reading);

@@ -13,7 +13,8 @@ using VantorGUIToolkit::DataElement;
 bool operator==(const DataElement& left, const DataElement& right)
 {
     return left.name == right.name && left.text == right.text && left.attributes == right.attributes &&
-           std::equal(left.children.begin(), left.children.end(), right.children.begin(), right.children.end(),
+           std::equal(left.children.begin(), left.children.end(), right.children.begin(),
+                      right.children.end(),
                       [](const DataElement& a, const DataElement& b) { return a == b; });
 }
 

@@ -1,8 +1,9 @@
 // What of a received text may stand in a log line: protocol::LoggableText and, for vantor-lpc, MaskedBody.
 //
-// Input: '-' and any bytes. Or a digit that chooses how a credential is put into a text, and then lines: the name of its
-// key (made into a credential's name when it is none), what stands before the mark in the value, what stands behind it,
-// the name and the value of a member beside it.
+// Input: '-' and any bytes. Or a digit that chooses how a credential is put into a text, and then lines: the
+// name of its key (made into a credential's name when it is none), what stands before the mark in the value,
+// what stands behind it, the name and the value of a member beside it. Names, and the member beside it, come
+// without ":" and "=".
 
 #include "Base/CredentialName.h"
 #include "Fuzz.h"
@@ -132,16 +133,28 @@ std::string ShownByTool(const std::string& text)
     return masked ? lpctool::ToText(*masked) : std::string();
 }
 
+/// A line without the characters.
+std::string Line(fuzz::CInput& input, std::string_view without)
+{
+    std::string line = input.Line();
+    const auto isUnwanted = [&](char c) { return without.find(c) != std::string_view::npos; };
+    line.erase(std::remove_if(line.begin(), line.end(), isUnwanted), line.end());
+    return line;
+}
+
 Credential ReadCredential(fuzz::CInput& input)
 {
+    using namespace std::string_view_literals;
+    constexpr auto kNoSeparators = "\0:="sv;
+    constexpr auto kNotInJson = "\0"sv;
     Credential credential;
-    credential.key = input.Line();
+    credential.key = Line(input, kNoSeparators);
     if (!Base::IsCredentialName(credential.key))
         credential.key += "Password";
-    credential.value = input.Line() + kMark;
-    credential.value += input.Line();
-    credential.otherKey = input.Line();
-    credential.otherValue = input.Line();
+    credential.value = Line(input, kNotInJson) + kMark;
+    credential.value += Line(input, kNotInJson);
+    credential.otherKey = Line(input, kNoSeparators);
+    credential.otherValue = Line(input, kNoSeparators);
     return credential;
 }
 

@@ -1,7 +1,7 @@
 // The setup of the data encryption: the document, the text sealed in it, and the file of the sealing key.
 //
-// Input: 'x' and the document; 's' and the text that is sealed and put into a good document; 'k' and the content of
-// the key's file.
+// Input: 'x' and the document; 's' and the text that is sealed and put into a good document; 'k' and the
+// content of the key's file.
 
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "Fuzz.h"
@@ -90,7 +90,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         CheckSealed(input.Rest());
     } else if (mode == 'k') {
         const std::string key = input.Rest();
-        FUZZ_CHECK(!Read(Document("id=a\nkey=" + kKeyText + "\ndata=" + kKeyText + "\n"), key) || key == kKeyText);
+        FUZZ_CHECK(!Read(Document("id=a\nkey=" + kKeyText + "\ndata=" + kKeyText + "\n"), key) ||
+                   key == kKeyText);
     } else if (const auto setup = Read(input.Rest(), kKeyText)) {
         CheckSetup(*setup);
     }

@@ -2,7 +2,9 @@
 
 finds=build/fuzz/corpus
 crashes=build/fuzz/crashes
-scratch=build/fuzz/scratch
+# Where targets write files of their own; memory is twenty times as fast as a disk.
+scratch=/dev/shm
+[ -w "$scratch" ] || scratch=${TMPDIR:-/tmp}
 
 # Debian's log4cxx gives its rolling policy back under the size of its base class. Reports name lines by addr2line where
 # there is no llvm-symbolizer.
@@ -14,7 +16,9 @@ export LC_ALL=C.UTF-8
 fuzz_target() {
     local target=$1
     shift
-    mkdir -p "$crashes" "$scratch"
-    TMPDIR=$PWD/$scratch "build/fuzz/bin/fuzz_$target" -artifact_prefix="$crashes/$target-" -timeout=10 \
+    mkdir -p "$crashes"
+    TMPDIR=$scratch "build/fuzz/bin/fuzz_$target" -artifact_prefix="$crashes/$target-" -timeout=10 \
         -rss_limit_mb=1024 -dict="fuzz/dictionaries/$target" "$@"
 }
+
+all_targets() { ls fuzz/corpus; }
