@@ -23,7 +23,9 @@ std::string Escaped(const std::string& text)
 {
     std::string escaped;
     for (const char c : text) {
-        if (std::string_view("<>&\"'\r\n\t").find(c) == std::string_view::npos)
+        if (c == '&')
+            escaped += "&amp;"; // libxml2 keeps it as a reference in the address of a name space
+        else if (std::string_view("<>\"'\r\n\t").find(c) == std::string_view::npos)
             escaped += c;
         else
             escaped += "&#" + std::to_string(static_cast<int>(c)) + ";";
