@@ -10,6 +10,7 @@
 #include <log4cxx/propertyconfigurator.h>
 #include <log4cxx/spi/location/locationinfo.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdarg>
@@ -86,6 +87,13 @@ std::string FormatMessage(const char* format, std::va_list arguments)
     return message;
 }
 
+/// What a text from outside may hold must not look like further lines.
+void PutOnOneLine(std::string& message)
+{
+    std::replace_if(
+        message.begin(), message.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+}
+
 } // namespace
 
 CLog& CLog::Instance()
@@ -124,8 +132,9 @@ void CLog::Write(LogLevel level, const char* logger, const LogLocation& location
 
     std::va_list arguments;
     va_start(arguments, format);
-    const std::string message = FormatMessage(format, arguments);
+    std::string message = FormatMessage(format, arguments);
     va_end(arguments);
+    PutOnOneLine(message);
     if (observer)
         observer(level, logger, message);
     if (wanted)

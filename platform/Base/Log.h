@@ -33,7 +33,7 @@ public:
     void UninitLog();
 
     /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at
-    /// 16 KiB.
+    /// 16 KiB; control characters in it become blanks.
     void Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
         BASE_PRINTF_FORMAT(5, 6);
 
