@@ -4,6 +4,7 @@
 #include "Base/StringUtil.h"
 #include "CommonMethodLib/UserDataPath.h"
 #include "UiDataController/HighDPIMgr.h"
+#include "UiDataController/ScreenGuard.h"
 #include "WindowEmbedding/GuestWindow.h"
 #include "framework/ui/FrameworkApplication.h"
 
@@ -12,9 +13,11 @@
 
 #include <clocale>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
+constexpr int kCannotRun = 1;
 constexpr int kWrongCommandLine = 2;
 
 bool PreparePaths()
@@ -36,7 +39,7 @@ int Run(const framework::CommandLine& line)
     if (!application.Start(error)) {
         if (!error.isEmpty())
             std::fprintf(stderr, "%s\n", qPrintable(error));
-        return error.isEmpty() ? 0 : 1;
+        return error.isEmpty() ? 0 : kCannotRun;
     }
     return QApplication::exec();
 }
@@ -47,6 +50,7 @@ int main(int argc, char* argv[])
 {
     std::setlocale(LC_CTYPE, "");
     Base::ProcessUtil::HoldEndRequests();
+    Base::ProcessUtil::FailWritesInsteadOfEnding();
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
@@ -57,10 +61,13 @@ int main(int argc, char* argv[])
         return line ? 0 : kWrongCommandLine;
     }
     if (!PreparePaths())
-        return 1;
-    Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+        return kCannotRun;
+    const auto& paths = comm_methodlib::CUserDataPath::Instance();
+    Base::CLog::Instance().InitLog(paths.logPropertiesPath(), paths.installedLogPropertiesPath());
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
+    std::optional<UiDataController::CScreenGuard> guard(kCannotRun);
     QApplication application(argc, argv);
+    guard.reset();
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() + "/../plugins");
     embedding::FollowMouseWithFocus();
     const int result = Run(*line);

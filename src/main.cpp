@@ -7,6 +7,7 @@
 #include "CrashAPI/CrashAPI.h"
 #include "SignalTransmit.h"
 #include "UiDataController/HighDPIMgr.h"
+#include "UiDataController/ScreenGuard.h"
 #include "ui/Application/CrashSetup.h"
 #include "ui/Application/VantorApplication.h"
 
@@ -27,6 +28,12 @@ void PreparePaths()
     const std::string exeDir = Base::FileUtil::GetCurExeDir();
     comm_methodlib::CUserDataPath::Instance().init(exeDir + "../", "Video.C", -1, -1);
     Base::FileUtil::InitCurExeDirUtf8(Base::LocalToUTF8(exeDir));
+}
+
+std::unique_ptr<video::CVantorApplication> MakeApplication(int& argc, char** argv)
+{
+    const UiDataController::CScreenGuard guard(kInitFailed);
+    return std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
 }
 
 void AddPluginPath()
@@ -52,13 +59,15 @@ int main(int argc, char* argv[])
 {
     std::setlocale(LC_CTYPE, "");
     Base::ProcessUtil::HoldEndRequests();
+    Base::ProcessUtil::FailWritesInsteadOfEnding();
     PreparePaths();
-    Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    const auto& paths = comm_methodlib::CUserDataPath::Instance();
+    Base::CLog::Instance().InitLog(paths.logPropertiesPath(), paths.installedLogPropertiesPath());
     CrashAPI_PrepareThread();
     std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
-    auto application = std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
+    auto application = MakeApplication(argc, argv);
     Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
     AddPluginPath();
     if (!application->Init())

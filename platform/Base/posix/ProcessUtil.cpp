@@ -45,6 +45,12 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
+void FailWritesInsteadOfEnding()
+{
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        ::signal(number, SIG_IGN);
+}
+
 void NameThisThread(const std::string& name)
 {
     ::pthread_setname_np(::pthread_self(), name.substr(0, 15).c_str());
