@@ -63,6 +63,9 @@ int main(int argc, char* argv[])
     PreparePaths();
     const auto& paths = comm_methodlib::CUserDataPath::Instance();
     Base::CLog::Instance().InitLog(paths.logPropertiesPath(), paths.installedLogPropertiesPath());
+    // Said on standard error; without a place every file would go to wherever the process was started.
+    if (paths.rootPath().empty())
+        return kInitFailed;
     CrashAPI_PrepareThread();
     std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
