@@ -36,12 +36,18 @@ constexpr auto kFramework = Program::Framework;
 
 constexpr int kFailed = 255;
 constexpr int kCannotRun = 1;
-/// Under a host: was ready, and ended in order when it was asked to.
+/// Was ready, and ended in order when it was asked to.
 constexpr int kWorks = 0;
 
 constexpr const char* kFull = "mount -t tmpfs -o size=64k none $R/data; head -c 1M /dev/zero >$R/data/all";
 constexpr const char* kFilledLater =
     "mount -t tmpfs -o size=2M none $R/data; $HOSTED; head -c 2M /dev/zero >$R/data/all";
+constexpr const char* kFilledWhileRunning = R"(mount -t tmpfs -o size=2M none $R/data
+self=$(sh -c 'echo $PPID')
+( until grep -qs 'APP Init Success' $R/data/Video.C/log/Video.C.log; do sleep 0.05; done
+  head -c 2M /dev/zero >$R/data/all
+  yes '' | head -c 4K >>$R/data/Video.C/log/Video.C.log
+  kill $self ) &)";
 constexpr const char* kReadOnly = "mount -t tmpfs -o ro none $R/data";
 constexpr const char* kNoHome =
     "unset HOME XDG_DATA_HOME VANTOR_USER_DATA; set -- unshare -U --map-user=54321 \"$@\"";
@@ -51,6 +57,7 @@ const Fault kFaults[] = {
     {"FullDisk", kAlone, kFull, kFailed, "InitDatabase Failed."},
     {"FullDiskForTheFramework", kFramework, kFull, kCannotRun, "DESetup.xml\" cannot be written."},
     {"DiskFilledLater", kAlone, kFilledLater, kFailed, "InitDatabase Failed."},
+    {"DiskFilledWhileItRuns", kAlone, kFilledWhileRunning, kWorks, "Log: lines are lost from here on"},
     {"ReadOnlyData", kAlone, kReadOnly, kFailed, "data/]: Read-only file system."},
     {"ReadOnlyDataForTheFramework", kFramework, kReadOnly, kCannotRun, "data/]: Read-only file system."},
     {"DataBelowAFile", kAlone, "export VANTOR_USER_DATA=/etc/passwd/data", kFailed, "Not a directory."},
