@@ -111,16 +111,16 @@ std::atomic<std::size_t> g_lost{0};
 void WriteLine(const log4cxx::LoggerPtr& logger, LogLevel level, const std::string& message,
                const log4cxx::spi::LocationInfo& place)
 {
+    std::size_t lost = g_lost.exchange(0);
     try {
-        if (g_lost > 0) {
+        if (lost > 0)
             logger->forcedLog(
                 Level(LogLevel::Warn),
-                "Here " + std::to_string(g_lost) + " lines are missing that could not be written.", place);
-            g_lost = 0;
-        }
+                "Here " + std::to_string(lost) + " lines are missing that could not be written.", place);
+        lost = 0;
         logger->forcedLog(Level(level), message, place);
     } catch (const std::exception& error) {
-        if (g_lost++ == 0)
+        if ((g_lost += lost + 1) == 1)
             std::fprintf(stderr, "Log: lines are lost from here on: %s.\n", error.what());
         if (level >= LogLevel::Error)
             std::fprintf(stderr, "%s\n", message.c_str());

@@ -3,7 +3,8 @@
 #include "Base/Log.h"
 
 #include <QByteArray>
-#include <QString>
+#include <QDebug>
+#include <QStringList>
 
 #include <cstdio>
 #include <cstdlib>
@@ -14,11 +15,12 @@ namespace {
 
 QtMessageHandler g_former = nullptr;
 int g_exitCode = 0;
-/// The first that Qt's platform had to say: later messages only follow from it.
-QByteArray g_reason;
+/// What Qt's platform warned of. The first is the reason of a fatal error, the others only follow from it.
+QStringList g_warnings;
 
-[[noreturn]] void EndProcess(const QByteArray& reason)
+[[noreturn]] void EndProcess(const QString& text)
 {
+    const QByteArray reason = text.simplified().toLocal8Bit();
     BASE_FATAL("No screen can be used: %s", reason.constData());
     Base::CLog::Instance().UninitLog();
     std::fprintf(stderr, "No screen can be used: %s\n", reason.constData());
@@ -29,11 +31,11 @@ QByteArray g_reason;
 void Handle(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
     if (type == QtFatalMsg)
-        EndProcess(g_reason.isEmpty() ? text.simplified().toLocal8Bit() : g_reason);
-    if (!QByteArray(context.category).startsWith("qt.qpa"))
-        return g_former(type, context, text);
-    if (g_reason.isEmpty())
-        g_reason = text.simplified().toLocal8Bit();
+        EndProcess(g_warnings.value(0, text));
+    if (type == QtWarningMsg && QByteArray(context.category).startsWith("qt.qpa"))
+        g_warnings.append(text);
+    else
+        g_former(type, context, text);
 }
 
 } // namespace
@@ -47,6 +49,9 @@ CScreenGuard::CScreenGuard(int exitCode) : m_former(qInstallMessageHandler(Handl
 CScreenGuard::~CScreenGuard()
 {
     qInstallMessageHandler(m_former);
+    for (const QString& text : qAsConst(g_warnings))
+        qWarning().noquote() << text;
+    g_warnings.clear();
 }
 
 } // namespace UiDataController
