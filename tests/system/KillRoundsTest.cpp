@@ -52,14 +52,17 @@ std::set<int> ProcessesOf(const std::string& root)
     return processes;
 }
 
-/// Relative to the folder, with "#" for the hash of the data root in the names of sockets and locks.
+/// Relative to the folder, with "#" for the hash of the data root in the names of sockets and locks. A file
+/// that was being written counts as the one that it was to become: the next writer uses its name again.
 std::set<std::string> NamesIn(const fs::path& folder)
 {
     static const std::regex hash("[0-9a-f]{16}");
+    static const std::regex unfinished("\\.(writing|encrypting)(-journal)?$");
     std::set<std::string> names;
     std::error_code ignored;
     for (const auto& entry : fs::recursive_directory_iterator(folder, ignored))
-        names.insert(std::regex_replace(fs::relative(entry.path(), folder).string(), hash, "#"));
+        names.insert(std::regex_replace(
+            std::regex_replace(fs::relative(entry.path(), folder).string(), hash, "#"), unfinished, ""));
     return names;
 }
 
@@ -126,6 +129,7 @@ private:
         Start();
         m_doing = "start after a kill";
         m_client.AwaitEmbedded(kGallery);
+        Expect(ProcessesOf(Root()).size() >= 2, "the processes are not where they are looked for");
         m_doing = "killed when started";
         Pause(600);
         if (OneIn(3)) {
