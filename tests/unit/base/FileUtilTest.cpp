@@ -32,7 +32,7 @@ TEST(WritingAFile, IsDoneByOneThreadAfterTheOther)
     const std::string path = root.Path() + "file";
     const auto write = [&](char letter) {
         bool written = true;
-        for (int time = 0; time < 100; ++time)
+        for (int time = 0; time < 10; ++time)
             written = WriteFileAtomically(path, std::string(5000, letter)) && written;
         return written;
     };
