@@ -17,6 +17,7 @@
 #include <clocale>
 #include <future>
 #include <memory>
+#include <system_error>
 
 namespace {
 
@@ -44,11 +45,33 @@ void AddPluginPath()
     QCoreApplication::addLibraryPath(dir);
 }
 
-int FailedInit(std::unique_ptr<video::CVantorApplication> application, std::future<void>& crashSetup)
+using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
+
+/// False when the component cannot run; the application is then as far as it came.
+bool StartUp(int& argc, char** argv, std::future<void>& crashSetup, ApplicationPtr& application)
 {
-    application->UnInit();
+    try {
+        crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
+        BASE_INFO("InitSysParameter:in0");
+        UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
+        application = MakeApplication(argc, argv);
+        Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
+        AddPluginPath();
+        return application->Init();
+    } catch (const std::system_error& error) {
+        BASE_FATAL("The system refuses a thread or another thing that the component needs: %s.",
+                   error.what());
+        return false;
+    }
+}
+
+int FailedInit(ApplicationPtr application, std::future<void>& crashSetup)
+{
+    if (application)
+        application->UnInit();
     QCoreApplication::exit(0);
-    crashSetup.wait();
+    if (crashSetup.valid())
+        crashSetup.wait();
     application.reset();
     return kInitFailed;
 }
@@ -67,13 +90,9 @@ int main(int argc, char* argv[])
     if (paths.rootPath().empty())
         return kInitFailed;
     CrashAPI_PrepareThread();
-    std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
-    BASE_INFO("InitSysParameter:in0");
-    UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
-    auto application = MakeApplication(argc, argv);
-    Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
-    AddPluginPath();
-    if (!application->Init())
+    std::future<void> crashSetup;
+    ApplicationPtr application;
+    if (!StartUp(argc, argv, crashSetup, application))
         return FailedInit(std::move(application), crashSetup);
 
     if (application->IsRightToLeft())
