@@ -295,7 +295,7 @@ private:
 TEST(TheClient, StartsSoundAfterKillsAtRandomMoments)
 {
     const auto seed = static_cast<unsigned>(Setting("VANTOR_KILL_SEED", 1));
-    KillRounds(seed).Run(Setting("VANTOR_KILL_ROUNDS", 6));
+    KillRounds(seed).Run(Setting("VANTOR_KILL_ROUNDS", 4));
 }
 
 } // namespace
