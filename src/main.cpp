@@ -90,6 +90,7 @@ int main(int argc, char* argv[])
     if (paths.rootPath().empty())
         return kInitFailed;
     CrashAPI_PrepareThread();
+    Base::ProcessUtil::OnThreadStart([] { CrashAPI_PrepareThread(); });
     std::future<void> crashSetup;
     ApplicationPtr application;
     if (!StartUp(argc, argv, crashSetup, application))
