@@ -1,6 +1,7 @@
 #include "LPC_Server/ServerLoop.h"
 
 #include "LPC_Wire/Hello.h"
+#include "LPC_Wire/Limits.h"
 #include "LPC_Wire/SocketName.h"
 
 #include "Base/Log.h"
@@ -41,6 +42,7 @@ int CServerLoop::Start(const std::string& serverName)
     }
     m_poller.Add(m_listener.Handle(), kListenerKey, lpc::kReadable);
     m_stop = false;
+    m_reads = true;
     m_thread = std::thread([this] { Run(); });
     return lpc::kNoError;
 }
@@ -62,17 +64,49 @@ void CServerLoop::Run()
 {
     Base::ProcessUtil::NameThisThread("lpc-server");
     m_threadId = std::this_thread::get_id();
+    m_orders.SetThread();
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
         const std::size_t count = m_poller.Wait(events, kEvents, Sleep());
+        m_orders.SetBusy(true);
+        FlushOrdered();
         for (std::size_t i = 0; i < count && !m_stop; ++i)
             OnEvent(events[i]);
         HandleDeadlines();
+        m_orders.SetBusy(false);
+        FlushOrdered();
     }
     m_poller.Remove(m_listener.Handle());
     m_listener.Close();
+    SayFarewell();
     CloseAll();
     m_threadId = std::thread::id();
+}
+
+void CServerLoop::FlushOrdered()
+{
+    if (!m_orders.Take())
+        return;
+    for (const ClientPtr& client : Clients())
+        client->Outbound().FlushOrdered();
+}
+
+/// What waits for clients is still written, as far as they read.
+void CServerLoop::SayFarewell()
+{
+    const lpc::TimePoint deadline = lpc::DeadlineAfter(lpc::kServerFarewellMs);
+    m_reads = false;
+    for (const ClientPtr& client : Clients()) {
+        client->Outbound().RenewWatch();
+        client->Outbound().Flush();
+    }
+    lpc::CPoller::Event events[kEvents];
+    while (m_congested > 0 && std::chrono::steady_clock::now() < deadline) {
+        const std::size_t count = m_poller.Wait(events, kEvents, deadline);
+        for (std::size_t i = 0; i < count; ++i)
+            if (const ClientPtr client = Find(events[i].key))
+                client->Outbound().Flush();
+    }
 }
 
 void CServerLoop::CloseAll()
@@ -116,8 +150,10 @@ void CServerLoop::Welcome(lpc::CLocalSocket socket)
     const ClientId id = ++m_lastClient;
     const lpc::SocketHandle handle = socket.Handle();
     const bool isThisUser = socket.PeerIsThisUser();
-    const auto client = std::make_shared<CServerClient>(id, std::move(socket), m_limits.sendQueueBytes,
-                                                        [=](bool watch) { WatchRoom(handle, id, watch); });
+    const lpc::COutbound::Hooks hooks{[=](bool watch) { WatchRoom(handle, id, watch); },
+                                      [this] { return m_orders.Order(); }};
+    const auto client =
+        std::make_shared<CServerClient>(id, std::move(socket), m_limits.sendQueueBytes, hooks);
     std::size_t others = 0;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
@@ -139,7 +175,7 @@ void CServerLoop::Welcome(lpc::CLocalSocket socket)
 void CServerLoop::WatchRoom(lpc::SocketHandle handle, ClientId id, bool watch)
 {
     m_congested += watch ? 1 : -1;
-    m_poller.Modify(handle, id, watch ? lpc::kReadable | lpc::kWritable : lpc::kReadable);
+    m_poller.Modify(handle, id, (m_reads ? lpc::kReadable : 0U) | (watch ? lpc::kWritable : 0U));
     if (watch && !OnOwnThread())
         m_poller.Wake();
 }
@@ -165,10 +201,22 @@ void CServerLoop::Read(const ClientPtr& client)
     }
     if (client->Reader().GetFault() != lpc::Fault::None)
         CloseFaulty(client, client->Reader().GetFault());
+    else if (!HasRoomForBodies(*client))
+        Drop(client, Misfortune::TooManyBytes);
     else if (!open && client->Reader().InsideMessage())
         Drop(client, Misfortune::CutOff);
     else if (!open)
         Close(client);
+}
+
+/// Counts what has arrived, not what was announced.
+bool CServerLoop::HasRoomForBodies(CServerClient& client)
+{
+    const std::size_t bytes = client.Reader().UnfinishedBytes();
+    m_unfinishedBytes += bytes - client.unfinishedBytes;
+    const bool grows = bytes > client.unfinishedBytes;
+    client.unfinishedBytes = bytes;
+    return !grows || m_unfinishedBytes <= m_limits.unfinishedBytes;
 }
 
 /// False when the connection was closed over the message.
@@ -247,6 +295,7 @@ void CServerLoop::Close(const ClientPtr& client)
         if (m_clients.erase(client->Id()) == 0)
             return;
     }
+    m_unfinishedBytes -= client->unfinishedBytes;
     client->Outbound().Break();
     m_poller.Remove(client->Handle());
     for (const AnswerCallBack& onAnswer : m_pending.TakeAllOf(client->Id()))
@@ -268,8 +317,9 @@ void CServerLoop::CloseFaulty(const ClientPtr& client, lpc::Fault fault)
 void CServerLoop::Drop(const ClientPtr& client, Misfortune misfortune)
 {
     static constexpr const char* kTexts[] = {
-        "ended inside a message",  "said no hello in time",          "does not read what it is sent",
-        "belongs to another user", "there are too many connections",
+        "ended inside a message",         "said no hello in time",
+        "does not read what it is sent",  "belongs to another user",
+        "there are too many connections", "the unfinished bodies of all clients are over the limit",
     };
     Log(Kind(misfortune), client->name, kTexts[static_cast<std::size_t>(misfortune)]);
     Close(client);
