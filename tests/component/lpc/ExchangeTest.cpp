@@ -92,8 +92,8 @@ TEST_F(Exchange, NotificationsArriveInOrderOnOneThread)
 /// Notifications in a burst leave together, and still before what is sent after them.
 TEST_F(Exchange, BurstsKeepTheirOrderAmongCallsAndLongNotifications)
 {
-    EchoServer server;
     Collected<std::string> arrived;
+    EchoServer server;
     server.onData = [&](lpcserver::ClientId client, const lpc::CallBackData& data) {
         arrived.Add(data.Header("n"));
         if (data.requestId != 0) {
@@ -120,8 +120,8 @@ TEST_F(Exchange, BurstsKeepTheirOrderAmongCallsAndLongNotifications)
 
 TEST_F(Exchange, ABurstLeavesAlsoWhileTheReceiverIsBusy)
 {
-    EchoServer server;
     Collected<std::string> arrived;
+    EchoServer server;
     server.onData = [&](lpcserver::ClientId, const lpc::CallBackData& data) {
         arrived.Add(data.Header("n"));
     };
