@@ -24,10 +24,12 @@ bool& OnLibraryThread()
 }
 
 CConnection::CConnection(lpc::CLocalSocket socket, lpc::CFrameReader reader, CInbound& inbound,
-                         lpc::CPoller& poller, std::uint64_t key, const std::atomic<RequestId>& lastId)
+                         lpc::CPoller& poller, lpc::CFlushOrders& orders, std::uint64_t key,
+                         const std::atomic<RequestId>& lastId)
     : m_socket(std::move(socket)), m_reader(std::move(reader)), m_inbound(inbound), m_poller(poller),
       m_lastId(lastId), m_watch(poller, m_socket.Handle(), key),
-      m_outbound(m_socket, lpc::kSendQueueBytes, [this](bool watch) { m_watch.Write(watch); })
+      m_outbound(m_socket, lpc::kSendQueueBytes,
+                 {[this](bool watch) { m_watch.Write(watch); }, [&orders] { return orders.Order(); }})
 {}
 
 void CConnection::Start()
@@ -47,7 +49,9 @@ bool CConnection::IsOpen() const
 
 int CConnection::Post(lpc::Kind kind, RequestId id, const HeaderMap& headers, const std::string& body)
 {
-    return m_outbound.Post(lpc::CFrameSet(kind, id, headers, body));
+    using Urgency = lpc::COutbound::Urgency;
+    return m_outbound.Post(lpc::CFrameSet(kind, id, headers, body),
+                           kind == lpc::Kind::Notification ? Urgency::MayWait : Urgency::AtOnce);
 }
 
 int CConnection::Ask(RequestId id, const lpc::Message& request, AnswerCallBack onAnswer)
@@ -76,7 +80,7 @@ int CConnection::Exchange(RequestId id, const lpc::Message& request, std::uint32
     if (frames.Error() != lpc::kNoError)
         return frames.Error();
     // On the library's own thread nobody would ever make room.
-    if (OnLibraryThread() && IsHeldBack())
+    if (OnLibraryThread() && AreCallersHeldBack())
         return lpc::kTryAgain;
 
     Waiter self;
@@ -141,7 +145,7 @@ int CConnection::WriteRequest(const lpc::CFrameSet& frames, const Waiter& self, 
     waited = true;
     bool reads = Holds(self);
     while (error == lpc::kNoError && !m_ended && m_outbound.IsWaiting(ticket)) {
-        if (reads && IsHeldBack()) {
+        if (reads && AreCallersHeldBack()) {
             error = OnLibraryThread() ? lpc::kTryAgain : lpc::kNoError;
             reads = false;
             std::lock_guard<std::mutex> lock(m_mutex);
@@ -171,7 +175,7 @@ int CConnection::AwaitAnswer(Waiter& self, std::uint32_t firstWaitMs, lpc::TimeP
             if (m_role == Role::Stalled && OnLibraryThread())
                 return lpc::kTryAgain;
             Park(self, lock, deadline);
-        } else if (IsHeldBack()) {
+        } else if (AreCallersHeldBack()) {
             Stall();
         } else {
             lock.unlock();
@@ -208,7 +212,7 @@ bool CConnection::TakeRole(Waiter& self)
 {
     if (m_holder == &self)
         return true;
-    if (m_role != Role::Free)
+    if (m_role != Role::Free && (m_role != Role::Stalled || AreCallersHeldBack()))
         return false;
     m_role = Role::Caller;
     m_holder = &self;
@@ -248,7 +252,11 @@ void CConnection::Stall()
 void CConnection::ResumeReading()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    if (m_role == Role::Stalled && (m_inbound.HasRoom() || m_socket.HasHungUp()))
+    if (m_role != Role::Stalled)
+        return;
+    const bool callerWaits =
+        std::any_of(m_waiters.begin(), m_waiters.end(), [](const Waiter* waiter) { return waiter->parked; });
+    if (m_inbound.HasRoom() || (callerWaits && !m_inbound.IsFull()) || m_socket.HasHungUp())
         PassRole();
 }
 

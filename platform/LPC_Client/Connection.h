@@ -3,9 +3,9 @@
 #include "LPC_Client/Inbound.h"
 #include "LPC_Client/SocketWatch.h"
 
+#include "LPC_Wire/FlushOrders.h"
 #include "LPC_Wire/FrameReader.h"
 #include "LPC_Wire/Outbound.h"
-#include "LPC_Wire/Poller.h"
 #include "LPC_Wire/RateLimit.h"
 
 #include <atomic>
@@ -21,14 +21,15 @@ namespace lpcclient {
 /// Exactly one thread reads at a time: a caller that waits for an answer reads the socket itself, without any
 /// thread between; the library's thread watches the socket only while no caller reads. The role goes from
 /// hand to hand under m_mutex, so what arrives keeps its order whoever reads it. While the receive queue is
-/// full nobody reads, unless the server is gone: then the rest is little, and its end must be seen.
+/// full the library's thread does not read; a caller reads on for its answer, up to a limit of its own. When
+/// the server is gone the rest is little, and its end must be seen: then it is read in any case.
 class CConnection
 {
 public:
     /// Takes over the socket and what was read after the hello. key names the connection in the poller's
     /// events; lastId is the highest identifier given to a request so far.
     CConnection(lpc::CLocalSocket socket, lpc::CFrameReader reader, CInbound& inbound, lpc::CPoller& poller,
-                std::uint64_t key, const std::atomic<RequestId>& lastId);
+                lpc::CFlushOrders& orders, std::uint64_t key, const std::atomic<RequestId>& lastId);
 
     /// Begins to watch the socket, after what was already read has been handed out.
     void Start();
@@ -49,6 +50,9 @@ public:
 
     /// The library's thread: lets reading go on that had stopped because the receive queue was full.
     void ResumeReading();
+
+    /// The library's thread: writes what was kept back for it.
+    void FlushOrdered() { m_outbound.FlushOrdered(); }
 
     /// Ends the connection from this side, without "clientDisconnected". What waits to be written still
     /// leaves, within kFarewellMs.
@@ -74,6 +78,7 @@ private:
     Waiter* TakeWaiter(RequestId id);
     bool Holds(const Waiter& self) const;
     bool IsHeldBack() const { return m_inbound.IsFull() && !m_socket.HasHungUp(); }
+    bool AreCallersHeldBack() const { return m_inbound.IsFullForCallers() && !m_socket.HasHungUp(); }
 
     bool TakeRole(Waiter& self);
     void PassRole();
@@ -84,6 +89,7 @@ private:
     void ReadWaiting(std::uint32_t timeoutMs);
     void TakeIn(const lpc::IoResult& result);
     void HandOut();
+    void WakeLibrary();
     bool Dispatch(lpc::WireMessage& message);
     void TakeMessage(lpc::WireMessage& message);
     void TakeAnswer(int error, lpc::WireMessage& message);
@@ -104,6 +110,11 @@ private:
     std::vector<Waiter*> m_waiters; ///< those whose answer has not come
     std::unordered_map<RequestId, AnswerCallBack> m_pending;
     std::atomic<bool> m_ended{false};
+
+    // Of the reader:
+    bool m_handedOver = false; ///< something for the library's thread
+    lpc::TimePoint m_lastWake;
+
     lpc::CRateLimit<1> m_strayAnswers;
 };
 

@@ -10,6 +10,10 @@
 namespace lpcclient {
 namespace {
 
+/// The library's thread is woken for each bundle of messages, but where they follow one another as fast as
+/// this, for several together.
+constexpr std::chrono::microseconds kWakeGap{50};
+
 InboundItem LossNotification()
 {
     InboundItem item;
@@ -50,10 +54,25 @@ void CConnection::HandOut()
     bool good = true;
     while (good && m_reader.Next(message))
         good = Dispatch(message);
+    if (m_handedOver)
+        WakeLibrary();
     if (good && m_reader.GetFault() == lpc::Fault::None)
         return;
     LogFault(good ? m_reader.GetFault() : lpc::Fault::Order);
     End(true);
+}
+
+void CConnection::WakeLibrary()
+{
+    m_handedOver = false;
+    if (OnLibraryThread())
+        return;
+    const lpc::TimePoint now = std::chrono::steady_clock::now();
+    if (now - m_lastWake < kWakeGap)
+        m_poller.WakeSoon();
+    else
+        m_poller.Wake();
+    m_lastWake = now;
 }
 
 bool CConnection::Dispatch(lpc::WireMessage& message)
@@ -77,20 +96,19 @@ bool CConnection::Dispatch(lpc::WireMessage& message)
 void CConnection::TakeMessage(lpc::WireMessage& message)
 {
     InboundItem item;
-    item.data = {message.id, std::move(message.headers), std::move(message.body)};
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_ended)
-            return;
-        m_inbound.Push(std::move(item));
-    }
-    if (!OnLibraryThread())
-        m_poller.Wake();
+    item.data.requestId = message.id;
+    item.data.headers = std::move(message.headers);
+    item.data.body = std::move(message.body);
+    std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_ended)
+        return;
+    m_inbound.Push(std::move(item));
+    m_handedOver = true;
 }
 
 void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
 {
-    std::unique_lock<std::mutex> lock(m_mutex);
+    std::lock_guard<std::mutex> lock(m_mutex);
     if (Waiter* const waiter = TakeWaiter(message.id)) {
         waiter->answer = {std::move(message.headers), std::move(message.body)};
         waiter->error = error;
@@ -104,9 +122,7 @@ void CConnection::TakeAnswer(int error, lpc::WireMessage& message)
             {0, std::move(message.headers), std::move(message.body)}, std::move(pending->second), error};
         m_pending.erase(pending);
         m_inbound.Push(std::move(item));
-        lock.unlock();
-        if (!OnLibraryThread())
-            m_poller.Wake();
+        m_handedOver = true;
         return;
     }
     unsigned skipped = 0;

@@ -23,8 +23,8 @@ std::size_t InboundItem::Bytes() const
 
 void CInbound::Push(InboundItem item)
 {
+    item.data.receipt = m_window->Charge(item.Bytes());
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_bytes += item.Bytes();
     m_items.push_back(std::move(item));
 }
 
@@ -35,7 +35,7 @@ std::optional<InboundItem> CInbound::Take(Receiver& receiver)
                                    [this](const InboundItem& item) { return m_everSet || item.onAnswer; });
     if (next == m_items.end())
         return std::nullopt;
-    m_bytes -= next->Bytes();
+    m_window->Lend(next->Bytes());
     InboundItem item = std::move(*next);
     m_items.erase(next);
     receiver = m_receiver;
@@ -51,6 +51,7 @@ bool CInbound::DeliverOne()
     if (!item)
         return false;
     Deliver(*item, receiver);
+    m_window->Lend(0);
     // What the callbacks hold goes before anybody who waits for the end of the call.
     item.reset();
     receiver = {};
@@ -91,9 +92,6 @@ void CInbound::DropMessages()
     std::unique_lock<std::mutex> lock(m_mutex);
     const auto isMessage = [](const InboundItem& item) { return !item.onAnswer; };
     m_items.erase(std::remove_if(m_items.begin(), m_items.end(), isMessage), m_items.end());
-    m_bytes = 0;
-    for (const InboundItem& item : m_items)
-        m_bytes += item.Bytes();
     WaitUntilIdle(lock);
 }
 

@@ -23,7 +23,8 @@ using lpc::HeaderMap;
 using lpc::RequestId;
 
 /// Takes what the server sends. Must return quickly; the result tells whether the data was taken (false is
-/// logged).
+/// logged). Copies of the data may be kept for other threads: while they hold 16 MiB, the server is held
+/// back.
 using InvokeCallBack = std::function<bool(const LPCCallBackData& data, void* user)>;
 
 /// Takes the answer to an asynchronous request on the library's thread; error is lpc::kNoError, or why there
@@ -51,11 +52,13 @@ using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& 
 
 /// Sends a request and waits for its answer, at most timeoutMs milliseconds (0: no limit but the connection's
 /// life). id receives the identifier. An answer that comes later is dropped. From within the
-/// invoke callback it fails with lpc::kTryAgain when the receive queue is full, for then nobody makes room.
+/// invoke callback it fails with lpc::kTryAgain when no more may be read, for then nobody makes room. A
+/// thread that keeps received data should set a time limit: the answer may lie behind more than may be
+/// received before the data goes.
 [[nodiscard]] bool SendEx(tag_LPCResponseData& response, const tag_LPCRequestData& request, RequestId& id,
                           std::uint32_t timeoutMs);
 
-/// Sends a notification.
+/// Sends a notification; one of many in a burst leaves within a millisecond.
 [[nodiscard]] bool Notify(const tag_LPCNotifyData& notification);
 
 /// Answers a request that the invoke callback received.

@@ -18,7 +18,8 @@ constexpr std::size_t kEvents = 4;
 } // namespace
 
 CSession::CSession(std::string name, bool traceTraffic)
-    : m_name(std::move(name)), m_traceTraffic(traceTraffic), m_inbound([this](RequestId id) { Refuse(id); })
+    : m_name(std::move(name)), m_traceTraffic(traceTraffic),
+      m_inbound([this](RequestId id) { Refuse(id); }, [this] { m_poller.Wake(); })
 {}
 
 bool CSession::Start()
@@ -58,9 +59,14 @@ void CSession::Run()
 {
     Base::ProcessUtil::NameThisThread("lpc-client");
     OnLibraryThread() = true;
+    m_orders.SetThread();
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
+        m_orders.SetBusy(true);
+        FlushOrdered();
         const lpc::TimePoint deadline = DeliverSome() ? lpc::TimePoint() : lpc::kForever;
+        m_orders.SetBusy(false);
+        FlushOrdered();
         if (const auto connection = Connection())
             connection->ResumeReading();
         const std::size_t count = m_poller.Wait(events, kEvents, deadline);
@@ -73,10 +79,20 @@ void CSession::Run()
 
 bool CSession::DeliverSome()
 {
-    for (int i = 0; i < kDeliverInARow; ++i)
+    for (int i = 0; i < kDeliverInARow; ++i) {
         if (!m_inbound.DeliverOne())
             return false;
+        FlushOrdered();
+    }
     return true;
+}
+
+void CSession::FlushOrdered()
+{
+    if (!m_orders.Take())
+        return;
+    if (const auto connection = Connection())
+        connection->FlushOrdered();
 }
 
 /// An event of an earlier connection may still be under way when a new one stands.
@@ -118,7 +134,7 @@ int CSession::Connect(const std::string& serverName)
         if (m_ending)
             return lpc::kNotInitialised;
         connection = std::make_shared<CConnection>(std::move(socket), std::move(reader), m_inbound, m_poller,
-                                                   ++m_key, m_lastId);
+                                                   m_orders, ++m_key, m_lastId);
         m_connection = connection;
     }
     connection->Start();

@@ -32,6 +32,7 @@ public:
 private:
     void Run();
     bool DeliverSome();
+    void FlushOrdered();
     void OnEvent(const lpc::CPoller::Event& event);
     void Refuse(RequestId id);
     int Open(const std::string& serverName, lpc::CLocalSocket& socket, lpc::CFrameReader& reader) const;
@@ -43,6 +44,7 @@ private:
     const std::string m_name;
     const bool m_traceTraffic;
     lpc::CPoller m_poller;
+    lpc::CFlushOrders m_orders{m_poller};
     CInbound m_inbound;
     std::thread m_thread;
     std::atomic<bool> m_stop{false};

@@ -40,6 +40,8 @@ struct ServerLimits
 {
     std::size_t clients = 64; ///< connections at a time; more are refused with lpc::kTryAgain
     std::size_t sendQueueBytes = 16 * 1024 * 1024; ///< for each client; a full queue gives lpc::kTryAgain
+    /// Bytes of bodies begun and not finished, over all connections: whose body goes beyond it is closed.
+    std::size_t unfinishedBytes = 256 * 1024 * 1024;
     std::chrono::milliseconds helloTimeout{5000};  ///< for a new connection to say hello
     std::chrono::milliseconds stallTimeout{30000}; ///< for a client to read something of what waits for it
 };
@@ -60,9 +62,9 @@ public:
     /// that of a living one gives lpc::kCannotListen.
     [[nodiscard]] int Start(const std::string& serverName);
 
-    /// Closes all connections and ends the thread; waiting requests fail with lpc::kConnectionLost, and what
-    /// a client has not read yet may be lost. May be called again. From within an event the thread ends after
-    /// that event.
+    /// Closes all connections and ends the thread; waiting requests fail with lpc::kConnectionLost. Clients
+    /// that read get what waits for them, within lpc::kServerFarewellMs in all. May be called again. From
+    /// within an event the thread ends after that event.
     void Stop();
 
     /// While not accepting, connected clients' requests are refused with lpc::kTryAgain. Accepting at the

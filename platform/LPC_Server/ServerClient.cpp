@@ -12,7 +12,9 @@ bool CServerClient::Read()
 
 int CServerClient::Post(lpc::Kind kind, RequestId id, const HeaderMap& headers, const std::string& body)
 {
-    return m_outbound.Post(lpc::CFrameSet(kind, id, headers, body));
+    using Urgency = lpc::COutbound::Urgency;
+    return m_outbound.Post(lpc::CFrameSet(kind, id, headers, body),
+                           kind == lpc::Kind::Notification ? Urgency::MayWait : Urgency::AtOnce);
 }
 
 } // namespace lpcserver

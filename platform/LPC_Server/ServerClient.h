@@ -14,8 +14,8 @@ class CServerClient
 {
 public:
     CServerClient(ClientId id, lpc::CLocalSocket socket, std::size_t sendQueueBytes,
-                  lpc::COutbound::WatchRoom watchRoom)
-        : m_id(id), m_socket(std::move(socket)), m_outbound(m_socket, sendQueueBytes, std::move(watchRoom))
+                  lpc::COutbound::Hooks hooks)
+        : m_id(id), m_socket(std::move(socket)), m_outbound(m_socket, sendQueueBytes, std::move(hooks))
     {}
 
     ClientId Id() const { return m_id; }
@@ -34,6 +34,8 @@ public:
 
     /// The name of the hello; empty before it. Set by the server's thread before others know the client.
     std::string name;
+    /// What its unfinished bodies take of the server's limit. Of the server's thread.
+    std::size_t unfinishedBytes = 0;
     /// Until when the hello must have come; kForever afterwards.
     lpc::TimePoint helloDeadline = lpc::kForever;
 

@@ -41,6 +41,7 @@ int CServerLoop::Start(const std::string& serverName)
     }
     m_poller.Add(m_listener.Handle(), kListenerKey, lpc::kReadable);
     m_stop = false;
+    m_reads = true;
     m_thread = std::thread([this] { Run(); });
     return lpc::kNoError;
 }
@@ -62,23 +63,31 @@ void CServerLoop::Run()
 {
     Base::ProcessUtil::NameThisThread("lpc-server");
     m_threadId = std::this_thread::get_id();
+    m_orders.SetThread();
     lpc::CPoller::Event events[kEvents];
     while (!m_stop) {
         const std::size_t count = m_poller.Wait(events, kEvents, Sleep());
+        m_orders.SetBusy(true);
+        FlushOrdered();
         for (std::size_t i = 0; i < count && !m_stop; ++i)
             OnEvent(events[i]);
         HandleDeadlines();
+        m_orders.SetBusy(false);
+        FlushOrdered();
     }
     m_poller.Remove(m_listener.Handle());
     m_listener.Close();
+    SayFarewell();
     CloseAll();
     m_threadId = std::thread::id();
 }
 
-void CServerLoop::CloseAll()
+void CServerLoop::FlushOrdered()
 {
+    if (!m_orders.Take())
+        return;
     for (const ClientPtr& client : Clients())
-        Close(client);
+        client->Outbound().FlushOrdered();
 }
 
 void CServerLoop::OnEvent(const lpc::CPoller::Event& event)
@@ -116,8 +125,10 @@ void CServerLoop::Welcome(lpc::CLocalSocket socket)
     const ClientId id = ++m_lastClient;
     const lpc::SocketHandle handle = socket.Handle();
     const bool isThisUser = socket.PeerIsThisUser();
-    const auto client = std::make_shared<CServerClient>(id, std::move(socket), m_limits.sendQueueBytes,
-                                                        [=](bool watch) { WatchRoom(handle, id, watch); });
+    const lpc::COutbound::Hooks hooks{[=](bool watch) { WatchRoom(handle, id, watch); },
+                                      [this] { return m_orders.Order(); }};
+    const auto client =
+        std::make_shared<CServerClient>(id, std::move(socket), m_limits.sendQueueBytes, hooks);
     std::size_t others = 0;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
@@ -139,7 +150,7 @@ void CServerLoop::Welcome(lpc::CLocalSocket socket)
 void CServerLoop::WatchRoom(lpc::SocketHandle handle, ClientId id, bool watch)
 {
     m_congested += watch ? 1 : -1;
-    m_poller.Modify(handle, id, watch ? lpc::kReadable | lpc::kWritable : lpc::kReadable);
+    m_poller.Modify(handle, id, (m_reads ? lpc::kReadable : 0U) | (watch ? lpc::kWritable : 0U));
     if (watch && !OnOwnThread())
         m_poller.Wake();
 }
@@ -165,10 +176,22 @@ void CServerLoop::Read(const ClientPtr& client)
     }
     if (client->Reader().GetFault() != lpc::Fault::None)
         CloseFaulty(client, client->Reader().GetFault());
+    else if (!HasRoomForBodies(*client))
+        Drop(client, Misfortune::TooManyBytes);
     else if (!open && client->Reader().InsideMessage())
         Drop(client, Misfortune::CutOff);
     else if (!open)
         Close(client);
+}
+
+/// Counts what has arrived, not what was announced.
+bool CServerLoop::HasRoomForBodies(CServerClient& client)
+{
+    const std::size_t bytes = client.Reader().UnfinishedBytes();
+    m_unfinishedBytes += bytes - client.unfinishedBytes;
+    const bool grows = bytes > client.unfinishedBytes;
+    client.unfinishedBytes = bytes;
+    return !grows || m_unfinishedBytes <= m_limits.unfinishedBytes;
 }
 
 /// False when the connection was closed over the message.
@@ -236,50 +259,6 @@ bool CServerLoop::TakeAnswer(const ClientPtr& client, int error, lpc::WireMessag
     if (!m_pending.WasUsed(message.id))
         Log(Kind(Misfortune::StrayAnswer), client->name, "answered a request that was never sent");
     return true;
-}
-
-// ---- closing ----
-
-void CServerLoop::Close(const ClientPtr& client)
-{
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        if (m_clients.erase(client->Id()) == 0)
-            return;
-    }
-    client->Outbound().Break();
-    m_poller.Remove(client->Handle());
-    for (const AnswerCallBack& onAnswer : m_pending.TakeAllOf(client->Id()))
-        onAnswer(lpc::kConnectionLost, {});
-    if (client->name.empty())
-        --m_newcomers;
-    else
-        m_events.OnClientDisconnected(client->Id());
-}
-
-void CServerLoop::CloseFaulty(const ClientPtr& client, lpc::Fault fault)
-{
-    if (fault == lpc::Fault::Version && client->name.empty())
-        client->Refuse(0, lpc::kRefused);
-    Log(static_cast<std::size_t>(fault), client->name, lpc::FaultText(fault));
-    Close(client);
-}
-
-void CServerLoop::Drop(const ClientPtr& client, Misfortune misfortune)
-{
-    static constexpr const char* kTexts[] = {
-        "ended inside a message",  "said no hello in time",          "does not read what it is sent",
-        "belongs to another user", "there are too many connections",
-    };
-    Log(Kind(misfortune), client->name, kTexts[static_cast<std::size_t>(misfortune)]);
-    Close(client);
-}
-
-void CServerLoop::Log(std::size_t kind, const std::string& client, const char* what)
-{
-    unsigned skipped = 0;
-    if (m_rate.Allows(kind, skipped))
-        BASE_ERROR_TO("VideoLogger", "LPC: client [%s]: %s. [skipped-%u]", client.c_str(), what, skipped);
 }
 
 // ---- time ----

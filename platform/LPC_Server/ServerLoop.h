@@ -3,7 +3,7 @@
 #include "LPC_Server/PendingRequests.h"
 #include "LPC_Server/ServerClient.h"
 
-#include "LPC_Wire/Poller.h"
+#include "LPC_Wire/FlushOrders.h"
 #include "LPC_Wire/RateLimit.h"
 
 #include <atomic>
@@ -47,6 +47,7 @@ private:
         DoesNotRead,
         OtherUser,
         TooMany,
+        TooManyBytes,
         CannotAccept,
         StrayAnswer,
         Count_
@@ -59,6 +60,8 @@ private:
 
     void Run();
     void OnEvent(const lpc::CPoller::Event& event);
+    void FlushOrdered();
+    void SayFarewell();
     void CloseAll();
 
     void AcceptSome();
@@ -67,6 +70,7 @@ private:
 
     void OnReady(const ClientPtr& client, unsigned ready);
     void Read(const ClientPtr& client);
+    bool HasRoomForBodies(CServerClient& client);
     bool Dispatch(const ClientPtr& client, lpc::WireMessage& message);
     bool Greet(const ClientPtr& client, const lpc::WireMessage& message);
     bool TakeMessage(const ClientPtr& client, lpc::WireMessage& message);
@@ -88,10 +92,12 @@ private:
     IServerEvents& m_events;
     const ServerLimits m_limits;
     lpc::CPoller m_poller;
+    lpc::CFlushOrders m_orders{m_poller};
     lpc::CLocalListener m_listener;
     CPendingRequests m_pending;
     std::atomic<bool> m_accepting{true};
     std::atomic<bool> m_stop{false};
+    std::atomic<bool> m_reads{true}; ///< not at the end, when only what waits is written
     std::atomic<std::thread::id> m_threadId{};
 
     std::mutex m_starting; ///< one Start or Stop at a time
@@ -103,6 +109,7 @@ private:
     // Of the server's thread:
     ClientId m_lastClient = 0;
     int m_newcomers = 0; ///< clients that have not said hello
+    std::size_t m_unfinishedBytes = 0;
     lpc::TimePoint m_acceptAgain = lpc::kForever;
     lpc::TimePoint m_alarm = lpc::kForever;
 

@@ -43,6 +43,9 @@ public:
     /// Whether the bytes so far end inside a message.
     bool InsideMessage() const { return m_state != State::Head || m_begin != m_end || !m_partials.empty(); }
 
+    /// Bytes that have arrived of bodies whose messages are not complete.
+    std::size_t UnfinishedBytes() const { return m_partialBytes + m_current.used; }
+
     /// Gives a body back whose memory may serve for the next long one.
     void Recycle(std::string&& body);
 

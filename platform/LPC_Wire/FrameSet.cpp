@@ -21,6 +21,10 @@ CFrameSet::CFrameSet(Kind kind, RequestId id, const HeaderMap& headers, const st
         m_error = kTooLong;
         return;
     }
+    if (!AreUtf8(headers)) {
+        m_error = kInvalidArgument;
+        return;
+    }
 
     const std::size_t frames = std::max<std::size_t>(1, (body.size() + kMaxFrameBody - 1) / kMaxFrameBody);
     const bool copyBody = body.size() <= kSmallBody;

@@ -18,7 +18,8 @@ public:
     CFrameSet(const CFrameSet&) = delete;
     CFrameSet& operator=(const CFrameSet&) = delete;
 
-    /// kNoError, or kTooLong when headers or body are over their limit; there is nothing to write then.
+    /// kNoError; kTooLong when headers or body are over their limit, kInvalidArgument when the headers are
+    /// not UTF-8: there is nothing to write then.
     int Error() const { return m_error; }
 
     /// The bytes to be written, in order.

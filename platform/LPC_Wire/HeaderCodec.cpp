@@ -3,6 +3,10 @@
 #include "LPC_Wire/ByteOrder.h"
 #include "LPC_Wire/Limits.h"
 
+#include <boost/locale/utf.hpp>
+
+#include <algorithm>
+#include <cstring>
 #include <string_view>
 
 namespace lpc {
@@ -23,6 +27,34 @@ void AppendText(const std::string& text, std::string& out)
     out += text;
 }
 
+/// The usual case, eight bytes at a time.
+bool IsAscii(std::string_view text)
+{
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::uint64_t seen = 0;
+    std::uint64_t word = 0;
+    for (; text.size() >= sizeof word; text.remove_prefix(sizeof word)) {
+        std::memcpy(&word, text.data(), sizeof word);
+        seen |= word;
+    }
+    for (const char c : text)
+        seen |= static_cast<unsigned char>(c);
+    return (seen & kHighBits) == 0;
+}
+
+bool IsUtf8(std::string_view text)
+{
+    using Utf8 = boost::locale::utf::utf_traits<char>;
+    if (IsAscii(text))
+        return true;
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (at != end)
+        if (!boost::locale::utf::is_valid_codepoint(Utf8::decode(at, end)))
+            return false;
+    return true;
+}
+
 bool TakeLength(std::string_view& rest, std::size_t& length)
 {
     if (rest.size() < kLengthBytes)
@@ -35,7 +67,7 @@ bool TakeLength(std::string_view& rest, std::size_t& length)
 bool TakeText(std::string_view& rest, std::string& text)
 {
     std::size_t length = 0;
-    if (!TakeLength(rest, length) || rest.size() < length)
+    if (!TakeLength(rest, length) || rest.size() < length || !IsUtf8(rest.substr(0, length)))
         return false;
     text.assign(rest.data(), length);
     rest.remove_prefix(length);
@@ -55,6 +87,12 @@ std::size_t EncodedHeaderBytes(const HeaderMap& headers)
             return 0;
     }
     return bytes;
+}
+
+bool AreUtf8(const HeaderMap& headers)
+{
+    return std::all_of(headers.begin(), headers.end(),
+                       [](const auto& header) { return IsUtf8(header.first) && IsUtf8(header.second); });
 }
 
 void AppendHeaders(const HeaderMap& headers, std::string& out)

@@ -10,48 +10,99 @@ namespace {
 /// Small messages that wait are joined up to this size.
 constexpr std::size_t kJoinBytes = 64 * kKiB;
 
+/// A burst: messages up to this size, of which each comes so soon after the one before; they leave when so
+/// much is together.
+constexpr std::size_t kBurstMessage = 8 * kKiB;
+constexpr std::chrono::microseconds kBurstGap{50};
+constexpr std::size_t kBurstBytes = kJoinBytes - 2 * kBurstMessage;
+
+/// An ordered flush that has not come by then is not relied on.
+constexpr std::chrono::milliseconds kOverdue{1};
+
+TimePoint Now()
+{
+    return std::chrono::steady_clock::now();
+}
+
 } // namespace
 
-COutbound::COutbound(CLocalSocket& socket, std::size_t limit, WatchRoom watchRoom)
-    : m_socket(socket), m_limit(limit), m_watchRoom(std::move(watchRoom))
+COutbound::COutbound(CLocalSocket& socket, std::size_t limit, Hooks hooks)
+    : m_socket(socket), m_limit(limit), m_hooks(std::move(hooks))
 {}
 
-int COutbound::Admit(const CFrameSet& frames) const
+/// What only waits to be joined takes no room from others.
+int COutbound::Admit(const CFrameSet& frames)
 {
     if (frames.Error() != kNoError)
         return frames.Error();
+    if (IsOver(frames) && !m_blocked)
+        FlushLocked();
     if (m_broken)
         return kConnectionLost;
-    return m_bytes > 0 && m_bytes + frames.Size() > m_limit ? kTryAgain : kNoError;
+    return IsOver(frames) ? kTryAgain : kNoError;
 }
 
-int COutbound::Post(const CFrameSet& frames)
+int COutbound::Post(const CFrameSet& frames, Urgency urgency)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     if (const int error = Admit(frames))
         return error;
-    const std::size_t written = m_chunks.empty() ? WriteNow(frames) : 0;
-    if (m_broken)
-        return kConnectionLost;
-    Queue(frames, written, 0);
-    UpdateWatch();
-    return kNoError;
+    if (m_blocked) {
+        Queue(frames, 0, 0);
+        UpdateWatch();
+        return kNoError;
+    }
+    if (urgency == Urgency::MayWait && ContinuesBurst(frames)) {
+        Join(frames);
+        return m_broken ? kConnectionLost : kNoError;
+    }
+    Ticket ticket = 0;
+    const int error = Write(frames, ticket);
+    if (ticket != 0)
+        FinishLocked(ticket);
+    if (urgency == Urgency::MayWait)
+        m_lastCasual = Now();
+    return error;
+}
+
+bool COutbound::ContinuesBurst(const CFrameSet& frames) const
+{
+    return frames.Size() <= kBurstMessage && Now() - m_lastCasual < kBurstGap;
+}
+
+void COutbound::Join(const CFrameSet& frames)
+{
+    Queue(frames, 0, 0);
+    m_lastCasual = Now();
+    if (m_bytes >= kBurstBytes || (m_ordered && m_lastCasual - m_orderedAt > kOverdue)) {
+        FlushLocked();
+    } else if (!m_ordered) {
+        m_ordered = true;
+        m_orderedAt = m_lastCasual;
+        if (!m_hooks.orderFlush()) {
+            m_ordered = false;
+            FlushLocked();
+        }
+    }
 }
 
 int COutbound::PostShared(const CFrameSet& frames, Ticket& ticket)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     ticket = 0;
-    if (const int error = Admit(frames))
-        return error;
+    const int error = Admit(frames);
+    return error == kNoError ? Write(frames, ticket) : error;
+}
+
+/// The ticket is for what the socket did not take.
+int COutbound::Write(const CFrameSet& frames, Ticket& ticket)
+{
     const std::size_t written = m_chunks.empty() ? WriteNow(frames) : 0;
-    if (m_broken)
-        return kConnectionLost;
-    if (written == frames.Size())
-        return kNoError;
-    ticket = ++m_lastTicket;
-    Queue(frames, written, ticket);
-    FlushLocked();
+    if (!m_broken && written < frames.Size()) {
+        ticket = ++m_lastTicket;
+        Queue(frames, written, ticket);
+        FlushLocked();
+    }
     return m_broken ? kConnectionLost : kNoError;
 }
 
@@ -65,6 +116,11 @@ bool COutbound::IsWaiting(Ticket ticket) const
 void COutbound::Finish(Ticket ticket)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
+    FinishLocked(ticket);
+}
+
+void COutbound::FinishLocked(Ticket ticket)
+{
     for (Chunk& chunk : m_chunks) {
         if (chunk.ticket != ticket)
             continue;
@@ -82,10 +138,25 @@ void COutbound::Flush()
     FlushLocked();
 }
 
+void COutbound::FlushOrdered()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_ordered = false;
+    if (!m_blocked)
+        FlushLocked();
+}
+
+void COutbound::RenewWatch()
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    m_hooks.watchRoom(!m_watching);
+    m_hooks.watchRoom(m_watching);
+}
+
 void COutbound::FlushUntil(TimePoint deadline)
 {
     Flush();
-    while (WaitingSince() != kForever && std::chrono::steady_clock::now() < deadline) {
+    while (WaitingSince() != kForever && Now() < deadline) {
         m_socket.Wait(kWritable, deadline);
         Flush();
     }
@@ -122,7 +193,7 @@ void COutbound::Queue(const CFrameSet& frames, std::size_t written, Ticket ticke
 {
     m_bytes += frames.Size() - written;
     if (m_chunks.empty() && written < frames.Size())
-        m_progress = std::chrono::steady_clock::now();
+        m_progress = Now();
     for (ConstSpan span : frames.Spans()) {
         const std::size_t skipped = std::min(written, span.size);
         written -= skipped;
@@ -142,6 +213,7 @@ void COutbound::QueueCopy(ConstSpan bytes)
                       m_chunks.back().owned.size() + bytes.size <= kJoinBytes;
     if (!join) {
         m_chunks.emplace_back();
+        m_chunks.back().owned.swap(m_spare);
         m_chunks.back().owned.reserve(std::max(bytes.size, kJoinBytes));
         ++m_ownedChunks;
     }
@@ -163,23 +235,35 @@ void COutbound::Consume(std::size_t bytes)
     m_offset += bytes;
     while (!m_chunks.empty() && m_offset >= m_chunks.front().Bytes().size) {
         m_offset -= m_chunks.front().Bytes().size;
-        if (m_chunks.front().ticket == 0)
+        if (m_chunks.front().ticket == 0) {
             --m_ownedChunks;
+            KeepSpare(m_chunks.front().owned);
+        }
         m_chunks.pop_front();
     }
 }
 
+void COutbound::KeepSpare(std::string& chunk)
+{
+    if (chunk.capacity() < kJoinBytes || chunk.capacity() > 2 * kJoinBytes)
+        return;
+    chunk.clear();
+    m_spare.swap(chunk);
+}
+
 void COutbound::FlushLocked()
 {
+    m_blocked = false;
     ConstSpan spans[CLocalSocket::kMaxSpans];
     while (!m_broken && !m_chunks.empty()) {
         const IoResult result = m_socket.Write(spans, Gather(spans, CLocalSocket::kMaxSpans));
         if (result.state == IoState::Closed)
             BreakLocked();
+        m_blocked = result.state == IoState::WouldBlock;
         if (result.state != IoState::Done)
             break;
         Consume(result.bytes);
-        m_progress = std::chrono::steady_clock::now();
+        m_progress = Now();
     }
     UpdateWatch();
 }
@@ -194,17 +278,18 @@ void COutbound::BreakLocked()
     m_offset = 0;
     m_bytes = 0;
     m_ownedChunks = 0;
+    m_blocked = false;
     UpdateWatch();
 }
 
 /// Shared chunks are pushed on by the callers that wait for them; only copies need somebody else.
 void COutbound::UpdateWatch()
 {
-    const bool watch = m_ownedChunks > 0;
+    const bool watch = m_blocked && m_ownedChunks > 0;
     if (watch == m_watching)
         return;
     m_watching = watch;
-    m_watchRoom(watch);
+    m_hooks.watchRoom(watch);
 }
 
 } // namespace lpc

@@ -11,23 +11,34 @@
 
 namespace lpc {
 
-/// What one end still has to write to its connection: bounded, in order, from any thread. A message that
-/// finds the queue empty goes to the socket at once, in one gathered write; what the socket does not take
-/// waits, and small messages that wait are joined and leave together.
+/// What one end still has to write to its connection: bounded, in order, from any thread. A message goes to
+/// the socket at once, in one gathered write with what waits in front of it; what the socket does not take
+/// waits. Small messages that nobody waits for and that follow one another within microseconds are joined and
+/// leave together, a fraction of a millisecond later.
 class COutbound
 {
 public:
-    /// Told when the socket has to be watched for room (true) and when no longer. Called under the queue's
-    /// lock.
-    using WatchRoom = std::function<void(bool watch)>;
+    /// What the queue asks of the thread that serves its connection. Called under the queue's lock.
+    struct Hooks
+    {
+        /// The socket has to be watched for room (true), or no longer; Flush when there is some.
+        std::function<void(bool watch)> watchRoom;
+        /// FlushOrdered is wanted soon; false when that cannot be promised just now.
+        std::function<bool()> orderFlush;
+    };
+
+    enum class Urgency {
+        AtOnce,  ///< somebody waits for the message
+        MayWait, ///< it may be joined with those that follow it
+    };
 
     /// Names the end of a message in the stream; 0: all of it is written.
     using Ticket = std::uint64_t;
 
-    COutbound(CLocalSocket& socket, std::size_t limit, WatchRoom watchRoom);
+    COutbound(CLocalSocket& socket, std::size_t limit, Hooks hooks);
 
     /// Writes or queues a message and never waits. kTryAgain: the queue is full; kConnectionLost.
-    int Post(const CFrameSet& frames);
+    int Post(const CFrameSet& frames, Urgency urgency);
 
     /// The same without a copy, for a caller that waits until its message is written, calling Flush when the
     /// socket has room. Until Finish the queue refers to the memory of the frames and the body.
@@ -41,6 +52,12 @@ public:
 
     /// Writes what the socket takes.
     void Flush();
+
+    /// The same where orderFlush asked for it.
+    void FlushOrdered();
+
+    /// Says again whether the socket has to be watched.
+    void RenewWatch();
 
     /// Goes on writing until nothing waits, the deadline comes or the connection breaks.
     void FlushUntil(TimePoint deadline);
@@ -63,19 +80,25 @@ private:
         ConstSpan Bytes() const { return shared.size > 0 ? shared : ConstSpan{owned.data(), owned.size()}; }
     };
 
-    int Admit(const CFrameSet& frames) const;
+    int Admit(const CFrameSet& frames);
+    bool IsOver(const CFrameSet& frames) const { return m_bytes > 0 && m_bytes + frames.Size() > m_limit; }
+    bool ContinuesBurst(const CFrameSet& frames) const;
+    void Join(const CFrameSet& frames);
+    int Write(const CFrameSet& frames, Ticket& ticket);
     std::size_t WriteNow(const CFrameSet& frames);
     void Queue(const CFrameSet& frames, std::size_t written, Ticket ticket);
     void QueueCopy(ConstSpan bytes);
     std::size_t Gather(ConstSpan* spans, std::size_t count) const;
     void Consume(std::size_t bytes);
+    void KeepSpare(std::string& chunk);
+    void FinishLocked(Ticket ticket);
     void FlushLocked();
     void BreakLocked();
     void UpdateWatch();
 
     CLocalSocket& m_socket;
     const std::size_t m_limit;
-    const WatchRoom m_watchRoom;
+    const Hooks m_hooks;
 
     mutable std::mutex m_mutex;
     std::deque<Chunk> m_chunks;
@@ -84,6 +107,11 @@ private:
     std::size_t m_ownedChunks = 0;
     Ticket m_lastTicket = 0;
     TimePoint m_progress = kForever;
+    TimePoint m_lastCasual; ///< when the last message that may wait was written or joined
+    TimePoint m_orderedAt;
+    std::string m_spare;    ///< memory of a chunk that has left
+    bool m_ordered = false; ///< FlushOrdered will come
+    bool m_blocked = false; ///< the socket takes no more for the moment
     bool m_watching = false;
     bool m_broken = false;
 };

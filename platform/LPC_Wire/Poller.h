@@ -41,10 +41,16 @@ public:
     /// Ends the present Wait, or the next one.
     void Wake();
 
+    /// The same about kSoon later, so that what happens until then costs one wake-up. Shorter would not pay: a
+    /// timer of the system costs as much as several messages.
+    void WakeSoon();
+    static constexpr std::chrono::microseconds kSoon{500};
+
 private:
     struct System;
     std::unique_ptr<System> m_system;
     std::atomic<bool> m_woken{false};
+    std::atomic<bool> m_wakesSoon{false};
 };
 
 } // namespace lpc

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 
 /// What both ends of the local channel share: records, limits and error numbers.
@@ -19,6 +20,9 @@ struct CallBackData
     RequestId requestId = 0;
     HeaderMap headers;
     std::string body;
+    /// While any copy of it lives, the data counts against the receive queue's limit: whoever keeps data
+    /// for later keeps this with it. May go in any thread; empty at a server.
+    std::shared_ptr<const void> receipt{};
 
     /// The header's value; empty when it is missing.
     std::string Header(const std::string& key) const

@@ -147,4 +147,10 @@ void CPoller::Wake()
         send(m_system->wake, "", 1, 0);
 }
 
+/// The system's timers are too coarse for it.
+void CPoller::WakeSoon()
+{
+    Wake();
+}
+
 } // namespace lpc

@@ -1,6 +1,7 @@
 #include "RawPeer.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <csignal>
 
@@ -23,6 +24,16 @@ protected:
         }
     }
 
+    /// The log's lines that contain the text.
+    std::size_t CountOf(const std::string& text) const
+    {
+        const auto lines = log.Lines();
+        return static_cast<std::size_t>(
+            std::count_if(lines.begin(), lines.end(), [&](const CapturedLog::Line& line) {
+                return line.message.find(text) != std::string::npos;
+            }));
+    }
+
     /// Answers every request with its own body.
     static void Echo(RawPeer& peer)
     {
@@ -32,19 +43,58 @@ protected:
     }
 };
 
-TEST_F(ClientFaults, MalformedBytesOfTheServerAreALoss)
+TEST_F(ClientFaults, MalformedBytesOfTheServerAreALossAndNoHarmToTheNextConnection)
 {
-    RawServer server([](RawPeer& peer) {
-        peer.Receive();
-        peer.Send(Kind::Notification, 0, {{"n", "0"}}, "");
-        peer.Send(std::string(100, 'x'));
-        ReadToTheEnd(peer);
-    });
-    const Client client;
+    std::vector<FaultRow> rows = FaultRows();
+    rows.push_back(
+        {WireBytes(Kind::HelloAnswer, 0, lpc::HelloAnswerHeaders(), ""), "kind of frame not expected"});
+    rows.push_back({WireBytes(Kind::Refusal, 0, {}, ""), "kind of frame not expected"});
+    rows.push_back({WireBytes(Kind::Request, 1, {}, "cut off").substr(0, 27), nullptr});
+    const std::string line = "LPC: the server sent what is not understood: ";
+    ASSERT_TRUE(lpcclient::Init("client", false));
     CollectNumbers();
-    EXPECT_EQ(lpc::kConnectionLost, SendExError({}, 0));
-    EXPECT_EQ((std::vector<std::string>{"0", "clientDisconnected"}), received.WaitFor(2));
-    EXPECT_TRUE(log.Has("LPC: the server sent what is not understood: bad magic."));
+    std::vector<std::string> expected;
+    for (const FaultRow& row : rows) {
+        SCOPED_TRACE(row.line ? row.line : "cut off");
+        const std::size_t lines = CountOf(line);
+        RawServer server([&](RawPeer& peer) {
+            peer.Receive();
+            peer.Send(Kind::Notification, 0, {{"n", "before"}}, "");
+            peer.Send(row.bytes);
+            if (row.line)
+                ReadToTheEnd(peer);
+        });
+        ASSERT_TRUE(lpcclient::ConnectToServer(kServerName));
+        EXPECT_EQ(lpc::kConnectionLost, SendExError({}, 0));
+        expected.insert(expected.end(), {"before", "clientDisconnected"});
+        EXPECT_EQ(expected, received.WaitFor(expected.size()));
+        EXPECT_EQ(lines + (row.line ? 1 : 0), CountOf(line));
+        EXPECT_TRUE(!row.line || CountOf(line + row.line) > 0);
+        ASSERT_TRUE(lpcclient::DisconnectToServer());
+    }
+    EXPECT_TRUE(lpcclient::Uninit());
+}
+
+TEST_F(ClientFaults, AServerOfAnotherUserIsRefused)
+{
+    std::string why;
+    const std::string path = lpc::SocketPath(kServerName, why);
+    lpc::CLocalListener strange;
+    {
+        const AnotherUser user;
+        if (!user.Is())
+            return;
+        ASSERT_TRUE(strange.Listen(path, why)) << why;
+    }
+    ASSERT_TRUE(lpcclient::Init("client", false));
+    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
+    EXPECT_TRUE(log.Has("LPC: no connection to [lpc-test-server]: the server belongs to another user."));
+    strange.Close();
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    EXPECT_TRUE(lpcclient::ConnectToServer(kServerName));
+    EXPECT_TRUE(lpcclient::Uninit());
 }
 
 TEST_F(ClientFaults, AHelloThatIsNotAnsweredWellIsRefused)
@@ -81,10 +131,7 @@ TEST_F(ClientFaults, AnAnswerNobodyAskedForIsDroppedWithOneLine)
     });
     const Client client;
     EXPECT_EQ(0, SendExError({{}, "asked"}, 10000));
-    const auto warnings = log.Messages(Base::LogLevel::Warn);
-    EXPECT_EQ(1, std::count_if(warnings.begin(), warnings.end(), [](const std::string& line) {
-                  return line.find("never sent") != std::string::npos;
-              }));
+    EXPECT_EQ(1U, CountOf("never sent"));
 }
 
 /// What was begun is finished in good order, whoever gave up waiting for it.
@@ -159,6 +206,56 @@ TEST_F(ClientFaults, AFullReceiveQueueHoldsTheServerBackUntilTheReceiverTakes)
     EXPECT_EQ(0, waiting.get());
 }
 
+/// What the receiver keeps for later counts as what it has not taken. A call still gets its answer.
+TEST_F(ClientFaults, CopiesThatTheReceiverKeepsHoldTheServerBack)
+{
+    constexpr int kFirst = 20;
+    constexpr int kAll = 60;
+    const auto send = [](RawPeer& peer, int from, int to) {
+        for (int n = from; n < to; ++n)
+            EXPECT_TRUE(
+                peer.Send(Kind::Notification, 0, {{"n", std::to_string(n)}}, std::string(1000000, 'n')));
+    };
+    RawServer server([&](RawPeer& peer) {
+        send(peer, 0, kFirst);
+        const auto request = peer.Receive();
+        ASSERT_TRUE(request);
+        peer.Send(Kind::Answer, request->id, {}, "");
+        send(peer, kFirst, kAll);
+        Echo(peer);
+    });
+    lpcclient::LPCCallBackData survivor;
+    {
+        std::mutex mutex;
+        std::optional<std::vector<lpcclient::LPCCallBackData>> kept{std::in_place};
+        const Client client;
+        ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+            [&](const lpcclient::LPCCallBackData& data, void*) {
+                {
+                    std::lock_guard<std::mutex> lock(mutex);
+                    if (kept)
+                        kept->push_back(data);
+                }
+                received.Add(data.Header("n"));
+                return true;
+            },
+            nullptr));
+        EXPECT_EQ(0, SendExError({}, 20000));            // behind 20 MB, which are kept
+        EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200)); // behind 60 MB
+        EXPECT_LT(received.Size(), 36U);
+        auto waiting = std::async(std::launch::async, [] { return SendExError({}, 20000); });
+        std::async(std::launch::async, [&] {
+            std::lock_guard<std::mutex> lock(mutex);
+            survivor = kept->back();
+            kept.reset();
+        }).wait();
+        EXPECT_EQ(Numbers(kAll), received.WaitFor(kAll));
+        ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
+        EXPECT_EQ(0, waiting.get());
+    }
+    survivor = {}; // when there is no session any more
+}
+
 TEST_F(ClientFaults, ACallFromWithinTheReceiverDoesNotWaitForRoomThatOnlyTheReceiverMakes)
 {
     RawServer server([&](RawPeer& peer) {
@@ -203,7 +300,7 @@ TEST_F(ClientFaults, ACallFromWithinTheReceiverFailsAlsoWhenReadingHadStoppedBef
 
 TEST_F(ClientFaults, TheEndOfTheServerIsSeenThoughTheReceiveQueueIsFull)
 {
-    constexpr int kFull = 17;
+    constexpr int kFull = 34;
     RawServer server([](RawPeer& peer) {
         for (int i = 0; i < kFull; ++i)
             peer.Send(Kind::Notification, 0, {{"n", std::to_string(i)}}, std::string(1000000, 'n'));

@@ -89,6 +89,60 @@ TEST_F(Exchange, NotificationsArriveInOrderOnOneThread)
     EXPECT_EQ(Numbers(kCount), received.WaitFor(kCount));
 }
 
+/// Notifications in a burst leave together, and still before what is sent after them.
+TEST_F(Exchange, BurstsKeepTheirOrderAmongCallsAndLongNotifications)
+{
+    Collected<std::string> arrived;
+    EchoServer server;
+    server.onData = [&](lpcserver::ClientId client, const lpc::CallBackData& data) {
+        arrived.Add(data.Header("n"));
+        if (data.requestId != 0) {
+            EXPECT_EQ(lpc::kNoError, server.server.Reply(client, {data.requestId, {}, {}}));
+        }
+    };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    {
+        const Client client;
+        for (int n = 0; n < 5000; ++n) {
+            if (n % 97 == 96)
+                ASSERT_EQ(0, SendExError(Numbered(n), 10000));
+            else
+                ASSERT_TRUE(lpcclient::Notify(Numbered(n, std::string(n % 61 == 0 ? 100000 : 10, 'b'))));
+        }
+        for (int n = 5000; n < 5010; ++n) // and the last ones are not kept back
+            ASSERT_TRUE(lpcclient::Notify(Numbered(n)));
+        EXPECT_EQ(Numbers(5010), arrived.WaitFor(5010));
+        for (int n = 5010; n < 5020; ++n) // nor lost at the end
+            ASSERT_TRUE(lpcclient::Notify(Numbered(n)));
+    }
+    EXPECT_EQ(Numbers(5020), arrived.WaitFor(5020));
+}
+
+TEST_F(Exchange, ABurstLeavesAlsoWhileTheReceiverIsBusy)
+{
+    Collected<std::string> arrived;
+    EchoServer server;
+    server.onData = [&](lpcserver::ClientId, const lpc::CallBackData& data) {
+        arrived.Add(data.Header("n"));
+    };
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    Once entered;
+    Once leave;
+    const Client client;
+    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
+        [&](const lpcclient::LPCCallBackData&, void*) {
+            entered.Happens();
+            return leave.Wait();
+        },
+        nullptr));
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), {}));
+    ASSERT_TRUE(entered.Wait());
+    for (int n = 0; n < 100; ++n)
+        EXPECT_TRUE(lpcclient::Notify(Numbered(n)));
+    EXPECT_EQ(Numbers(100), arrived.WaitFor(100));
+    leave.Happens();
+}
+
 /// The server sends two notifications around each answer, so that callers read what belongs to the library's
 /// thread.
 TEST_F(Exchange, ManyCallersGetTheirOwnAnswersWhileNotificationsKeepTheirOrder)

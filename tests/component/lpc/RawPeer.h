@@ -7,10 +7,16 @@
 #include "LPC_Wire/LocalSocket.h"
 #include "LPC_Wire/Poller.h"
 #include "LPC_Wire/SocketName.h"
-#include "support/WireBytes.h"
+#include "support/WireFrames.h"
 
+#include <cstdio>
 #include <optional>
 #include <thread>
+
+#include <sys/fsuid.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 /// One end of a connection that may send anything, and read or not.
 class RawPeer
@@ -23,7 +29,12 @@ public:
     static RawPeer ToServer()
     {
         std::string why;
-        RawPeer peer(lpc::CLocalSocket::Connect(lpc::SocketPath(kServerName, why), Deadline(), why));
+        return ToPath(lpc::SocketPath(kServerName, why));
+    }
+    static RawPeer ToPath(const std::string& path)
+    {
+        std::string why;
+        RawPeer peer(lpc::CLocalSocket::Connect(path, Deadline(), why));
         EXPECT_TRUE(peer.m_socket.IsValid()) << why;
         return peer;
     }
@@ -91,6 +102,41 @@ private:
     lpc::CLocalSocket m_socket;
     lpc::CFrameReader m_reader;
     bool m_closed = false;
+};
+
+/// Makes the calling thread another user's towards those that it connects to or that connect to it, until the
+/// object goes; files stay open to it. Only an administrator can do so: without that the test says so and
+/// looks at no more than that the user's own connections are known as such.
+class AnotherUser
+{
+public:
+    AnotherUser() : m_is(geteuid() == 0 && SetUser(65534))
+    {
+        setfsuid(0);
+        if (m_is)
+            return;
+        std::puts("NOT TRIED: a peer of another user, for this needs an administrator.");
+        int ends[2];
+        EXPECT_EQ(0, socketpair(AF_UNIX, SOCK_STREAM, 0, ends));
+        const lpc::CLocalSocket one(ends[0]);
+        const lpc::CLocalSocket other(ends[1]);
+        EXPECT_TRUE(one.PeerIsThisUser());
+    }
+    ~AnotherUser()
+    {
+        if (m_is)
+            SetUser(0);
+    }
+    AnotherUser(const AnotherUser&) = delete;
+    AnotherUser& operator=(const AnotherUser&) = delete;
+
+    bool Is() const { return m_is; }
+
+private:
+    /// The library's function would change all threads.
+    static bool SetUser(uid_t user) { return syscall(SYS_setresuid, -1, user, -1) == 0; }
+
+    const bool m_is;
 };
 
 /// A server of one connection, run by a function that may break the rules. The function starts after the

@@ -20,18 +20,12 @@ protected:
                           [&](const std::string& line) { return line.find(text) != std::string::npos; }));
     }
 
-    /// A whole good request with some bytes overwritten.
-    static std::string Damaged(std::size_t at, const std::string& bytes)
+    static void ExpectServed(RawPeer& peer)
     {
-        std::string request = WireBytes(Kind::Request, 1, {{"k", "v"}}, "body");
-        return request.replace(at, bytes.size(), bytes);
+        EXPECT_TRUE(peer.Send(Kind::Request, 5, {}, "still served"));
+        const auto answer = peer.Receive();
+        EXPECT_TRUE(answer && answer->body == "still served");
     }
-};
-
-struct FaultRow
-{
-    std::string bytes;
-    const char* line;
 };
 
 TEST_F(ServerFaults, EndOnlyTheirOwnConnectionWithOneLineThatNamesThem)
@@ -39,28 +33,87 @@ TEST_F(ServerFaults, EndOnlyTheirOwnConnectionWithOneLineThatNamesThem)
     EchoServer server;
     ASSERT_EQ(lpc::kNoError, server.Start());
     RawPeer other = RawPeer::Greeted("other");
-    const FaultRow rows[] = {
-        {Damaged(0, "X"), "bad magic"},
-        {Damaged(4, "\x02"), "unknown version"},
-        {Damaged(5, "\x09"), "unknown kind of frame"},
-        {Damaged(6, "\x02"), "unknown flags"},
-        {Damaged(8, std::string(1, '\0')), "request id does not fit"},
-        {Damaged(16, "\xff\xff\xff\xff"), "header length out of range"},
-        {Damaged(20, "\xff\xff\xff\xff"), "body length out of range"},
-        {Damaged(24, "\xff\xff"), "malformed headers"},
-        {WireBytes(Kind::Hello, 0, lpc::HelloHeaders("again"), ""), "kind of frame not expected here"},
-    };
+    std::vector<FaultRow> rows = FaultRows();
+    rows.push_back({WireBytes(Kind::Hello, 0, lpc::HelloHeaders("again"), ""), "kind of frame not expected"});
     for (const FaultRow& row : rows) {
         SCOPED_TRACE(row.line);
+        const std::size_t faults = Lines("[faulty]: ");
         RawPeer peer = RawPeer::Greeted("faulty");
         ASSERT_TRUE(peer.Send(row.bytes));
         EXPECT_TRUE(peer.SeesEnd());
-        EXPECT_EQ(1U, Lines(std::string("[faulty]: ") + row.line));
+        EXPECT_GE(Lines(std::string("[faulty]: ") + row.line), 1U); // one a second of each kind
+        EXPECT_LE(Lines("[faulty]: "), faults + 1);
+        ExpectServed(other);
     }
-    ASSERT_TRUE(other.Send(Kind::Request, 5, {}, "still served"));
-    const auto answer = other.Receive();
+}
+
+TEST_F(ServerFaults, UnfinishedBodiesOfAllClientsTogetherAreBounded)
+{
+    lpcserver::ServerLimits limits;
+    limits.unfinishedBytes = 4 * lpc::kMiB;
+    EchoServer server(limits);
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    RawPeer first = RawPeer::Greeted("first");
+    ASSERT_TRUE(first.Send(LongBody(3)));
+    ASSERT_TRUE(first.Send(Kind::Notification, 0, {}, "")); // and in between
+    ASSERT_TRUE(first.Send(Kind::Request, 2, {}, "has arrived"));
+    ASSERT_TRUE(first.Receive());
+    for (int i = 0; i < 3; ++i) { // what the closed ones held is free again
+        RawPeer second = RawPeer::Greeted("second");
+        second.Send(LongBody(2));
+        EXPECT_TRUE(second.SeesEnd());
+    }
+    EXPECT_EQ(1U, Lines("[second]: the unfinished bodies of all clients are over the limit"));
+    ASSERT_TRUE(first.Send(Frame(Kind::Request, 1, 0, "", "end")));
+    const auto answer = first.Receive();
     ASSERT_TRUE(answer);
-    EXPECT_EQ("still served", answer->body);
+    EXPECT_EQ(3 * lpc::kMiB + 3, answer->body.size());
+    RawPeer third = RawPeer::Greeted("third");
+    ASSERT_TRUE(third.Send(LongBody(3) + Frame(Kind::Request, 1, 0, "", "end")));
+    EXPECT_TRUE(third.Receive());
+}
+
+TEST_F(ServerFaults, AClientOfAnotherUserIsClosed)
+{
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    RawPeer other = RawPeer::Greeted("other");
+    std::string why;
+    const std::string path = lpc::SocketPath(kServerName, why);
+    std::optional<RawPeer> stranger;
+    {
+        const AnotherUser user;
+        if (!user.Is())
+            return;
+        stranger = RawPeer::ToPath(path);
+    }
+    EXPECT_TRUE(stranger->SeesEnd());
+    EXPECT_EQ(1U, Lines("[]: belongs to another user"));
+    ExpectServed(other);
+}
+
+TEST_F(ServerFaults, AServerThatStopsStillWritesToClientsThatRead)
+{
+    const std::string large(12000000, 'x');
+    EchoServer server;
+    ASSERT_EQ(lpc::kNoError, server.Start());
+    RawPeer mute = RawPeer::Greeted("mute");
+    const lpcserver::ClientId muteId = server.Client();
+    RawPeer reader = RawPeer::Greeted("reader");
+    server.connected.WaitFor(2);
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(muteId, {{}, large}));
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.lastClient, {{}, large}));
+    ASSERT_EQ(lpc::kNoError, server.server.Notify(server.lastClient, {{{"n", "last"}}, ""}));
+    auto reading = std::async(std::launch::async, [&] {
+        const auto first = reader.Receive();
+        const auto last = reader.Receive();
+        return first && first->body == large && last && last->headers.count("n") == 1;
+    });
+    const auto start = std::chrono::steady_clock::now();
+    server.server.Stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, kLimit / 2); // the mute one does not hold it up
+    EXPECT_TRUE(reading.get());
+    EXPECT_TRUE(reader.SeesEnd());
 }
 
 TEST_F(ServerFaults, ThatRepeatDoNotFillTheLog)

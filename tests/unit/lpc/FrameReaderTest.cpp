@@ -1,6 +1,5 @@
 #include "WireText.h"
 
-#include "LPC_Wire/ByteOrder.h"
 #include "LPC_Wire/Limits.h"
 
 #include <gtest/gtest.h>
@@ -53,16 +52,6 @@ TEST(FrameReader, PutsInterleavedBodiesTogetherByKindAndId)
     EXPECT_EQ("request", reading.messages[2].body);
 }
 
-/// Frames of kMaxFrameBody bytes under one identifier.
-std::string LongBody(std::size_t frames)
-{
-    const std::string part(lpc::kMaxFrameBody, 'x');
-    std::string bytes = Frame(Kind::Request, 1, lpc::kMoreFollows, NoHeaders(), part);
-    for (std::size_t i = 1; i < frames; ++i)
-        bytes += Frame(Kind::Request, 1, lpc::kMoreFollows, "", part);
-    return bytes;
-}
-
 TEST(FrameReader, RefusesABodyOverTheTotal)
 {
     const std::size_t frames = lpc::kMaxBody / lpc::kMaxFrameBody;
@@ -72,22 +61,43 @@ TEST(FrameReader, RefusesABodyOverTheTotal)
 
 TEST(FrameReader, RefusesTooManyBodiesUnderWay)
 {
-    std::string bytes;
-    for (lpc::RequestId id = 1; id <= lpc::kMaxPartialBodies; ++id)
-        bytes += Frame(Kind::Request, id, lpc::kMoreFollows, NoHeaders(), "x");
-    EXPECT_EQ(Fault::None, ReadAll(bytes).fault);
-    EXPECT_EQ(Fault::TooManyBodies,
-              ReadAll(bytes + Frame(Kind::Request, 99, lpc::kMoreFollows, NoHeaders(), "x")).fault);
+    EXPECT_EQ(Fault::None, ReadAll(BegunBodies(lpc::kMaxPartialBodies)).fault);
+    EXPECT_EQ(Fault::TooManyBodies, ReadAll(BegunBodies(lpc::kMaxPartialBodies + 1)).fault);
 }
 
 TEST(FrameReader, RefusesTenThousandHeaders)
 {
-    std::string headers(2, '\0');
-    lpc::PutNumber<std::uint16_t>(headers.data(), 10000);
-    for (int i = 0; i < 10000; ++i)
-        headers += std::string("\x01\0k\0\0", 5);
-    EXPECT_EQ(Fault::Headers,
-              ReadAll(Frame(Kind::Request, 1, 0, headers.substr(0, lpc::kMaxHeaderBytes), "")).fault);
+    EXPECT_EQ(Fault::Headers, ReadAll(Frame(Kind::Request, 1, 0, TenThousandHeaders(), "")).fault);
+}
+
+TEST(FrameReader, HeadersAreUtf8)
+{
+    struct Row
+    {
+        const char* text;
+        bool good;
+    };
+    const Row rows[] = {
+        {"plain text of some length", true},
+        {"Stra\xc3\x9f"
+         "e \xe2\x82\xac \xf0\x9f\x93\xb7",
+         true},
+        {"longer than eight bytes \x80", false}, // begins in the middle
+        {"\xc3", false},                         // ends in the middle
+        {"\xc0\xaf", false},                     // longer than need be
+        {"\xed\xa0\x80", false},                 // half a pair of another encoding
+        {"\xf4\x90\x80\x80", false},             // beyond the last character
+        {"\xff", false},
+    };
+    for (const Row& row : rows)
+        for (const auto& [key, value] : {std::pair{row.text, "v"}, std::pair{"k", row.text}}) {
+            SCOPED_TRACE(row.text);
+            const std::string section = std::string("\1\0", 2) + Text(key) + Text(value);
+            EXPECT_EQ(row.good ? Fault::None : Fault::Headers,
+                      ReadAll(Frame(Kind::Request, 1, 0, section, "")).fault);
+            EXPECT_EQ(row.good ? lpc::kNoError : lpc::kInvalidArgument,
+                      lpc::CFrameSet(Kind::Request, 1, {{key, value}}, "").Error());
+        }
 }
 
 /// A length that nothing follows costs no memory: the room offered stays small.

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "LPC_Wire/FrameReader.h"
-#include "support/WireBytes.h"
+#include "support/WireFrames.h"
 
 #include <algorithm>
 #include <cstring>
@@ -40,25 +40,4 @@ inline Reading ReadAll(const std::string& bytes, std::size_t piece = std::string
     }
     reading.insideMessage = reader.InsideMessage();
     return reading;
-}
-
-/// One frame, whatever its fields say.
-inline std::string Frame(lpc::Kind kind, lpc::RequestId id, std::uint16_t flags, const std::string& headers,
-                         const std::string& body)
-{
-    lpc::FrameHead head;
-    head.kind = kind;
-    head.flags = flags;
-    head.id = id;
-    head.headerBytes = static_cast<std::uint32_t>(headers.size());
-    head.bodyBytes = static_cast<std::uint32_t>(body.size());
-    std::string bytes(lpc::kFrameHeadBytes, '\0');
-    lpc::WriteFrameHead(head, bytes.data());
-    return bytes + headers + body;
-}
-
-/// The encoding of no headers.
-inline std::string NoHeaders()
-{
-    return std::string(2, '\0');
 }
