@@ -25,6 +25,17 @@ bool ReadFile(const std::string& path, std::string& content, std::size_t limit =
 /// step, so that a reader finds the old content or the new one.
 bool WriteFileAtomically(const std::string& path, const std::string& content);
 
+/// What others than this user and the administrator have of a file.
+enum class Exposure {
+    None,    ///< nothing
+    Ended,   ///< they had access, and have it no more
+    Remains, ///< access that cannot be taken away, as on a file system without rights
+    Foreign, ///< the file itself: it belongs to another user
+};
+
+/// Sees to it that no other user has access to a file that holds a secret. None for a file that is not there.
+Exposure KeepPrivate(const std::string& path);
+
 /// Creates the folder and those above it, for the user only. True when it exists afterwards.
 bool MakeDirs(const std::string& path);
 
