@@ -95,6 +95,13 @@ protected:
             std::count_if(all, {}, [](const auto& entry) { return entry.is_regular_file(); }));
     }
 
+    /// How often a component has come up so far.
+    std::ptrdiff_t TimesReady() const
+    {
+        const auto lines = run.LogMessages();
+        return std::count(lines.begin(), lines.end(), "Register alarm success.");
+    }
+
     void Enter(framework::CFrameworkCore& core);
     void ReceiveAsTheComponent();
     void SendBadBodies();
@@ -156,9 +163,15 @@ void Secrets::SendBadBodies()
     TestClient client("Secrets.Test");
     for (const std::string& body : bodies) {
         EXPECT_NE(client.Request("PUT", "/vantor/v1/deviceManagement/groups", body).status, "200") << body;
-        for (const char* url : {"/vantor/v1/internal/video/localFileQuery",
-                                "/vantor/v1/internal/video/videoFileNotify", "getWndHandle"})
-            client.Request("POST", url, body);
+        for (const char* method : {"getWndHandle", "showWnd", "switchUserUpdateFrame"})
+            EXPECT_TRUE(lpcclient::Notify({{{"method", method}}, body}));
+        for (const char* url : {"/vantor/v1/internal/video/localFileQuery", "getWndHandle"}) {
+            constexpr std::uint32_t kShortMs = 300; // not all of them are answered
+            lpc::Message answer;
+            lpc::RequestId id = 0;
+            (void)lpcclient::SendEx(answer, {{{"protocol", "http"}, {"method", "POST"}, {"url", url}}, body},
+                                    id, kShortMs);
+        }
     }
 }
 
@@ -223,19 +236,16 @@ void Secrets::CrashWhileStarting()
 /// With the component; exitCode 0: it is asked to end when the component is ready.
 void Secrets::RunTheFramework(int exitCode)
 {
-    const std::string report = run.Path() + "report";
     const std::string output = run.Path() + "output.framework" + std::to_string(exitCode);
-    fs::remove(report);
+    const auto before = TimesReady();
     CChildProcess framework;
     std::string error;
     const std::string program = Base::FileUtil::GetCurExeDir() + "Vantor.Framework";
-    ASSERT_TRUE(framework.Start({program, "--report", report}, output, error)) << error;
+    ASSERT_TRUE(framework.Start({program, "--skin", "BlackRedSkin", "--language", "1"}, output, error))
+        << error;
     if (exitCode == 0) {
-        const auto isReady = [&] {
-            std::string text;
-            return Base::FileUtil::ReadFile(report, text) && text.find("\"ready\"") != std::string::npos;
-        };
-        EXPECT_TRUE(WaitUntil(isReady, std::chrono::seconds(40))) << Content(output);
+        EXPECT_TRUE(WaitUntil([&] { return TimesReady() > before; }, std::chrono::seconds(40)))
+            << Content(output);
         LookAt(framework.Id());
         LookAt(run.ProcessId());
         framework.Signal(SIGTERM);
