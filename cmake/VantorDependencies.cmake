@@ -14,6 +14,7 @@ if(NOT WIN32)
     find_package(Qt5 5.15 REQUIRED COMPONENTS X11Extras)
     pkg_check_modules(XCB REQUIRED IMPORTED_TARGET xcb)
     pkg_check_modules(XCB_XTEST REQUIRED IMPORTED_TARGET xcb-xtest)
+    pkg_check_modules(LIBSECRET REQUIRED IMPORTED_TARGET libsecret-1)
 endif()
 pkg_check_modules(AVCODEC REQUIRED IMPORTED_TARGET libavcodec libavutil)
 

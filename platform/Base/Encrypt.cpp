@@ -110,6 +110,18 @@ AESParams::~AESParams()
     OPENSSL_cleanse(key.data(), key.size());
 }
 
+std::optional<AESParams> ParamsOf(const std::string& keyText, const std::string& label)
+{
+    if (!IsKeyText(keyText))
+        return std::nullopt;
+    auto bytes = FromHex(keyText);
+    AESParams params;
+    std::copy(bytes->begin(), bytes->end(), params.key.begin());
+    params.label = label;
+    Wipe(*bytes);
+    return params;
+}
+
 void SetAESParams(const AESParams& params)
 {
     std::lock_guard<std::mutex> lock(TheShared().mutex);

@@ -25,6 +25,9 @@ struct AESParams
     ~AESParams();
 };
 
+/// The parameters made of a key as hexadecimal digits; nothing for a text that is none.
+std::optional<AESParams> ParamsOf(const std::string& keyText, const std::string& label);
+
 /// Installs, reads and removes the process-wide parameters. Any thread.
 void SetAESParams(const AESParams& params);
 std::optional<AESParams> GetAESParams();

@@ -30,6 +30,17 @@ bool WriteFileAtomically(const std::string& path, const std::string& content);
 /// returns; to need not exist. False when the system refuses; both files are then as they were.
 bool PutInPlace(const std::string& from, const std::string& to);
 
+/// What others than this user and the administrator have of a file.
+enum class Exposure {
+    None,    ///< nothing
+    Ended,   ///< they had access, and have it no more
+    Remains, ///< access that cannot be taken away, as on a file system without rights
+    Foreign, ///< the file itself: it belongs to another user
+};
+
+/// Sees to it that no other user has access to a file that holds a secret. None for a file that is not there.
+Exposure KeepPrivate(const std::string& path);
+
 /// Creates the folder and those above it, for the user only. True when it exists afterwards.
 bool MakeDirs(const std::string& path);
 

@@ -3,12 +3,12 @@
 #include "Base/FileUtil.h"
 #include "Base/GuidUtil.h"
 #include "Base/Log.h"
-#include "Base/StringUtil.h"
+#include "CommonMethod/SealingKey.h"
+#include "Keyring/Keyring.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string_view>
@@ -21,7 +21,6 @@ namespace Encrypt = Base::Encrypt;
 
 constexpr std::size_t kSetupLimit = 64 * 1024;
 constexpr std::size_t kKeyDigits = 2 * Encrypt::kKeyBytes;
-constexpr char kLabel[] = "Vantor.DESetup.1";
 constexpr int kParseOptions = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
 
 struct FreeDocument
@@ -41,6 +40,11 @@ bool IsNamed(const xmlNode* node, const char* name)
     return node && node->type == XML_ELEMENT_NODE && xmlStrEqual(node->name, BAD_CAST name);
 }
 
+std::string TextOf(const XmlText& text)
+{
+    return text ? reinterpret_cast<const char*>(text.get()) : std::string();
+}
+
 Document Parse(const std::string& content)
 {
     xmlInitParser();
@@ -48,30 +52,21 @@ Document Parse(const std::string& content)
         xmlReadMemory(content.data(), static_cast<int>(content.size()), nullptr, nullptr, kParseOptions));
 }
 
-/// The text of the element Sealed of a setup that this program understands.
-std::optional<std::string> SealedText(xmlDoc* document)
+/// The sealed text of a setup that this program understands, and where its key lies.
+std::optional<SealedSetup> SetupOf(xmlDoc* document)
 {
     xmlNode* root = xmlDocGetRootElement(document);
     if (document->intSubset || !IsNamed(root, "DESetup"))
         return std::nullopt;
     const XmlText version(xmlGetProp(root, BAD_CAST "version"));
+    const XmlText entry(xmlGetProp(root, BAD_CAST "keyring"));
     xmlNode* element = xmlFirstElementChild(root);
     if (!version || !xmlStrEqual(version.get(), BAD_CAST "1") || !IsNamed(element, "Sealed"))
         return std::nullopt;
-    const XmlText text(xmlNodeGetContent(element));
-    return text ? std::optional<std::string>(reinterpret_cast<const char*>(text.get())) : std::nullopt;
-}
-
-std::optional<Encrypt::AESParams> ParamsOf(const std::string& hexKey, const std::string& label)
-{
-    if (!Encrypt::IsKeyText(hexKey))
+    SealedSetup setup{TextOf(XmlText(xmlNodeGetContent(element))), TextOf(entry)};
+    if (entry && !keyring::IsName(setup.keyringEntry))
         return std::nullopt;
-    auto bytes = Encrypt::FromHex(hexKey);
-    Encrypt::AESParams params;
-    std::copy(bytes->begin(), bytes->end(), params.key.begin());
-    params.label = label;
-    Encrypt::Wipe(*bytes);
-    return params;
+    return setup;
 }
 
 std::string PlainText(const DataEncryption& encryption)
@@ -108,23 +103,6 @@ std::optional<DataEncryption> FromPlainText(std::string_view text)
     return encryption;
 }
 
-void PutAside(const std::string& file)
-{
-    std::error_code error;
-    fs::rename(file, file + ".damaged", error);
-    if (error && error != std::errc::no_such_file_or_directory)
-        BASE_WARN("Failed to put the file [%s] aside, [%s].", file.c_str(), error.message().c_str());
-}
-
-void Delete(const std::string& file)
-{
-    std::error_code error;
-    if (fs::remove(file, error))
-        BASE_INFO("Deleted file.[file=%s]", file.c_str());
-    else if (error)
-        BASE_WARN("Failed to delete the file [%s], [%s].", file.c_str(), error.message().c_str());
-}
-
 } // namespace
 
 DataEncryption::~DataEncryption()
@@ -140,12 +118,10 @@ bool DataEncryption::operator==(const DataEncryption& other) const
 
 Encrypt::AESParams DataEncryption::Params() const
 {
-    return ParamsOf(dataKey, id).value_or(Encrypt::AESParams());
+    return Encrypt::ParamsOf(dataKey, id).value_or(Encrypt::AESParams());
 }
 
-CDataEncryptionConfig::CDataEncryptionConfig(const std::string& file)
-    : m_file(file), m_keyFile(fs::path(file).replace_extension(".key").string())
-{}
+CDataEncryptionConfig::CDataEncryptionConfig(const std::string& file) : m_file(file) {}
 
 DataEncryption CDataEncryptionConfig::Generate()
 {
@@ -170,7 +146,7 @@ std::optional<DataEncryption> CDataEncryptionConfig::Read() const
     return sealed ? Unseal(*sealed) : std::nullopt;
 }
 
-std::optional<std::string> CDataEncryptionConfig::ReadSealed() const
+std::optional<SealedSetup> CDataEncryptionConfig::ReadSealed() const
 {
     std::string content;
     Document document;
@@ -180,16 +156,16 @@ std::optional<std::string> CDataEncryptionConfig::ReadSealed() const
         BASE_ERROR("Failed to read xml file [%s].", m_file.c_str());
         return std::nullopt;
     }
-    auto sealed = SealedText(document.get());
+    auto sealed = SetupOf(document.get());
     if (!sealed)
         BASE_ERROR("Faild to load config file [%s].", m_file.c_str());
     return sealed;
 }
 
-std::optional<DataEncryption> CDataEncryptionConfig::Unseal(const std::string& sealed) const
+std::optional<DataEncryption> CDataEncryptionConfig::Unseal(const SealedSetup& sealed) const
 {
-    const auto sealing = ReadSealingKey();
-    auto plain = sealing ? Encrypt::Open(*sealing, sealed) : std::nullopt;
+    const auto key = CSealingKeys(m_file).Read(sealed.keyringEntry);
+    auto plain = key ? Encrypt::Open(key->params, sealed.text) : std::nullopt;
     auto encryption = plain ? FromPlainText(*plain) : std::nullopt;
     if (plain)
         Encrypt::Wipe(*plain);
@@ -204,23 +180,16 @@ std::optional<DataEncryption> CDataEncryptionConfig::Unseal(const std::string& s
     return encryption;
 }
 
-std::optional<Encrypt::AESParams> CDataEncryptionConfig::ReadSealingKey() const
+/// The sealing key of the setup that is there, or one that an interrupted first start has left; else a new
+/// one.
+std::optional<SealingKey> CDataEncryptionConfig::KeyToWriteWith() const
 {
-    std::string text;
-    if (!Base::FileUtil::ReadFile(m_keyFile, text, kKeyDigits))
-        return std::nullopt;
-    auto params = ParamsOf(text, kLabel);
-    Encrypt::Wipe(text);
-    return params;
-}
-
-std::optional<Encrypt::AESParams> CDataEncryptionConfig::MakeSealingKey() const
-{
-    std::string text = Encrypt::RandomKeyText();
-    auto params = ParamsOf(text, kLabel);
-    const bool written = Base::FileUtil::WriteFileAtomically(m_keyFile, text);
-    Encrypt::Wipe(text);
-    return written ? params : std::nullopt;
+    const CSealingKeys keys(m_file);
+    const auto present = Exists() ? ReadSealed() : std::nullopt;
+    std::optional<SealingKey> key;
+    if (present || keys.HasFile())
+        key = keys.Read(present ? present->keyringEntry : std::string());
+    return key ? key : keys.Make();
 }
 
 bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
@@ -229,18 +198,17 @@ bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
         BASE_ERROR("Failed to create the folder of [%s].", m_file.c_str());
         return false;
     }
-    auto sealing = ReadSealingKey();
-    if (!sealing)
-        sealing = MakeSealingKey();
-    if (!sealing) {
+    const auto key = KeyToWriteWith();
+    if (!key) {
         BASE_ERROR("Failed to write the sealing key of [%s].", m_file.c_str());
         return false;
     }
     std::string plain = PlainText(encryption);
-    const std::string sealed = Encrypt::Seal(*sealing, plain); // base64 needs no escaping
+    const std::string sealed = Encrypt::Seal(key->params, plain); // base64 needs no escaping, nor does a name
     Encrypt::Wipe(plain);
-    const std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<DESetup version=\"1\"><Sealed>" +
-                            sealed + "</Sealed></DESetup>\n";
+    const std::string place = key->entry.empty() ? "" : " keyring=\"" + key->entry + '"';
+    const std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<DESetup version=\"1\"" + place +
+                            "><Sealed>" + sealed + "</Sealed></DESetup>\n";
     if (Base::FileUtil::WriteFileAtomically(m_file, xml))
         return true;
     BASE_ERROR("Failed to write the file [%s].", m_file.c_str());
@@ -250,13 +218,14 @@ bool CDataEncryptionConfig::Write(const DataEncryption& encryption) const
 // The setup file goes last: while it is there, the next start takes the rest up again.
 void CDataEncryptionConfig::Remove() const
 {
-    Delete(m_keyFile);
-    Delete(m_file);
+    const auto present = ReadSealed();
+    CSealingKeys(m_file).Remove(present ? present->keyringEntry : std::string());
+    DeleteFile(m_file);
 }
 
 void CDataEncryptionConfig::SetAside() const
 {
-    PutAside(m_keyFile);
+    PutAside(CSealingKeys(m_file).File());
     PutAside(m_file);
 }
 

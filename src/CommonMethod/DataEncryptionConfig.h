@@ -32,12 +32,22 @@ inline constexpr const char* kFrameworkSetup = "Framework.C/DESetup.xml";
 inline constexpr std::array<const char*, 3> kOlderSetups = {"ClientDESetup.xml", "Framework.S/DESetup.xml",
                                                             "DESetup.xml"};
 
-/// The data-encryption setup file and the sealing key beside it.
+/// A setup file's sealed text, and the keyring's entry of its sealing key; empty when that lies in a file.
+struct SealedSetup
+{
+    std::string text;
+    std::string keyringEntry;
+};
+
+struct SealingKey;
+
+/// The data-encryption setup file and its sealing key.
 ///
-/// "DESetup.xml" is `<DESetup version="1"><Sealed>TEXT</Sealed></DESetup>` of at most 64 KiB. TEXT is what
-/// Base::Encrypt::Seal gives for the lines "id=...", "key=...", "data=..." (keys as 64 hexadecimal digits)
-/// under the sealing key, with the label "Vantor.DESetup.1". The sealing key is 32 bytes, in "DESetup.key"
-/// (the same name with ".key") as 64 hexadecimal digits, in a file of mode 0600.
+/// "DESetup.xml" is `<DESetup version="1" keyring="NAME"><Sealed>TEXT</Sealed></DESetup>` of at most 64 KiB.
+/// TEXT is what Base::Encrypt::Seal gives for the lines "id=...", "key=...", "data=..." (keys as 64
+/// hexadecimal digits) under the sealing key, with the label "Vantor.DESetup.1". The sealing key is 32 bytes
+/// as 64 hexadecimal digits: in the entry NAME of the user's keyring, or without the attribute in
+/// "DESetup.key" (the same name with ".key"), a file of mode 0600. See CSealingKeys.
 ///
 /// One thread at a time. Paths are in the local code page.
 class CDataEncryptionConfig
@@ -62,17 +72,16 @@ public:
     /// Deletes the setup file and its sealing key.
     void Remove() const;
 
-    /// Puts a setup that cannot be read aside, its two files as "<file>.damaged".
+    /// Puts a setup that cannot be read aside, as "<file>.damaged", ".damaged.2" and so on, and so its key
+    /// file. The keyring's entry stays.
     void SetAside() const;
 
 private:
-    std::optional<std::string> ReadSealed() const;
-    std::optional<DataEncryption> Unseal(const std::string& sealed) const;
-    std::optional<Base::Encrypt::AESParams> ReadSealingKey() const;
-    std::optional<Base::Encrypt::AESParams> MakeSealingKey() const;
+    std::optional<SealedSetup> ReadSealed() const;
+    std::optional<DataEncryption> Unseal(const SealedSetup& sealed) const;
+    std::optional<SealingKey> KeyToWriteWith() const;
 
     const std::string m_file;
-    const std::string m_keyFile;
 };
 
 } // namespace comm_method

@@ -4,7 +4,8 @@
 #include <filesystem>
 #include <string>
 
-/// A fresh user data root of one test, with its own runtime folder for sockets; gone when the test ends.
+/// A fresh user data root of one test, with its own runtime folder for sockets and without a keyring; gone
+/// when the test ends.
 class TestDataRoot
 {
 public:
@@ -14,6 +15,7 @@ public:
         m_path = mkdtemp(name.data());
         setenv("VANTOR_USER_DATA", m_path.c_str(), 1);
         setenv("XDG_RUNTIME_DIR", m_path.c_str(), 1);
+        setenv("VANTOR_KEYRING", "none", 1);
     }
 
     ~TestDataRoot()

@@ -1,3 +1,4 @@
+#include "Base/Encrypt.h"
 #include "Base/FileUtil.h"
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "system/ComponentRun.h"
@@ -6,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <functional>
+#include <map>
 
 using testing::Contains;
 using testing::HasSubstr;
@@ -59,17 +62,52 @@ TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndEncryptedFromTh
     EXPECT_THAT(EverythingWritten(run.DataPath()), Not(HasSubstr(setup.databaseKey)));
 }
 
-TEST(TheComponentsDatabase, IsLeftAsItIsWhenTheSetupIsDamaged)
+/// The files of the database, by name, as they are.
+std::map<std::string, std::string> Files(const ComponentRun& run)
+{
+    std::map<std::string, std::string> files;
+    for (const char* suffix : {"", "-wal"})
+        Base::FileUtil::ReadFile(run.DataPath() + "VideoSystem" + suffix, files[suffix]);
+    return files;
+}
+
+TEST(TheComponentsDatabase, IsLeftAsItIsWhenTheSetupDoesNotFit)
 {
     ComponentRun run;
+    using comm_method::CDataEncryptionConfig;
+    const std::string setupFile = run.Path() + "Framework.C/DESetup.xml";
+    const std::string keyFile = run.Path() + "Framework.C/DESetup.key";
+    const auto setup = CDataEncryptionConfig::Generate();
+    ASSERT_TRUE(CDataEncryptionConfig(setupFile).Write(setup));
     ASSERT_EQ(run.Play(kStartAndEnd), 0) << run.Output();
-    const auto size = std::filesystem::file_size(run.DataPath() + "VideoSystem");
-    std::filesystem::create_directories(run.Path() + "Framework.C");
-    ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(run.Path() + "Framework.C/DESetup.xml", "<DESetup"));
-    ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();
-    EXPECT_THAT(run.LogMessages(), Contains("InitDatabase Failed."));
-    EXPECT_EQ(std::filesystem::file_size(run.DataPath() + "VideoSystem"), size);
-    EXPECT_TRUE(IsPlain(run.DataPath() + "VideoSystem"));
+    const auto before = Files(run);
+    auto other = setup;
+    other.databaseKey = Base::Encrypt::RandomKeyText();
+    const struct
+    {
+        std::string line;
+        std::function<bool()> spoil;
+    } rows[] = {
+        {"Failed to read xml file [" + setupFile + "].",
+         [&] { return Base::FileUtil::WriteFileAtomically(setupFile, "<DESetup"); }},
+        {"Failed to checkAndUpdateDB. [msg-VideoSystem: file is encrypted or is not a database].",
+         [&] { return CDataEncryptionConfig(setupFile).Write(other); }},
+        {"Faild to decryption config file [" + setupFile + "].",
+         [&] { return Base::FileUtil::WriteFileAtomically(keyFile, std::string(64, '0')); }},
+        {"Faild to decryption config file [" + setupFile + "].",
+         [&] { return std::filesystem::remove(keyFile); }},
+        {"Failed to checkAndUpdateDB. [msg-VideoSystem: the file is encrypted or damaged, and there is no "
+         "key].",
+         [&] { return std::filesystem::remove(setupFile); }},
+    };
+    for (const auto& row : rows) {
+        ASSERT_TRUE(row.spoil()) << row.line;
+        std::filesystem::remove(run.DataPath() + "log/Video.C.log");
+        ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << row.line << run.Output();
+        EXPECT_THAT(run.LogMessages(), Contains(row.line));
+        EXPECT_THAT(run.LogMessages(), Contains("InitDatabase Failed."));
+        EXPECT_EQ(Files(run), before) << row.line;
+    }
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <climits>
@@ -47,6 +48,21 @@ bool WriteAll(int fd, const std::string& content)
             done += static_cast<std::size_t>(written);
     }
     return true;
+}
+
+/// Reads on from the position to the end of the buffer or of the file; how much, -1 for an error.
+ssize_t ReadSome(int fd, std::string& buffer, std::size_t position)
+{
+    std::size_t done = position;
+    while (done < buffer.size()) {
+        const ssize_t got = ::read(fd, buffer.data() + done, buffer.size() - done);
+        if (got < 0 && errno != EINTR)
+            return -1;
+        if (got == 0)
+            break;
+        done += got > 0 ? static_cast<std::size_t>(got) : 0;
+    }
+    return static_cast<ssize_t>(done - position);
 }
 
 std::string HomeDir()
@@ -123,23 +139,41 @@ std::string UserDataRoot()
     return home.empty() ? std::string() : WithSlash(home) + ".local/share/Vantor/";
 }
 
+// Read where it is wanted, and mostly in one go: copies of a secret would stay behind elsewhere.
 bool ReadFile(const std::string& path, std::string& content, std::size_t limit)
 {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
-    if (!file.IsOpen())
+    struct stat status = {};
+    if (!file.IsOpen() || ::fstat(file.Get(), &status) != 0)
         return false;
+    constexpr std::size_t kStep = 64 * 1024; // of files that do not tell their size
+    std::size_t room = status.st_size > 0 ? static_cast<std::size_t>(status.st_size) + 1 : kStep;
     content.clear();
-    std::array<char, 64 * 1024> buffer;
-    for (;;) {
-        const ssize_t got = ::read(file.Get(), buffer.data(), buffer.size());
-        if (got == 0)
-            return true;
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0 || content.size() + static_cast<std::size_t>(got) > limit)
+    for (std::size_t done = 0; done <= limit; room = kStep) {
+        content.resize(std::min(done + room, limit + 1));
+        const ssize_t got = ReadSome(file.Get(), content, done);
+        if (got < 0)
             return false;
-        content.append(buffer.data(), static_cast<std::size_t>(got));
+        done += static_cast<std::size_t>(got);
+        if (done < content.size()) {
+            content.resize(done);
+            return true;
+        }
     }
+    return false;
+}
+
+Exposure KeepPrivate(const std::string& path)
+{
+    constexpr mode_t kOthers = S_IRWXG | S_IRWXO;
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0 || status.st_uid != ::geteuid())
+        return status.st_uid == 0 ? Exposure::None : Exposure::Foreign;
+    if ((status.st_mode & kOthers) == 0)
+        return Exposure::None;
+    const bool ended = ::chmod(path.c_str(), status.st_mode & 07777 & ~kOthers) == 0 &&
+                       ::stat(path.c_str(), &status) == 0 && (status.st_mode & kOthers) == 0;
+    return ended ? Exposure::Ended : Exposure::Remains;
 }
 
 bool WriteFileAtomically(const std::string& path, const std::string& content)

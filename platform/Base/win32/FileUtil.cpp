@@ -69,6 +69,12 @@ bool ReadFile(const std::string& path, std::string& content, std::size_t limit)
     return content.size() <= limit;
 }
 
+// The user's own folders are closed to others by what they inherit.
+Exposure KeepPrivate(const std::string&)
+{
+    return Exposure::None;
+}
+
 bool WriteFileAtomically(const std::string& path, const std::string& content)
 {
     const std::string temporary = path + ".writing";

@@ -156,15 +156,35 @@ TEST_F(Kept, IsWhatWasBeforeAChangeThatCannotBeWritten)
 
 TEST_F(Kept, IsADataEncryptionSetupThatCannotBeRead)
 {
-    StartCore();
-    Spoil("DESetup.xml", "<DESetup");
-    framework::CFrameworkCore again(events, {Folder(), {}, {}});
-    std::string error;
-    EXPECT_FALSE(again.Start(error));
-    EXPECT_THAT(error, HasSubstr("DESetup.xml\" cannot be read"));
-    std::string content;
-    ASSERT_TRUE(Base::FileUtil::ReadFile(Folder() + "DESetup.xml", content));
-    EXPECT_EQ(content, "<DESetup");
+    const char kInKeyring[] = R"(<DESetup version="1" keyring="gone"><Sealed>AAAA</Sealed></DESetup>)";
+    for (const char* setup : {"<DESetup", kInKeyring}) {
+        StartCore();
+        Spoil("DESetup.xml", setup);
+        framework::CFrameworkCore again(events, {Folder(), {}, {}});
+        std::string error;
+        EXPECT_FALSE(again.Start(error));
+        EXPECT_THAT(error, HasSubstr("DESetup.xml\" cannot be read"));
+        std::string content;
+        ASSERT_TRUE(Base::FileUtil::ReadFile(Folder() + "DESetup.xml", content));
+        EXPECT_EQ(content, setup);
+        fs::remove(Folder() + "DESetup.xml");
+    }
+}
+
+TEST_F(Kept, IsADatabaseWhoseDataEncryptionSetupIsGone)
+{
+    const std::string database = root.Path() + "Video.C/VideoSystem";
+    fs::create_directories(root.Path() + "Video.C");
+    for (const auto& [content, mayStart] : {std::pair<std::string, bool>{std::string(4096, 'x'), false},
+                                            {std::string("SQLite format 3\0 and so on", 26), true},
+                                            {"", true}}) {
+        ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(database, content));
+        framework::CFrameworkCore started(events, {Folder(), {}, {}});
+        std::string error;
+        EXPECT_EQ(started.Start(error), mayStart) << error;
+        EXPECT_EQ(fs::exists(Folder() + "DESetup.xml"), mayStart);
+        fs::remove(Folder() + "DESetup.xml");
+    }
 }
 
 TEST_F(Kept, IsTheDataEncryptionSetupOfAnOlderRelease)

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+
+#include <csignal>
+
 using DatabaseUpdate::CDataEncryptionMgr;
 using DatabaseUpdate::CDBCheckImplHelper;
 using store::kKey;
@@ -45,6 +49,27 @@ protected:
     TestDataRoot m_root;
     DatabaseUpdate::DBCheckImplHelperParams m_params;
     std::string m_message;
+};
+
+/// Lets no file of this process grow beyond so many bytes.
+class FullDisk
+{
+public:
+    explicit FullDisk(std::size_t room) : m_signal(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit full{room, m_limit.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_signal);
+    }
+
+private:
+    rlimit m_limit = {};
+    void (*m_signal)(int);
 };
 
 } // namespace
@@ -118,6 +143,20 @@ TEST_F(EncryptionChange, LeavesADamagedPlainFile)
     EXPECT_FALSE(Update());
     EXPECT_EQ(store::ReadAll(Path()), content);
     EXPECT_EQ(store::NamesIn(m_params.dataPath), std::vector<std::string>{"VideoSystem"});
+}
+
+TEST_F(EncryptionChange, LeavesAPlainFileWhenTheDiskIsFull)
+{
+    MakeWithRow("");
+    const std::string before = store::ReadAll(Path());
+    UseKey(kKey);
+    for (const std::size_t room : {std::size_t(0), std::size_t(4096), before.size() - 1}) {
+        EXPECT_FALSE((FullDisk(room), Update())) << room;
+        EXPECT_EQ(store::ReadAll(Path()), before) << room;
+        EXPECT_FALSE(store::Exists(Path() + ".encrypting")) << room;
+    }
+    EXPECT_TRUE(Update()) << m_message;
+    EXPECT_EQ(store::Query(Path(), kKey, "SELECT s FROM T"), "a readable row");
 }
 
 TEST_F(EncryptionChange, ConvertsTheKeptCopiesToo)
