@@ -6,6 +6,9 @@
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "Fuzz.h"
 
+#include <sys/stat.h>
+
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -60,7 +63,8 @@ std::optional<DataEncryption> Read(const std::string& document, const std::strin
     const fuzz::CLogWatch log;
     auto setup = config.Read();
     FUZZ_CHECK(config.Exists());
-    FUZZ_CHECK(log.Count() == (setup ? 0 : 1));
+    // The keyring, which is not there, has a line of its own.
+    FUZZ_CHECK(setup ? log.Count() == 0 : log.Count() == 1 || log.Count() == 2);
     return setup;
 }
 
@@ -81,6 +85,13 @@ void CheckSealed(const std::string& plain)
 }
 
 } // namespace
+
+extern "C" int LLVMFuzzerInitialize(int*, char***)
+{
+    setenv("VANTOR_KEYRING", "none", 1);
+    umask(077); // files that others may read have a line of their own
+    return 0;
+}
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
