@@ -1,6 +1,7 @@
 #include "LPC_Client/Inbound.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 
 #include <algorithm>
 
@@ -10,6 +11,15 @@ namespace {
 /// What an item and a header cost beside their texts.
 constexpr std::size_t kItemBytes = 256;
 constexpr std::size_t kHeaderBytes = 96;
+
+void LogNotTaken(const LPCCallBackData& data)
+{
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
+        BASE_WARN_TO("VideoLogger",
+                     "LPC: the receiver did not take a message. [url-%.128s] [method-%.128s]%s",
+                     data.Header("url").c_str(), data.Header("method").c_str(), skipped->c_str());
+}
 
 } // namespace
 
@@ -71,8 +81,7 @@ void CInbound::Deliver(InboundItem& item, const Receiver& receiver)
     }
     if (receiver.callback) {
         if (!receiver.callback(item.data, receiver.user))
-            BASE_WARN_TO("VideoLogger", "LPC: the receiver did not take a message. [url-%s] [method-%s]",
-                         item.data.Header("url").c_str(), item.data.Header("method").c_str());
+            LogNotTaken(item.data);
         return;
     }
     if (item.data.requestId != 0)

@@ -58,7 +58,8 @@ using AnswerCallBack = std::function<void(int error, const tag_LPCResponseData& 
 [[nodiscard]] bool SendEx(tag_LPCResponseData& response, const tag_LPCRequestData& request, RequestId& id,
                           std::uint32_t timeoutMs);
 
-/// Sends a notification; one of many in a burst leaves within a millisecond.
+/// Sends a notification. One of many in a burst leaves within a millisecond; sent from within a callback, at
+/// the latest when that returns. A process that ends without disconnecting first may lose it.
 [[nodiscard]] bool Notify(const tag_LPCNotifyData& notification);
 
 /// Answers a request that the invoke callback received.

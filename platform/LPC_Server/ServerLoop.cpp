@@ -27,9 +27,11 @@ constexpr std::chrono::seconds kAcceptPause{1};
 
 int CServerLoop::Start(const std::string& serverName)
 {
+    if (OnOwnThread()) // a Stop in another thread may hold the lock and wait for this one
+        return lpc::kInvalidArgument;
     std::lock_guard<std::mutex> starting(m_starting);
     if (m_thread.joinable()) {
-        if (!m_stop || OnOwnThread())
+        if (!m_stop)
             return lpc::kInvalidArgument;
         m_thread.join();
     }

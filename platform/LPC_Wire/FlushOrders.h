@@ -14,7 +14,8 @@ class CFlushOrders
 public:
     explicit CFlushOrders(CPoller& poller) : m_poller(poller) {}
 
-    /// Any thread. False when the order may not be carried out soon.
+    /// Any thread, under the lock of the queue that is to be flushed. False when the order may not be carried
+    /// out soon.
     bool Order();
 
     // Of the thread that carries them out:

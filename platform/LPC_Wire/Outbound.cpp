@@ -16,7 +16,7 @@ constexpr std::size_t kBurstMessage = 8 * kKiB;
 constexpr std::chrono::microseconds kBurstGap{50};
 constexpr std::size_t kBurstBytes = kJoinBytes - 2 * kBurstMessage;
 
-/// An ordered flush that has not come by then is not relied on.
+/// An ordered flush is not relied on when what waits first has waited so long.
 constexpr std::chrono::milliseconds kOverdue{1};
 
 TimePoint Now()
@@ -70,20 +70,13 @@ bool COutbound::ContinuesBurst(const CFrameSet& frames) const
     return frames.Size() <= kBurstMessage && Now() - m_lastCasual < kBurstGap;
 }
 
+/// Asks for each message: who could take an order a moment ago may be busy now.
 void COutbound::Join(const CFrameSet& frames)
 {
     Queue(frames, 0, 0);
     m_lastCasual = Now();
-    if (m_bytes >= kBurstBytes || (m_ordered && m_lastCasual - m_orderedAt > kOverdue)) {
+    if (m_bytes >= kBurstBytes || m_lastCasual - m_progress > kOverdue || !m_hooks.orderFlush())
         FlushLocked();
-    } else if (!m_ordered) {
-        m_ordered = true;
-        m_orderedAt = m_lastCasual;
-        if (!m_hooks.orderFlush()) {
-            m_ordered = false;
-            FlushLocked();
-        }
-    }
 }
 
 int COutbound::PostShared(const CFrameSet& frames, Ticket& ticket)
@@ -141,7 +134,6 @@ void COutbound::Flush()
 void COutbound::FlushOrdered()
 {
     std::lock_guard<std::mutex> lock(m_mutex);
-    m_ordered = false;
     if (!m_blocked)
         FlushLocked();
 }

@@ -106,12 +106,10 @@ private:
     std::size_t m_bytes = 0;
     std::size_t m_ownedChunks = 0;
     Ticket m_lastTicket = 0;
-    TimePoint m_progress = kForever;
-    TimePoint m_lastCasual; ///< when the last message that may wait was written or joined
-    TimePoint m_orderedAt;
-    std::string m_spare;    ///< memory of a chunk that has left
-    bool m_ordered = false; ///< FlushOrdered will come
-    bool m_blocked = false; ///< the socket takes no more for the moment
+    TimePoint m_progress = kForever; ///< see WaitingSince
+    TimePoint m_lastCasual;          ///< when the last message that may wait was written or joined
+    std::string m_spare;             ///< memory of a chunk that has left
+    bool m_blocked = false;          ///< the socket takes no more for the moment
     bool m_watching = false;
     bool m_broken = false;
 };

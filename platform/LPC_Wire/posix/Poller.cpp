@@ -124,7 +124,7 @@ void CPoller::Wake()
 
 void CPoller::WakeSoon()
 {
-    if (m_wakesSoon.exchange(true))
+    if (m_wakesSoon || m_wakesSoon.exchange(true))
         return;
     itimerspec once{};
     once.it_value.tv_nsec = std::chrono::nanoseconds(kSoon).count();
