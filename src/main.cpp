@@ -12,6 +12,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QOpenGLContext>
 
 #include <clocale>
 #include <future>
@@ -35,6 +36,18 @@ void AddPluginPath()
         QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) + QDir::separator() + "plugins";
     qDebug() << dir;
     QCoreApplication::addLibraryPath(dir);
+}
+
+// No window is painted by OpenGL. Qt's window system would bring it up all the same for the first window,
+// which takes as long as half of the start. Programs that this one starts decide for themselves.
+void LeaveOpenGLAside()
+{
+    constexpr const char* integration = "QT_XCB_GL_INTEGRATION";
+    if (qEnvironmentVariableIsSet(integration))
+        return;
+    qputenv(integration, "none");
+    (void)QOpenGLContext::supportsThreadedOpenGL(); // reads the variable
+    qunsetenv(integration);
 }
 
 int FailedInit(std::unique_ptr<video::CVantorApplication> application, std::future<void>& crashSetup)
@@ -61,6 +74,7 @@ int main(int argc, char* argv[])
     auto application = std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
     Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
     AddPluginPath();
+    LeaveOpenGLAside();
     if (!application->Init())
         return FailedInit(std::move(application), crashSetup);
 
