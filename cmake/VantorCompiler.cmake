@@ -20,6 +20,8 @@ if(MSVC)
 else()
     target_compile_options(vantor_flags INTERFACE -Wall -Wextra -Wformat=2 -Werror=format -Werror=return-type
                            -Wnon-virtual-dtor -fno-omit-frame-pointer)
+    # Crash reports name every module's build, so that none is resolved with another one.
+    target_link_options(vantor_flags INTERFACE LINKER:--build-id=sha1)
     if(CCACHE)
         target_compile_options(vantor_flags INTERFACE -fpch-preprocess)
     endif()

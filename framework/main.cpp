@@ -2,7 +2,9 @@
 #include "Base/Log.h"
 #include "Base/ProcessUtil.h"
 #include "Base/StringUtil.h"
+#include "CommonMethodLib/EventUploadMgr.h"
 #include "CommonMethodLib/UserDataPath.h"
+#include "CrashAPI/CrashAPI.h"
 #include "UiDataController/HighDPIMgr.h"
 #include "WindowEmbedding/GuestWindow.h"
 #include "framework/ui/FrameworkApplication.h"
@@ -22,6 +24,19 @@ bool PreparePaths()
     const std::string exeDir = Base::FileUtil::GetCurExeDir();
     Base::FileUtil::InitCurExeDirUtf8(Base::LocalToUTF8(exeDir));
     return comm_methodlib::CUserDataPath::Instance().init(exeDir + "../", "Framework.C", -1, -1);
+}
+
+/// Failures are logged; the framework then runs without reports.
+void PrepareCrashReports()
+{
+    constexpr int kMaxDumps = 3;
+    const std::string dumpPath = comm_methodlib::CUserDataPath::Instance().dumpPath();
+    const bool full = comm_methodlib::CEventUploadMgr::Instance().isCreateCrashDump(dumpPath);
+    Base::ProcessUtil::OnThreadStart([] { CrashAPI_PrepareThread(); });
+    if (!CrashAPI_Init() || !CrashAPI_SetDumpPath(dumpPath.c_str()) ||
+        !CrashAPI_SetDumpType(full ? CRASH_DUMP_FULL : CRASH_DUMP_NORMAL) ||
+        !CrashAPI_SetDumpMaxCount(kMaxDumps))
+        BASE_ERROR("Crash reports cannot be written to %s.", dumpPath.c_str());
 }
 
 int Run(const framework::CommandLine& line)
@@ -52,18 +67,25 @@ int main(int argc, char* argv[])
         arguments << QString::fromLocal8Bit(argv[index]);
     QString error;
     const auto line = framework::ParseCommandLine(arguments, error);
-    if (!line || line->help) {
-        std::fputs(qPrintable(line ? framework::HelpText() : error + '\n'), line ? stdout : stderr);
-        return line ? 0 : kWrongCommandLine;
+    if (!line) {
+        std::fputs(qPrintable(error + '\n'), stderr);
+        return kWrongCommandLine;
+    }
+    if (line->help) {
+        const QCoreApplication application(argc, argv); // the text holds its name
+        std::fputs(qPrintable(framework::HelpText()), stdout);
+        return 0;
     }
     if (!PreparePaths())
         return 1;
     Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    PrepareCrashReports();
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
     QApplication application(argc, argv);
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() + "/../plugins");
     embedding::FollowMouseWithFocus();
     const int result = Run(*line);
     Base::CLog::Instance().UninitLog();
+    CrashAPI_Uninit();
     return result;
 }

@@ -1,9 +1,11 @@
 #include "SignalTransmit.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/UserJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/WndJSONStruct.h"
+#include "Protocol/JSONStruct/LoggableText.h"
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
@@ -17,6 +19,7 @@ namespace video {
 namespace {
 
 using lpcclient::LPCCallBackData;
+using protocol::LoggableText;
 
 /// A method of the framework with the signal that carries it and the slot that does the work.
 struct MethodRow
@@ -86,12 +89,19 @@ const AuxiliaryScreenRow* AuxiliaryScreenOf(const std::string& view)
 /// For a slot whose page this edition does not have.
 void LogNotServed(const char* method)
 {
-    BASE_INFO("[%s] is not served.", method);
+    BASE_LIMITED(Base::CFaultLimit, BASE_INFO, "[%s] is not served.", method);
 }
 
 void LogNotServed(const LPCCallBackData& data)
 {
     LogNotServed(data.Header(kMethodHeader).c_str());
+}
+
+void LogNoWindow()
+{
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
+        BASE_ERROR("Get wnd id Error.%s", skipped->c_str());
 }
 
 } // namespace
@@ -126,7 +136,10 @@ void CSignalTransmit::ServeMethods(CRouteTable& methods)
     for (const MethodRow& row : kMethods)
         methods.Bind(row.method, [this, row](const LPCCallBackData& data) { emit(this->*row.signal)(data); });
     for (const PlainMethodRow& row : kPlainMethods)
-        methods.Bind(row.method, [this, row](const LPCCallBackData&) { emit(this->*row.signal)(); });
+        methods.Bind(row.method, [this, row](const LPCCallBackData& data) {
+            // The event holds its call, as those of the other signals do, so that only so many wait.
+            QMetaObject::invokeMethod(this, [this, row, data] { emit(this->*row.signal)(); });
+        });
 }
 
 void CSignalTransmit::OnWebsocketNotify(const LPCCallBackData& data)
@@ -145,15 +158,15 @@ void CSignalTransmit::OnSignalGetWnd(const LPCCallBackData& data)
     protocol::LPCRequestData envelope(request);
     if (!envelope.Parse(data.body))
         return;
-    BASE_INFO("Get wnd id Name:[%s].", request.type.c_str());
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Get wnd id Name:[%s].", LoggableText(request.type).c_str());
     if (envelope.method != request.Key())
         return;
     int wid = 0;
     if (!m_windows.GetWID(request.type, wid)) {
-        BASE_ERROR("Get wnd id Error.");
+        LogNoWindow();
         return;
     }
-    BASE_INFO("Get wnd Success id:[%d].", wid);
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Get wnd Success id:[%d].", wid);
     protocol::GetWndHandleResponseData response;
     response.wndId = wid;
     if (!m_windows.IsAvailable(request.type))
@@ -168,9 +181,10 @@ void CSignalTransmit::OnSignalShowWnd(const LPCCallBackData& data)
     if (!envelope.Parse(data.body))
         return;
     if (m_windows.ShowWnd(request.type))
-        BASE_INFO("Show Wnd[%s] Success", request.type.c_str());
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Show Wnd[%s] Success", request.type.c_str());
     else
-        BASE_ERROR("There is no window [%s] to show.", request.type.c_str());
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "There is no window [%s] to show.",
+                     LoggableText(request.type).c_str());
 }
 
 void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
@@ -179,8 +193,8 @@ void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
     protocol::LPCRequestData envelope(request);
     if (!envelope.Parse(data.body))
         return;
-    const char* view = request.type.c_str();
-    BASE_INFO("GetAuxiliaryScreenApp APP-[%s]", view);
+    const std::string view = LoggableText(request.type);
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "GetAuxiliaryScreenApp APP-[%s]", view.c_str());
     bool replied = false;
     if (const AuxiliaryScreenRow* screen = AuxiliaryScreenOf(request.type)) {
         protocol::GetAuxiliaryScreenAppResponseData response;
@@ -188,13 +202,15 @@ void CSignalTransmit::onGetAuxiliaryScreenApp(const LPCCallBackData& data)
         response.appName = screen->application;
         response.icon = kAuxiliaryIcon;
         response.selectedIcon = kAuxiliarySelectedIcon;
-        BASE_INFO("Return AuxiliaryScreenApp APP-[%s]", view);
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Return AuxiliaryScreenApp APP-[%s]", view.c_str());
         replied = m_reply(data, response);
     }
     if (replied)
-        BASE_INFO("Return AuxiliaryScreenApp finished! APP-[%s]", view);
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Return AuxiliaryScreenApp finished! APP-[%s]",
+                     view.c_str());
     else
-        BASE_ERROR("Return AuxiliaryScreenApp fail!!! APP-[%s]", view);
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "Return AuxiliaryScreenApp fail!!! APP-[%s]",
+                     view.c_str());
 }
 
 void CSignalTransmit::OnSignalSetMainViewStateProgress(const LPCCallBackData& data)
@@ -248,9 +264,10 @@ void CSignalTransmit::onCloseWnd(const LPCCallBackData& data)
         return;
     CloseOpenPopups();
     if (m_windows.HideWnd(removed.type))
-        BASE_INFO("Hide Wnd[%s] Success", removed.type.c_str());
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Hide Wnd[%s] Success", removed.type.c_str());
     else
-        BASE_ERROR("There is no window [%s] to hide.", removed.type.c_str());
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "There is no window [%s] to hide.",
+                     LoggableText(removed.type).c_str());
 }
 
 void CSignalTransmit::onSwitchUserStopWorking(const LPCCallBackData& data)
@@ -259,7 +276,8 @@ void CSignalTransmit::onSwitchUserStopWorking(const LPCCallBackData& data)
     protocol::LPCRequestData envelope(leaving);
     if (!envelope.Parse(data.body))
         return;
-    BASE_INFO("The user [%s] leaves: the pages stop working.", leaving.userName.c_str());
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "The user [%s] leaves: the pages stop working.",
+                 LoggableText(leaving.userName).c_str());
     CloseModalDialogs();
     for (CComponentPage* page : m_windows.Pages())
         page->StopWorking();
@@ -271,8 +289,8 @@ void CSignalTransmit::onSwitchUserUpdateFrame(const LPCCallBackData& data)
     protocol::LPCRequestData envelope(coming);
     if (!envelope.Parse(data.body))
         return;
-    BASE_INFO("The user is [%s] now, with %zu permissions.", coming.userName.c_str(),
-              coming.permissions.size());
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "The user is [%s] now, with %zu permissions.",
+                 LoggableText(coming.userName).c_str(), coming.permissions.size());
     const User user{coming.userName, coming.permissions};
     m_user.Set(user);
     for (CComponentPage* page : m_windows.Pages())

@@ -68,6 +68,7 @@ int main(int argc, char* argv[])
     PreparePaths();
     Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
     CrashAPI_PrepareThread();
+    Base::ProcessUtil::OnThreadStart([] { CrashAPI_PrepareThread(); });
     std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
     BASE_INFO("InitSysParameter:in0");
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);

@@ -116,8 +116,9 @@ CSamples Measure(Channel& channel, const lpc::Message& request, std::size_t call
     return samples;
 }
 
-void Run(const Case& what, bench::CComponentHost& component, std::size_t calls)
+void Run(const Case& what, const std::string& where, bench::CComponentHost& component, std::size_t calls)
 {
+    const std::string name = what.name + where;
     const std::string answer = component.Ask(what.request).body; // also makes the page
     CSamples bare = [&] {
         CBareServer channel(answer);
@@ -125,9 +126,9 @@ void Run(const Case& what, bench::CComponentHost& component, std::size_t calls)
     }();
     CSamples served = Measure(component, what.request, calls);
     const std::size_t size = what.request.body.size() + answer.size();
-    bare.Print(kGroup, std::string("bare-") + what.name, size);
-    served.Print(kGroup, what.name, size);
-    std::printf("# %s: %.2f x bare (median), %.1f us more\n", what.name, served.Median() / bare.Median(),
+    bare.Print(kGroup, "bare-" + name, size);
+    served.Print(kGroup, name, size);
+    std::printf("# %s: %.2f x bare (median), %.1f us more\n", name.c_str(), served.Median() / bare.Median(),
                 served.Median() - bare.Median());
 }
 
@@ -139,10 +140,13 @@ int main(int argc, char** argv)
     if (argc == 3 && std::strcmp(argv[1], "--answer") == 0)
         return AnswerAll(argv[2]);
     const std::size_t calls = argc > 1 && std::strcmp(argv[1], "--quick") == 0 ? 200 : 2000;
-    const bench::CFreshRoot root;
-    bench::CComponentHost component;
-    component.Start();
-    for (const Case& what : kCases)
-        Run(what, component, calls);
+    for (const bench::Placement placement : {bench::Placement::Free, bench::Placement::OneCpu}) {
+        bench::PlaceClient(placement); // what it starts stays there too
+        const bench::CFreshRoot root;
+        bench::CComponentHost component;
+        component.Start();
+        for (const Case& what : kCases)
+            Run(what, bench::PlacementName(placement), component, calls);
+    }
     return 0;
 }

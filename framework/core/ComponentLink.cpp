@@ -1,6 +1,7 @@
 #include "framework/core/ComponentLink.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "LPC_Forward/Answer.h"
 #include "LPC_Wire/Limits.h"
 #include "LPC_Wire/WellKnownNames.h"
@@ -163,7 +164,8 @@ void CComponentLink::Reply(lpcserver::ClientId client, lpc::RequestId request, c
 {
     const int error = m_server.Reply(client, {request, answer.headers, answer.body});
     if (error != lpc::kNoError && error != lpc::kNotConnected)
-        BASE_WARN("An answer to a client could not be sent. [error-%d].", error);
+        BASE_LIMITED(Base::CFaultLimit, BASE_WARN, "An answer to a client could not be sent. [error-%d].",
+                     error);
 }
 
 lpc::Message CComponentLink::Register(const RouteRequest& request, const std::vector<std::string>& urls)
@@ -204,7 +206,7 @@ void CComponentLink::Send(lpcserver::ClientId client, const lpc::Message& notifi
 {
     const int error = client == 0 ? lpc::kNotConnected : m_server.Notify(client, notification);
     if (error != lpc::kNoError && error != lpc::kNotConnected)
-        BASE_WARN("A notification could not be sent. [error-%d].", error);
+        BASE_LIMITED(Base::CFaultLimit, BASE_WARN, "A notification could not be sent. [error-%d].", error);
 }
 
 void CComponentLink::Notify(const protocol::ILPCData& payload)

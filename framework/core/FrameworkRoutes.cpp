@@ -1,6 +1,7 @@
 #include "framework/core/Routes.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "Protocol/JSONStruct/HTTP/Routes.h"
 #include "Protocol/JSONStruct/HTTP/SystemJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
@@ -40,7 +41,8 @@ lpc::Message FrameResize(const RouteServices& services, const protocol::FrameRes
 {
     const auto isSide = [](int pixels) { return pixels > 0 && pixels <= kLargestSide; };
     if (size.type.empty() || !isSide(size.width) || !isSide(size.height)) {
-        BASE_ERROR("A window cannot have the size [%d x %d].", size.width, size.height);
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "A window cannot have the size [%d x %d].", size.width,
+                     size.height);
         return Failed(400, "A window's size is 1 to 32767 pixels.");
     }
     services.onFrameResize(size.type, size.width, size.height);

@@ -1,6 +1,7 @@
 #include "framework/core/RouteTable.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "LPC_Forward/Answer.h"
 #include "Protocol/JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 
@@ -29,7 +30,7 @@ lpc::Message Failed(int status, const std::string& reason)
 lpc::Message BadBody(const RouteRequest& request, const char* key)
 {
     if (request.body.empty())
-        BASE_ERROR("A request without body should hold [%s].", key);
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "A request without body should hold [%s].", key);
     return Failed(400, std::string("The body holds no ") + key + ".");
 }
 

@@ -1,5 +1,7 @@
 #include "Base/Log.h"
 
+#include "Base/RateLimit.h"
+
 #include <log4cxx/basicconfigurator.h>
 #include <log4cxx/consoleappender.h>
 #include <log4cxx/logger.h>
@@ -133,6 +135,7 @@ void CLog::Write(LogLevel level, const char* logger, const LogLocation& location
 void SetLogObserver(LogObserver observer)
 {
     g_observer = observer;
+    ++g_lineLimitAge;
 }
 
 } // namespace Base

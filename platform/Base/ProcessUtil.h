@@ -14,8 +14,13 @@ void HoldEndRequests();
 /// Calls serve, once and on a thread of its own, when the process is asked to end or was asked already.
 void OnEndRequest(std::function<void()> serve);
 
-/// Shows the calling thread under this name (at most 15 bytes are kept) in debuggers and crash reports.
+/// Shows the calling thread under this name (at most 15 bytes are kept) in debuggers and crash reports, and
+/// does what OnThreadStart asked for. Every thread of the system calls it first.
 void NameThisThread(const std::string& name);
+
+/// From here on each thread that starts calls prepare once it has its name, on itself; null ends that. For
+/// what a library wants of every thread that this one must not know. Set it before threads start.
+void OnThreadStart(void (*prepare)());
 
 /// This process's number.
 std::int64_t ProcessId();

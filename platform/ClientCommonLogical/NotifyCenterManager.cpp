@@ -1,6 +1,7 @@
 #include "ClientCommonLogical/NotifyCenterManager.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "Base/Singleton.h"
 #include "Protocol/JSONStruct/LoggableText.h"
 
@@ -81,7 +82,8 @@ void CNotifyCenterManager::Deliver(const protocol::WebSocketNotifyData& notify)
             UnregisterHandler(registration->id);
     }
     if (!handled)
-        BASE_DEBUG("Nobody handles the notification [%s].", protocol::LoggableText(notify.type).c_str());
+        BASE_LIMITED(Base::CFaultLimit, BASE_DEBUG, "Nobody handles the notification [%s].",
+                     protocol::LoggableText(notify.type).c_str());
 }
 
 CNotifyCenterManager::Registrations CNotifyCenterManager::HandlersOf(const std::string& type)

@@ -29,8 +29,8 @@ public:
     /// The process's notify centre, on Base::CMessageLoopForNotify.
     static CNotifyCenterManager& Instance();
 
-    /// Queues the notification for delivery; an empty pointer is ignored, and so is everything after the loop
-    /// was stopped. Any thread.
+    /// Queues the notification for delivery and holds it until then; an empty pointer is ignored, and so is
+    /// everything after the loop was stopped. Any thread.
     void addNotify(Notify notify);
 
     /// The handlers of a type are called in the order of their registration. A handler whose owner has gone

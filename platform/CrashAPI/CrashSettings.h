@@ -11,14 +11,14 @@ constexpr std::size_t kPathLimit = 1000;
 /// Ends in "/"; null when no folder was set.
 const char* DumpPath();
 
-/// True when the report shall show the memory map too.
+/// True when the report shall show memory too.
 bool WantsMemory();
 
 /// The dump type as it was set.
 unsigned DumpType();
 
-/// The report that has to go when another one was written; null when there is room.
-const char* ReportToReplace();
+/// How many reports are kept.
+int MaxCount();
 
 /// Takes a folder that exists and can be written; false otherwise.
 bool SetDumpPath(const std::string& path);

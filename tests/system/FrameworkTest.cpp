@@ -8,11 +8,13 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <filesystem>
 #include <future>
 #include <mutex>
 #include <optional>
 
 using testing::Contains;
+using testing::HasSubstr;
 using testing::IsEmpty;
 
 namespace {
@@ -52,6 +54,14 @@ std::optional<std::uint64_t> Window(framework::CFrameworkCore& core, const std::
     std::promise<std::optional<std::uint64_t>> answer;
     core.GetWndHandle(name, [&](std::optional<std::uint64_t> wnd) { answer.set_value(wnd); });
     return answer.get_future().get();
+}
+
+TEST(TheFramework, ShowsItsHelpWithoutADisplay)
+{
+    ComponentRun run;
+    const std::string program = std::filesystem::path(run.Program()).replace_filename("Vantor.Framework");
+    EXPECT_EQ(run.Shell("env -u DISPLAY " + program + " --help"), 0);
+    EXPECT_THAT(run.Output(), HasSubstr("--skin <NAME>"));
 }
 
 TEST(TheFramework, RunsTheComponentAndStartsItAgainWhenItDies)

@@ -1,5 +1,7 @@
 #include "Base/ProcessUtil.h"
 
+#include "Base/ThreadName.h"
+
 #include <pthread.h>
 #include <sys/prctl.h>
 #include <unistd.h>
@@ -45,11 +47,6 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
-void NameThisThread(const std::string& name)
-{
-    ::pthread_setname_np(::pthread_self(), name.substr(0, 15).c_str());
-}
-
 std::int64_t ProcessId()
 {
     return ::getpid();
@@ -61,3 +58,12 @@ void SetEnvironment(const std::string& name, const std::string& value)
 }
 
 } // namespace Base::ProcessUtil
+
+namespace Base {
+
+void ShowThreadName(const std::string& name)
+{
+    ::pthread_setname_np(::pthread_self(), name.substr(0, 15).c_str());
+}
+
+} // namespace Base

@@ -1,5 +1,7 @@
 #include "Base/ProcessUtil.h"
 
+#include "Base/ThreadName.h"
+
 #include <windows.h>
 
 #include <tlhelp32.h>
@@ -42,17 +44,6 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
-// Windows knows thread names since version 10; an older one goes without.
-void NameThisThread(const std::string& name)
-{
-    using SetDescription = HRESULT(WINAPI*)(HANDLE, PCWSTR);
-    const auto address = ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "SetThreadDescription");
-    const auto setDescription = reinterpret_cast<SetDescription>(reinterpret_cast<void*>(address));
-    const std::wstring wide(name.begin(), name.end());
-    if (setDescription)
-        setDescription(::GetCurrentThread(), wide.c_str());
-}
-
 std::int64_t ProcessId()
 {
     return ::GetCurrentProcessId();
@@ -64,3 +55,18 @@ void SetEnvironment(const std::string& name, const std::string& value)
 }
 
 } // namespace Base::ProcessUtil
+
+namespace Base {
+
+// Windows knows thread names since version 10; an older one goes without.
+void ShowThreadName(const std::string& name)
+{
+    using SetDescription = HRESULT(WINAPI*)(HANDLE, PCWSTR);
+    const auto address = ::GetProcAddress(::GetModuleHandleA("kernel32.dll"), "SetThreadDescription");
+    const auto setDescription = reinterpret_cast<SetDescription>(reinterpret_cast<void*>(address));
+    const std::wstring wide(name.begin(), name.end());
+    if (setDescription)
+        setDescription(::GetCurrentThread(), wide.c_str());
+}
+
+} // namespace Base

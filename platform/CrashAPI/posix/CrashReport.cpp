@@ -1,23 +1,21 @@
 #include "CrashAPI/posix/CrashReport.h"
 
 #include "CrashAPI/CrashSettings.h"
+#include "CrashAPI/Retention.h"
+#include "CrashAPI/posix/Modules.h"
+#include "CrashAPI/posix/ProcessState.h"
 #include "CrashAPI/posix/Registers.h"
 #include "CrashAPI/posix/SafeText.h"
+#include "CrashAPI/posix/Stack.h"
+#include "CrashAPI/posix/UtcTime.h"
 
 #include <execinfo.h>
 #include <fcntl.h>
-#include <sys/prctl.h>
 #include <unistd.h>
-
-#include <array>
-#include <cerrno>
-#include <ctime>
 
 namespace crash {
 
 namespace {
-
-constexpr int kMostFrames = 128;
 
 struct NamedSignal
 {
@@ -47,6 +45,9 @@ constexpr NamedCause kCauses[] = {
     {SIGFPE, FPE_FLTDIV, "floating-point division by zero"},
 };
 
+/// Too large for the handler's stack.
+ModuleTable g_modules;
+
 const char* CauseText(int number, const siginfo_t& info)
 {
     for (const NamedCause& cause : kCauses)
@@ -57,136 +58,63 @@ const char* CauseText(int number, const siginfo_t& info)
     return info.si_pid == ::getpid() ? "raised by the program itself" : "sent by another process";
 }
 
-/// A date and time of day of universal time.
-struct UtcTime
+void MakePath(SafeText& path, const char* folder, const UtcTime& time)
 {
-    int year, month, day, hour, minute, second;
-};
-
-bool IsLeap(int year)
-{
-    return year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-}
-
-/// The C library's own conversion takes locks.
-UtcTime ToUtc(std::int64_t seconds)
-{
-    constexpr int kSecondsOfDay = 86400;
-    std::int64_t days = seconds / kSecondsOfDay;
-    const int rest = static_cast<int>(seconds % kSecondsOfDay);
-    int year = 1970;
-    for (; days >= (IsLeap(year) ? 366 : 365); ++year)
-        days -= IsLeap(year) ? 366 : 365;
-    const int monthDays[] = {31, IsLeap(year) ? 29 : 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    int month = 0;
-    for (; days >= monthDays[month]; ++month)
-        days -= monthDays[month];
-    return {year, month + 1, static_cast<int>(days) + 1, rest / 3600, rest / 60 % 60, rest % 60};
-}
-
-UtcTime Now()
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_REALTIME, &now);
-    return ToUtc(now.tv_sec);
-}
-
-void AddTime(SafeText& text, const UtcTime& time, const char* inDate, const char* between, const char* inTime)
-{
-    text.AddDecimal(time.year, 4).Add(inDate).AddDecimal(time.month, 2).Add(inDate).AddDecimal(time.day, 2);
-    text.Add(between);
-    text.AddDecimal(time.hour, 2).Add(inTime).AddDecimal(time.minute, 2).Add(inTime);
-    text.AddDecimal(time.second, 2);
-}
-
-int CreateReport(const char* folder, const UtcTime& time)
-{
-    SafeText path;
     AddTime(path.Add(folder).Add("crash-"), time, "", "-", "");
     path.Add("-").AddDecimal(::getpid()).Add(".txt");
-    return ::open(path.Get(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
 }
 
-void WriteCause(int fd, int number, const siginfo_t& info)
+bool WriteCause(int fd, int number, const siginfo_t& info)
 {
     SafeText line;
     const char* name = SignalName(number);
-    line.Add("signal: ").Add(name ? name : "?").Add(" (").AddDecimal(number).Add("), code ");
-    line.AddDecimal(info.si_code).Add(", ").Add(CauseText(number, info)).Add("\n").WriteTo(fd);
+    line.Add("Vantor crash report\n\nsignal: ").Add(name ? name : "?").Add(" (").AddDecimal(number);
+    line.Add("), code ").AddDecimal(info.si_code).Add(", ").Add(CauseText(number, info)).Add("\n");
     if (info.si_code > 0)
-        line.Add("address: ")
-            .AddHex(reinterpret_cast<std::uintptr_t>(info.si_addr), 16)
-            .Add("\n")
-            .WriteTo(fd);
+        line.Add("address: ").AddHex(reinterpret_cast<std::uintptr_t>(info.si_addr), 16);
     else
-        line.Add("sender: process ").AddDecimal(info.si_pid).Add("\n").WriteTo(fd);
+        line.Add("sender: process ").AddDecimal(info.si_pid);
+    return line.Add("\n").WriteTo(fd);
 }
 
-void WriteWhoAndWhen(int fd, const UtcTime& time)
+bool WriteWhen(int fd, const UtcTime& time)
 {
-    std::array<char, kPathLimit> program{};
-    if (::readlink("/proc/self/exe", program.data(), program.size() - 1) < 0)
-        program[0] = 0;
-    std::array<char, 17> thread{};
-    ::prctl(PR_GET_NAME, thread.data());
-
     SafeText line;
-    line.Add("process: ").AddDecimal(::getpid()).Add(" ").Add(program.data()).Add("\n").WriteTo(fd);
-    line.Add("thread: ").AddDecimal(::gettid()).Add(" ").Add(thread.data()).Add("\n").WriteTo(fd);
     AddTime(line.Add("time: "), time, "-", " ", ":");
-    line.Add(" UTC\n").WriteTo(fd);
-    line.Add("dump type: ").AddHex(DumpType()).Add("\n").WriteTo(fd);
+    return line.Add(" UTC\ndump type: ").AddHex(DumpType()).Add("\n").WriteTo(fd);
 }
 
-/// Gives the program counter.
-void* WriteRegisters(int fd, const void* context)
+bool WriteRegisters(int fd, const void* context)
 {
     Register registers[kMostRegisters];
     const std::size_t count = ReadRegisters(context, registers);
     SafeText line;
-    line.Add("\nregisters:\n").WriteTo(fd);
+    bool written = line.Add("\nregisters:\n").WriteTo(fd);
     for (std::size_t i = 0; i < count; ++i)
-        line.Add("  ").Add(registers[i].name).Add(" ").AddHex(registers[i].value, 16).Add("\n").WriteTo(fd);
-    return count > 0 ? reinterpret_cast<void*>(registers[0].value) : nullptr;
+        written = line.Add("  ")
+                      .Add(registers[i].name)
+                      .Add(" ")
+                      .AddHex(registers[i].value, 16)
+                      .Add("\n")
+                      .WriteTo(fd) &&
+                  written;
+    return written;
 }
 
-/// The place of the crash and of the calls that led there, with module and offset. The frames of the handler
-/// are left out. A caller's address is that of the last byte of its call, since the return address may belong
-/// to the next function already.
-void WriteStack(int fd, const void* programCounter)
+/// What a crash can be understood from. False when the file did not take it all.
+bool WriteEssentials(int fd, int number, const siginfo_t& info, const void* context, const UtcTime& time)
 {
-    SafeText line;
-    line.Add("\nstack:\n").WriteTo(fd);
-    void* frames[kMostFrames];
-    const int count = ::backtrace(frames, kMostFrames);
-    int first = 0;
-    while (first < count && frames[first] != programCounter)
-        ++first;
-    if (first == count)
-        first = 0;
-    for (int i = first + 1; i < count; ++i)
-        frames[i] = static_cast<char*>(frames[i]) - 1;
-    ::backtrace_symbols_fd(frames + first, count - first, fd);
-    if (count == kMostFrames)
-        line.Add("(more frames are not shown)\n").WriteTo(fd);
+    bool written = WriteCause(fd, number, info) && WriteProcess(fd) && WriteWhen(fd, time);
+    written = written && WriteRegisters(fd, context);
+    g_modules.Gather();
+    return written && WriteStack(fd, ReadPlace(context), g_modules) && g_modules.WriteTo(fd);
 }
 
-void WriteMemoryMap(int fd)
+void WriteMemory(int fd, const void* context)
 {
-    SafeText line;
-    line.Add("\nmemory map:\n").WriteTo(fd);
-    const int map = ::open("/proc/self/maps", O_RDONLY | O_CLOEXEC);
-    if (map < 0)
-        return;
-    std::array<char, 4096> buffer;
-    for (;;) {
-        const ssize_t got = ::read(map, buffer.data(), buffer.size());
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got <= 0 || !WriteAll(fd, buffer.data(), static_cast<std::size_t>(got)))
-            break;
-    }
-    ::close(map);
+    WriteThreads(fd);
+    WriteStackContents(fd, ReadPlace(context).stackPointer);
+    WriteMemoryMap(fd);
 }
 
 } // namespace
@@ -212,20 +140,27 @@ void WriteReport(int number, const siginfo_t& info, const void* context)
     if (!folder)
         return;
     const UtcTime time = Now();
-    const int fd = CreateReport(folder, time);
+    SafeText path;
+    MakePath(path, folder, time);
+    const int fd = ::open(path.Get(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
     if (fd < 0)
         return;
-    SafeText line;
-    line.Add("Vantor crash report\n\n").WriteTo(fd);
-    WriteCause(fd, number, info);
-    WriteWhoAndWhen(fd, time);
-    WriteStack(fd, WriteRegisters(fd, context));
-    if (WantsMemory())
-        WriteMemoryMap(fd);
-    const bool complete = line.Add("\nend of report\n").WriteTo(fd);
+    const bool useful = WriteEssentials(fd, number, info, context, time);
+    if (useful && WantsMemory())
+        WriteMemory(fd, context);
+    SafeText end;
+    end.Add("\nend of report\n").WriteTo(fd);
     ::close(fd);
-    if (const char* old = ReportToReplace(); old && complete)
-        ::unlink(old);
+    // A full disk must not cost the older report, which tells more.
+    if (!useful)
+        ::unlink(path.Get());
+    RemoveOldReports();
+}
+
+void RemoveOldReports()
+{
+    if (const char* folder = DumpPath())
+        KeepNewestReports(folder, MaxCount());
 }
 
 } // namespace crash

@@ -14,4 +14,7 @@ void PrimeReport();
 /// handler's. Safe in a signal handler.
 void WriteReport(int number, const siginfo_t& info, const void* context);
 
+/// Removes the reports that are too many now. Safe in a signal handler; for one that had to be cut too.
+void RemoveOldReports();
+
 } // namespace crash

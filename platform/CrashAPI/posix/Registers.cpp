@@ -1,5 +1,7 @@
 #include "CrashAPI/posix/Registers.h"
 
+#include "CrashAPI/posix/SafeMemory.h"
+
 #include <ucontext.h>
 
 namespace crash {
@@ -26,6 +28,13 @@ std::size_t ReadRegisters(const void* context, Register (&registers)[kMostRegist
     return count;
 }
 
+ProgramPlace ReadPlace(const void* context)
+{
+    const auto& registers = static_cast<const ucontext_t*>(context)->uc_mcontext.gregs;
+    const auto value = [&](int index) { return static_cast<std::uint64_t>(registers[index]); };
+    return {value(REG_RIP), value(REG_RSP), value(REG_RBP), 0};
+}
+
 #elif defined(__aarch64__)
 
 std::size_t ReadRegisters(const void* context, Register (&registers)[kMostRegisters])
@@ -44,6 +53,12 @@ std::size_t ReadRegisters(const void* context, Register (&registers)[kMostRegist
     return count;
 }
 
+ProgramPlace ReadPlace(const void* context)
+{
+    const mcontext_t& machine = static_cast<const ucontext_t*>(context)->uc_mcontext;
+    return {machine.pc, machine.sp, machine.regs[29], machine.regs[30]};
+}
+
 #else
 
 std::size_t ReadRegisters(const void*, Register (&)[kMostRegisters])
@@ -51,6 +66,17 @@ std::size_t ReadRegisters(const void*, Register (&)[kMostRegisters])
     return 0;
 }
 
+ProgramPlace ReadPlace(const void*)
+{
+    return {};
+}
+
 #endif
+
+bool ReadReturnAddress(const ProgramPlace& place, std::uint64_t& address)
+{
+    address = place.linkRegister;
+    return address != 0 || ReadMemory(place.stackPointer, address);
+}
 
 } // namespace crash

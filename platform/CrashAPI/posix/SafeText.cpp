@@ -31,6 +31,13 @@ SafeText& SafeText::AddHex(std::uint64_t value, int digits)
     return *this;
 }
 
+SafeText& SafeText::AddBytes(const std::uint8_t* bytes, std::size_t count)
+{
+    for (std::size_t i = 0; i < count; ++i)
+        AddNumber(bytes[i], 16, 2);
+    return *this;
+}
+
 void SafeText::AddNumber(std::uint64_t value, unsigned base, int digits)
 {
     std::array<char, 24> text{};

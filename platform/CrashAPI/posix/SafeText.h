@@ -16,6 +16,9 @@ public:
     /// "0x" and digits hexadecimal digits or more.
     SafeText& AddHex(std::uint64_t value, int digits = 1);
 
+    /// Two hexadecimal digits each.
+    SafeText& AddBytes(const std::uint8_t* bytes, std::size_t count);
+
     const char* Get() const { return m_text.data(); }
 
     /// Writes the line and starts a new one. False when the file takes no more.

@@ -22,8 +22,8 @@ struct MessageList
 using AllMessages = MessageList<
     AlarmInputInfoData, AlarmOutputControlData, AlarmOutputInfoData, AlarmRegisterData, AppTabRemovedData,
     BroadCastNotify, BroadCastNotifyResult, CommonResponseData, ComponentListData, ComponentRegisterInfo,
-    DateTimeFormatData, DefaultFilePathData, DeviceChannelListData, DeviceList, DeviceResponseData,
-    DeviceResponseListData, FileNotifyResult, FrameResizeData, FrameworkMoveData,
+    ComponentStateData, DateTimeFormatData, DefaultFilePathData, DeviceChannelListData, DeviceList,
+    DeviceResponseData, DeviceResponseListData, FileNotifyResult, FrameResizeData, FrameworkMoveData,
     GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
     GetWndHandleResponseData, GroupListData, LoadComponentsRequestData, LoadComponentsResponseData, LocalFile,
     LocalFileNotify, LocalFileQuery, LocalFileQueryResult, LocalFileResult, MainViewState,

@@ -10,7 +10,8 @@ class IJSONStruct
 {
 public:
     /// Fills the structure from the item that stands under its key; never null. On failure the structure is
-    /// unchanged and one line has been logged that names the field and shows the item (LoggableText.h).
+    /// unchanged and one line has been logged that names the field and shows the item (LoggableText.h); of a
+    /// flood of failures not each has its line.
     [[nodiscard]] virtual bool FromJSON(const cJSON* item) = 0;
 
     /// Adds the structure to the object parent under the given key.

@@ -1,6 +1,7 @@
 #include "Protocol/JSONStruct/JSONKinds.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "Base/TimeUtil.h"
 #include "Protocol/JSONStruct/LoggableText.h"
 
@@ -115,8 +116,9 @@ bool RefuseUnder(std::size_t index, ReadError& error)
 void LogReadFailure(const char* message, const cJSON* item, const ReadError& error)
 {
     const char* const key = error.path.empty() ? message : error.path.c_str();
-    BASE_ERROR("Failed to read message [%s]. Key: [%s]. Error info: [%s]. Text: [%s].", message, key,
-               error.reason.c_str(), LoggableText(PrintText(item)).c_str());
+    BASE_LIMITED(Base::CFaultLimit, BASE_ERROR,
+                 "Failed to read message [%s]. Key: [%s]. Error info: [%s]. Text: [%s].", message, key,
+                 error.reason.c_str(), LoggableText(PrintText(item)).c_str());
 }
 
 } // namespace protocol::json

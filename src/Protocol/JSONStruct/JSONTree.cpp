@@ -20,6 +20,9 @@ using Utf8 = boost::locale::utf::utf_traits<char>;
 constexpr boost::locale::utf::code_point kReplacement = 0xFFFD;
 constexpr long long kLargestExact = (1LL << 53) - 1;
 
+/// Of a tree, which takes some 80 bytes for each: longer texts of many small values would take gigabytes.
+constexpr std::size_t kMostItems = 1000000;
+
 bool IsCharacter(boost::locale::utf::code_point point)
 {
     return point != boost::locale::utf::illegal && point != boost::locale::utf::incomplete && point != 0;
@@ -49,6 +52,25 @@ bool CheckEscapes(const std::string& text, std::string& error)
     for (auto at = text.find('\\'); at != std::string::npos; at = text.find('\\', at + 2)) {
         if (text.compare(at, 6, "\\u0000") == 0) {
             error = AtByte("escaped NUL", at);
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Whether the tree would have no more than kMostItems: each but the first stands behind one of "[{,".
+bool CheckItems(const std::string& text, std::string& error)
+{
+    std::size_t items = 1;
+    bool inText = false;
+    for (std::size_t at = 0; at < text.size() && text.size() > kMostItems; ++at) {
+        const char c = text[at];
+        if (c == '"')
+            inText = !inText;
+        else if (inText)
+            at += c == '\\' ? 1 : 0;
+        else if ((c == ',' || c == '[' || c == '{') && ++items > kMostItems) {
+            error = AtByte("too many values", at);
             return false;
         }
     }
@@ -92,7 +114,7 @@ void ReplaceNumber(cJSON* item)
 
 Tree ParseText(const std::string& text, std::string& error)
 {
-    if (!CheckCharacters(text, error) || !CheckEscapes(text, error))
+    if (!CheckCharacters(text, error) || !CheckEscapes(text, error) || !CheckItems(text, error))
         return nullptr;
     const char* end = text.c_str();
     Tree root(cJSON_ParseWithLengthOpts(text.c_str(), text.size() + 1, &end, true));

@@ -1,8 +1,18 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 
+#include "Base/RateLimit.h"
 #include "Protocol/JSONStruct/LoggableText.h"
 
 namespace protocol {
+
+void LogMissingItem(const char* key, const std::function<std::string()>& text, const Base::LogLocation& place)
+{
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
+        Base::CLog::Instance().Write(Base::LogLevel::Error, "", place,
+                                     "Failed to cJSON_GetObjectItem([%s]). Error info: [%s].%s", key,
+                                     LoggableText(text()).c_str(), skipped->c_str());
+}
 
 json::Tree ParseBody(const std::string& body, const Base::LogLocation& place)
 {
@@ -10,11 +20,14 @@ json::Tree ParseBody(const std::string& body, const Base::LogLocation& place)
         return nullptr;
     std::string error;
     json::Tree root = json::ParseText(body, error);
-    if (!root)
+    if (root)
+        return root;
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
         Base::CLog::Instance().Write(Base::LogLevel::Error, "", place,
-                                     "Failed to cJSON_Parse( [%s] ). Error info: [%s].",
-                                     LoggableText(body).c_str(), error.c_str());
-    return root;
+                                     "Failed to cJSON_Parse( [%s] ). Error info: [%s].%s",
+                                     LoggableText(body).c_str(), error.c_str(), skipped->c_str());
+    return nullptr;
 }
 
 bool ParseJSONStr(IJSONStruct& message, const std::string& body)
@@ -25,8 +38,8 @@ bool ParseJSONStr(IJSONStruct& message, const std::string& body)
     const std::string key = message.Key();
     const cJSON* const item = key.empty() ? root.get() : json::Member(root.get(), key.c_str());
     if (!item) {
-        BASE_ERROR("Failed to cJSON_GetObjectItem([%s]). Error info: [%s].", key.c_str(),
-                   LoggableText(body).c_str());
+        LogMissingItem(
+            key.c_str(), [&] { return body; }, PROTOCOL_PLACE);
         return false;
     }
     return message.FromJSON(item);

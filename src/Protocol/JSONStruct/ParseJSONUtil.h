@@ -5,6 +5,7 @@
 
 #include "Base/Log.h"
 
+#include <functional>
 #include <string>
 #include <type_traits>
 
@@ -24,8 +25,12 @@ namespace protocol {
 std::string WriteJSONStr(const IJSONStruct& message);
 
 /// The tree of a body; nothing for an empty one and, after the line about it at the given place, for one that
-/// is no JSON.
+/// is no JSON. Of a flood of such bodies not each has its line; see Base/RateLimit.h.
 json::Tree ParseBody(const std::string& body, const Base::LogLocation& place);
+
+/// The line about a body without the key's item. text gives the body, when the line is written.
+void LogMissingItem(const char* key, const std::function<std::string()>& text,
+                    const Base::LogLocation& place);
 
 /// ParseJSONStr by its name among the message structures.
 template<typename T>

@@ -2,6 +2,7 @@
 
 #include "Base/AsyncTask.h"
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "CommonMethodLib/WorkerPool.h"
 #include "CommunicationLayer/FrameworkRequests.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
@@ -17,24 +18,29 @@ constexpr const char* kLogger = "VideoLogger";
 template<typename Result>
 Result LoggedSend(Result result)
 {
-    if (!result)
-        BASE_ERROR_TO(kLogger, "Failed to send. LastError: [%d].", lpcclient::GetLPCLastError());
+    if (result)
+        return result;
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
+        BASE_ERROR_TO(kLogger, "Failed to send. LastError: [%d].%s", lpcclient::GetLPCLastError(),
+                      skipped->c_str());
     return result;
 }
 
-/// One incoming message on its way through the worker pool, which owns it.
-class CDispatchTask
+/// A message that is under way, counted.
+struct CountedCall
 {
-public:
-    CDispatchTask(const CLPCDispatcher& dispatcher, const lpcclient::LPCCallBackData& data)
-        : m_dispatcher(dispatcher), m_data(std::make_shared<const lpcclient::LPCCallBackData>(data))
-    {}
+    CountedCall(const lpcclient::LPCCallBackData& call, std::shared_ptr<std::atomic<std::uint64_t>> count)
+        : data(call), underWay(std::move(count))
+    {
+        ++*underWay;
+    }
+    ~CountedCall() { --*underWay; }
+    CountedCall(const CountedCall&) = delete;
+    CountedCall& operator=(const CountedCall&) = delete;
 
-    void operator()() const { m_dispatcher.Dispatch(*m_data); }
-
-private:
-    const CLPCDispatcher& m_dispatcher;
-    std::shared_ptr<const lpcclient::LPCCallBackData> m_data;
+    const lpcclient::LPCCallBackData data;
+    const std::shared_ptr<std::atomic<std::uint64_t>> underWay;
 };
 
 } // namespace
@@ -146,9 +152,21 @@ void CLPCClientPackage::RegisterAlarmLater()
     });
 }
 
+protocol::ComponentStateData CLPCClientPackage::State() const
+{
+    protocol::ComponentStateData state;
+    const auto running = std::chrono::steady_clock::now() - m_created;
+    state.runningSeconds = std::chrono::duration_cast<std::chrono::seconds>(running).count();
+    state.messagesTaken = m_taken;
+    state.messagesUnderWay = *m_underWay;
+    return state;
+}
+
 bool CLPCClientPackage::OnInvoke(const lpcclient::LPCCallBackData& data)
 {
-    CDispatchTask task(m_dispatcher, data);
+    ++m_taken;
+    const auto counted = std::make_shared<const CountedCall>(data, m_underWay);
+    auto task = [this, call = CLPCDispatcher::Call(counted, &counted->data)] { m_dispatcher.Dispatch(call); };
     if (data.Header(kProtocolHeader) == kHttpProtocol)
         m_postTask(std::move(task));
     else

@@ -2,11 +2,14 @@
 
 #include "Base/Noncopyable.h"
 #include "Base/SerialTasks.h"
-#include "Protocol/JSONStruct/IJSONStruct.h"
+#include "Protocol/JSONStruct/LPC/ComponentJSONStruct.h"
 #include "logical/Communication/LPCDispatcher.h"
 
 #include <atomic>
+#include <chrono>
+#include <cstdint>
 #include <future>
+#include <memory>
 #include <string>
 
 namespace video {
@@ -62,10 +65,18 @@ public:
     /// more.
     void RegisterAlarmLater();
 
+    /// How the link does, for people who look for a fault. Any thread.
+    protocol::ComponentStateData State() const;
+
 private:
     bool OnInvoke(const lpcclient::LPCCallBackData& data);
     void RegisterServedUrls();
 
+    const std::chrono::steady_clock::time_point m_created = std::chrono::steady_clock::now();
+    std::atomic<std::uint64_t> m_taken{0};
+    /// Shared with the messages, of which some may outlive the link.
+    const std::shared_ptr<std::atomic<std::uint64_t>> m_underWay =
+        std::make_shared<std::atomic<std::uint64_t>>(0);
     PostTask m_postTask;
     Base::CSerialTasks m_inOrder; ///< methods and websocket notifications; "http" requests run side by side
     CLPCDispatcher m_dispatcher;

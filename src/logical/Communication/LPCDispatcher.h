@@ -26,10 +26,15 @@ public:
     /// callback data, and alarm those of the type "alarmMessage". Set all before the link is opened.
     void SetWebsocketSinks(NotifySink notifyCenter, LPCHandler websocket, LPCHandler alarm);
 
-    void Dispatch(const lpcclient::LPCCallBackData& data) const;
+    /// A message on its way. Whatever queues work for a message holds this, or a copy of the data, as long as
+    /// the work waits: what is held counts against the channel's receive queue, and so every queue is
+    /// bounded.
+    using Call = std::shared_ptr<const lpcclient::LPCCallBackData>;
+
+    void Dispatch(const Call& call) const;
 
 private:
-    void DispatchWebsocket(const lpcclient::LPCCallBackData& data) const;
+    void DispatchWebsocket(const Call& call) const;
 
     CRouteTable m_http;
     CRouteTable m_methods;

@@ -24,6 +24,7 @@ constexpr const char* kVideoFileNotify = "/vantor/v1/internal/video/videoFileNot
 constexpr const char* kLocalFileQuery = "/vantor/v1/internal/video/localFileQuery";
 constexpr const char* kSystemConfigs = "/vantor/v1/internal/video/systemConfigs";
 constexpr const char* kBroadCastOperator = "/vantor/v1/internal/video/BroadCastOperator";
+constexpr const char* kState = "/vantor/v1/internal/video/state";
 } // namespace route
 
 } // namespace video

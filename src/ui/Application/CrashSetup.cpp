@@ -9,10 +9,6 @@ namespace video {
 
 namespace {
 
-/// Data segments, full memory with its information, handles, unloaded modules, indirectly referenced and
-/// private writable memory, process, thread and auxiliary state.
-constexpr unsigned int kFullDump = 0x9B67;
-constexpr unsigned int kNormalDump = 0;
 constexpr int kMaxDumps = 1;
 
 } // namespace
@@ -25,7 +21,8 @@ void crashAPIInit()
         BASE_ERROR("Failed to CrashAPI_Init.");
         return;
     }
-    if (!CrashAPI_SetDumpPath(dumpPath.c_str()) || !CrashAPI_SetDumpType(full ? kFullDump : kNormalDump))
+    if (!CrashAPI_SetDumpPath(dumpPath.c_str()) ||
+        !CrashAPI_SetDumpType(full ? CRASH_DUMP_FULL : CRASH_DUMP_NORMAL))
         BASE_ERROR("Failed to CrashAPI_SetDumpPath [%s].", dumpPath.c_str());
     if (!CrashAPI_SetDumpMaxCount(kMaxDumps))
         BASE_ERROR("Failed to CrashAPI_SetDumpMaxCount [%d].", kMaxDumps);

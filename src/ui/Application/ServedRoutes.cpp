@@ -1,6 +1,7 @@
 #include "ui/Application/ServedRoutes.h"
 
 #include "ClientCommonLogical/NotifyCenterManager.h"
+#include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "SignalTransmit.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
@@ -27,6 +28,15 @@ void ServeLinkMethods(CLPCClientPackage& link)
                  [&link](const lpcclient::LPCCallBackData&) { link.RegisterAlarmLater(); });
 }
 
+/// A diagnostic route for the framework and vantor-lpc host; other clients are not let through to it.
+void ServeState(CLPCClientPackage& link)
+{
+    link.Dispatcher().Http().Bind(route::kState, [&link](const lpcclient::LPCCallBackData& call) {
+        if (call.requestId != 0)
+            link.ReplyBody(call, protocol::WriteJSONStr(link.State()));
+    });
+}
+
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)
 {
     link.Dispatcher().SetWebsocketSinks(
@@ -50,6 +60,7 @@ void ServeAllRoutes(CLPCClientPackage& link, CSignalTransmit& transmitter)
     std::vector<std::string> urls = link.Dispatcher().Http().Names();
     urls.push_back(kRegisteredMethod);
     link.SetServedUrls(std::move(urls));
+    ServeState(link);
 }
 
 } // namespace video

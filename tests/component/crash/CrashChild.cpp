@@ -1,7 +1,12 @@
+#include "Base/ProcessUtil.h"
+#include "Base/ThreadPool.h"
 #include "CrashAPI/CrashAPI.h"
 
+#include <dlfcn.h>
+#include <link.h>
 #include <pthread.h>
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -50,7 +55,7 @@ CRASH_FUNCTION void ThrowUncaught()
 
 CRASH_FUNCTION void DivideByZero()
 {
-    g_sum = 1 / g_zero;
+    g_sum = 42 / g_zero;
 }
 
 CRASH_FUNCTION void RunIllegalInstruction()
@@ -71,6 +76,57 @@ CRASH_FUNCTION int OverflowStack(int depth)
 CRASH_FUNCTION void SendTrap()
 {
     std::raise(SIGTRAP);
+}
+
+CRASH_FUNCTION void CallNull()
+{
+    void (*volatile wild)() = nullptr;
+    wild();
+    g_sum = g_sum + 1;
+}
+
+/// An illegal instruction while the stack pointer points nowhere, so that following the stack faults too. It
+/// keeps a frame of its own, by which the caller can be found.
+CRASH_FUNCTION void LoseStack()
+{
+#if defined(__x86_64__)
+    asm volatile("mov $0x1000, %rsp; ud2");
+#elif defined(__aarch64__)
+    asm volatile("mov x9, #0x1000; mov sp, x9; udf #0");
+#endif
+}
+
+CRASH_FUNCTION void CallLoseStack()
+{
+    LoseStack();
+    g_sum = g_sum + 1;
+}
+
+CRASH_FUNCTION void WriteToNullBesideAMarker()
+{
+    volatile std::uint64_t marker = 0x5ca1ab1e0ddba110;
+    WriteToNull();
+    g_sum = static_cast<int>(marker);
+}
+
+CRASH_FUNCTION void WriteToNullWithTheLoaderLocked()
+{
+    std::atomic<bool> locked{false};
+    const auto holdForEver = [](dl_phdr_info*, std::size_t, void* flag) {
+        *static_cast<std::atomic<bool>*>(flag) = true;
+        return ::pause();
+    };
+    std::thread holder([&] { ::dl_iterate_phdr(holdForEver, &locked); });
+    while (!locked)
+        std::this_thread::yield();
+    WriteToNull();
+    holder.join();
+}
+
+CRASH_FUNCTION void WriteToNullInALateLibrarysProcess()
+{
+    if (::dlopen("libresolv.so.2", RTLD_NOW))
+        WriteToNull();
 }
 
 namespace {
@@ -94,6 +150,11 @@ constexpr Way kWays[] = {
     {"illegal", RunIllegalInstruction},
     {"overflow", OverflowStackHere},
     {"trap", SendTrap},
+    {"null-call", CallNull},
+    {"lost-stack", CallLoseStack},
+    {"marker", WriteToNullBesideAMarker},
+    {"loader-locked", WriteToNullWithTheLoaderLocked},
+    {"late-library", WriteToNullInALateLibrarysProcess},
 };
 
 void RunOn(const char* name, bool prepared, void (*crash)())
@@ -104,6 +165,23 @@ void RunOn(const char* name, bool prepared, void (*crash)())
             std::_Exit(2);
         crash();
     }).join();
+}
+
+/// The pool's own thread, which nothing but its name prepares.
+void RunInPool(void (*crash)())
+{
+    Base::CThreadPool pool("pool-thread", 1);
+    pool.PostTask(crash);
+    for (;;)
+        ::pause();
+}
+
+/// Files of this process stay as small as on a full disk.
+void FillDisk()
+{
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{300, 300};
+    ::setrlimit(RLIMIT_FSIZE, &limit);
 }
 
 /// Both threads crash as nearly at once as can be.
@@ -161,6 +239,9 @@ int main(int argc, char** argv)
         std::signal(SIGSEGV, SayGoodbye);
     if (!crash || !SetUp(argv[2], Has(argc, argv, "full")) || !CrashAPI_PrepareThread())
         return 2;
+    Base::ProcessUtil::OnThreadStart([] { CrashAPI_PrepareThread(); });
+    if (Has(argc, argv, "disk-full"))
+        FillDisk();
     if (Has(argc, argv, "twice-on"))
         CrashAPI_Init();
     if (Has(argc, argv, "uninit") && !(CrashAPI_Uninit() && CrashAPI_Uninit()))
@@ -172,6 +253,8 @@ int main(int argc, char** argv)
         RunOn("worker-7", true, crash);
     else if (Has(argc, argv, "in-plain-thread"))
         RunOn("plain", false, crash);
+    else if (Has(argc, argv, "in-pool"))
+        RunInPool(crash);
     else if (Has(argc, argv, "in-two-threads"))
         CrashTwice(crash);
     else

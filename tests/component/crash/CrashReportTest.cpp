@@ -1,19 +1,15 @@
 #include "CrashAPI/CrashAPI.h"
-#include "support/TestDataRoot.h"
+#include "component/crash/CrashRun.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <algorithm>
-#include <chrono>
 #include <csignal>
-#include <ctime>
-#include <fstream>
-#include <vector>
+#include <cstdio>
+#include <regex>
 
 namespace {
 
@@ -22,75 +18,6 @@ using testing::ContainsRegex;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
-
-std::string Get(const fs::path& path)
-{
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// From the precise clock; std::time may be a tick behind it.
-std::time_t Now()
-{
-    return std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-}
-
-struct Child
-{
-    pid_t pid;
-    int status;
-
-    int Signal() const { return WIFSIGNALED(status) ? WTERMSIG(status) : 0; }
-};
-
-class CrashReport : public testing::Test
-{
-protected:
-    /// Runs crash_child to its end. A sanitizer in it is told to leave the signals to the handlers under
-    /// test.
-    Child Crash(std::vector<std::string> arguments, const std::string& folder)
-    {
-        const std::string program =
-            fs::read_symlink("/proc/self/exe").replace_filename("crash_child").string();
-        arguments.insert(arguments.begin(), program);
-        arguments.insert(arguments.begin() + 2, folder);
-        std::vector<char*> argv;
-        for (std::string& argument : arguments)
-            argv.push_back(argument.data());
-        argv.push_back(nullptr);
-        constexpr const char* kLeaveSignals =
-            "handle_segv=0:handle_sigbus=0:handle_sigill=0:handle_sigfpe=0:"
-            "handle_abort=0:handle_sigtrap=0:detect_leaks=0:use_sigaltstack=0";
-        setenv("ASAN_OPTIONS", kLeaveSignals, 1);
-        setenv("TSAN_OPTIONS", kLeaveSignals, 1);
-        Child child{};
-        EXPECT_EQ(::posix_spawn(&child.pid, program.c_str(), nullptr, nullptr, argv.data(), environ), 0);
-        EXPECT_EQ(::waitpid(child.pid, &child.status, 0), child.pid);
-        return child;
-    }
-    Child Crash(std::vector<std::string> arguments) { return Crash(std::move(arguments), Folder()); }
-
-    std::string Folder() const { return m_data.Path() + "dump/"; }
-
-    std::vector<fs::path> Reports() const
-    {
-        std::vector<fs::path> reports;
-        if (fs::is_directory(Folder()))
-            for (const auto& entry : fs::directory_iterator(Folder()))
-                reports.push_back(entry.path());
-        std::sort(reports.begin(), reports.end());
-        return reports;
-    }
-
-    std::string OnlyReport() const
-    {
-        const auto reports = Reports();
-        EXPECT_EQ(reports.size(), 1u);
-        return reports.empty() ? std::string() : Get(reports.front());
-    }
-
-    TestDataRoot m_data;
-};
 
 struct CrashRow
 {
@@ -123,11 +50,13 @@ TEST_P(CrashOfAProcess, LeavesOneReportThatNamesSignalThreadRegistersAndStack)
     EXPECT_THAT(report, ContainsRegex("\nthread: [0-9]+ " + std::string(row.thread) + "\n"));
     EXPECT_THAT(report, ContainsRegex("\ntime: [0-9]{4}-[0-9]{2}-[0-9]{2} [0-9]{2}:[0-9]{2}:[0-9]{2} UTC\n"));
     EXPECT_THAT(report, ContainsRegex("\nregisters:\n  [a-z]+ 0x[0-9a-f]{16}\n"));
-    const std::string frame =
-        "/crash_child\\(" + std::string(row.function) + "\\+0x[0-9a-f]+\\) *\\[0x[0-9a-f]+\\]\n";
+    const std::string frame = "\n  #[0-9]+ 0x[0-9a-f]{16} crash_child\\+0x[0-9a-f]+ \\(" +
+                              std::string(row.function) + "\\+0x[0-9a-f]+\\)\n";
     EXPECT_THAT(report.substr(report.find("\nstack:\n")), ContainsRegex(frame));
     EXPECT_THAT(report, Not(HasSubstr("OnCrash")));
-    EXPECT_THAT(report, Not(HasSubstr("memory map:")));
+    EXPECT_THAT(report, ContainsRegex("\nmodules:\n(  [^\n]+\n)*  0x[0-9a-f]{16}-0x[0-9a-f]{16} [0-9a-f]{40} "
+                                      "/[^\n]*/crash_child\n"));
+    EXPECT_THAT(report, Not(HasSubstr("stack contents:")));
     EXPECT_THAT(report, EndsWith("\nend of report\n"));
 }
 
@@ -157,6 +86,14 @@ INSTANTIATE_TEST_SUITE_P(
                              "SIGABRT (6), code -6, raised by the program itself",
                              "crash_child",
                              "ThrowUncaught"},
+#if defined(__x86_64__)
+                    CrashRow{"DivisionByZero",
+                             {"divide"},
+                             SIGFPE,
+                             "SIGFPE (8), code 1, integer division by zero",
+                             "crash_child",
+                             "DivideByZero"},
+#endif
                     CrashRow{"IllegalInstruction",
                              {"illegal"},
                              SIGILL,
@@ -181,6 +118,30 @@ INSTANTIATE_TEST_SUITE_P(
                              "SIGSEGV (11), code 2, access not permitted at the address",
                              "worker-7",
                              "OverflowStack"},
+                    CrashRow{"StackOverflowInAPool",
+                             {"overflow", "in-pool"},
+                             SIGSEGV,
+                             "SIGSEGV (11), code 2, access not permitted at the address",
+                             "pool-thread",
+                             "OverflowStack"},
+                    CrashRow{"CallOfANullPointer",
+                             {"null-call"},
+                             SIGSEGV,
+                             "SIGSEGV (11), code 1, no memory at the address\naddress: 0x0000000000000000",
+                             "crash_child",
+                             "CallNull"},
+                    CrashRow{"LostStackPointer",
+                             {"lost-stack"},
+                             SIGILL,
+                             "SIGILL (4), code 2, illegal operand",
+                             "crash_child",
+                             "LoseStack"},
+                    CrashRow{"LoaderLockedByAnotherThread",
+                             {"loader-locked"},
+                             SIGSEGV,
+                             "SIGSEGV (11), code 1, no memory at the address",
+                             "crash_child",
+                             "WriteToNull"},
                     CrashRow{"NullWriteOfPlainThread",
                              {"null-write", "in-plain-thread"},
                              SIGSEGV,
@@ -214,16 +175,47 @@ TEST_F(CrashReport, StackBeginsWhereTheProgramCrashed)
     EXPECT_THAT(report, ContainsRegex("\nstack:\n[^\n]*WriteToNull"));
 }
 
-TEST_F(CrashReport, FullTypeAddsTheMemoryMapWithTheLoadedModules)
+TEST_F(CrashReport, ThatCannotFollowTheStackGoesOnByFramePointers)
 {
-    EXPECT_EQ(Crash({"null-write", "full"}).Signal(), SIGSEGV);
-    const std::string report = OnlyReport();
-    const std::string map = report.substr(report.find("\nmemory map:\n"));
-    EXPECT_THAT(report, HasSubstr("\ndump type: 0x9b67\n"));
+    Crash({"lost-stack"});
+    const std::string stack = Section("stack");
+    EXPECT_THAT(stack, HasSubstr("(the stack is damaged and could not be followed further)\n"));
+    EXPECT_THAT(stack, ContainsRegex("by the chain of frame pointers\\)\n  #1 [^\n]* crash_child\\+0x"));
+}
+
+TEST_F(CrashReport, ShowsALibraryThatWasLoadedLate)
+{
+    Crash({"late-library"});
+    EXPECT_THAT(Section("modules"), ContainsRegex(" [0-9a-f]{40} /[^\n]*/libresolv[^\n]*\n"));
+}
+
+TEST_F(CrashReport, FullTypeAddsThreadsStackContentsAndMemoryMap)
+{
+    const Child child = Crash({"marker", "full"});
+    EXPECT_EQ(child.Signal(), SIGSEGV);
+    EXPECT_THAT(OnlyReport(), HasSubstr("\ndump type: 0x9b67\n"));
+    EXPECT_THAT(Section("threads"), HasSubstr("  " + std::to_string(child.pid) + " crash_child\n"));
+    EXPECT_THAT(Section("stack contents"), ContainsRegex("\n  0x[0-9a-f]{16}:[^\n]* 0x5ca1ab1e0ddba110"));
+    const std::string map = Section("memory map");
     EXPECT_THAT(map, HasSubstr("/crash_child\n"));
     EXPECT_THAT(map, HasSubstr("libc.so"));
     EXPECT_THAT(map, HasSubstr("[stack]"));
-    EXPECT_THAT(map, EndsWith("\nend of report\n"));
+    EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
+}
+
+TEST_F(CrashReport, FullTypeReadsNoMoreOfAStackThanThereIs)
+{
+    Crash({"overflow", "in-worker", "full"});
+    EXPECT_THAT(Section("stack contents"), ContainsRegex("\n  0x[0-9a-f]{16}: 0x[^\n]*\n"));
+    EXPECT_LT(Section("stack contents").size(), 250u * 1024);
+    EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
+}
+
+TEST_F(CrashReport, FullTypeSurvivesAStackPointerThatPointsNowhere)
+{
+    EXPECT_EQ(Crash({"lost-stack", "full"}).Signal(), SIGILL);
+    EXPECT_THAT(Section("stack contents"), HasSubstr("(no more memory can be read there)"));
+    EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
 }
 
 TEST_F(CrashReport, OnlyTheUserMayReadIt)
@@ -234,29 +226,6 @@ TEST_F(CrashReport, OnlyTheUserMayReadIt)
     {};
     ASSERT_EQ(::stat(Reports().front().c_str(), &found), 0);
     EXPECT_EQ(found.st_mode & 0777, 0600u);
-}
-
-TEST_F(CrashReport, NewestReplacesTheOldestAndForeignFilesStay)
-{
-    fs::create_directories(Folder());
-    for (const char* name :
-         {"crash-20200101-000000-1.txt", "crash-20210101-000000-1.txt", "full-dump", "notes.txt"})
-        std::ofstream(Folder() + name) << "old";
-    const std::time_t before = Now();
-    const Child child = Crash({"abort"});
-
-    const auto files = Reports();
-    ASSERT_EQ(files.size(), 3u);
-    const std::string newest = files[0].filename().string();
-    const std::string end = "-" + std::to_string(child.pid) + ".txt";
-    std::tm utc{};
-    EXPECT_EQ(::strptime(newest.c_str(), "crash-%Y%m%d-%H%M%S", &utc),
-              newest.c_str() + newest.size() - end.size());
-    EXPECT_THAT(newest, EndsWith(end));
-    EXPECT_GE(::timegm(&utc), before);
-    EXPECT_LE(::timegm(&utc), Now());
-    EXPECT_EQ(files[1].filename(), "full-dump");
-    EXPECT_EQ(files[2].filename(), "notes.txt");
 }
 
 TEST_F(CrashReport, NoneIsWrittenAfterUninitOrWithoutAFolder)
@@ -298,18 +267,69 @@ TEST_F(CrashReport, CallsAreToleratedInEveryState)
     EXPECT_EQ(now.sa_handler, SIG_DFL);
 }
 
-TEST_F(CrashReport, SmallerCountRemovesTheOldestAtOnce)
+/// What the script prints for the only report.
+class ResolvedReport : public CrashReport
+{
+protected:
+    std::string Resolve()
+    {
+        const std::string report = Reports().at(0).string();
+        const std::string command = VANTOR_RESOLVE + std::string(" ") + report + " 2>&1";
+        FILE* const output = ::popen(command.c_str(), "r");
+        std::string text;
+        for (int next = std::fgetc(output); next != EOF; next = std::fgetc(output))
+            text += static_cast<char>(next);
+        exitCode = WEXITSTATUS(::pclose(output));
+        return text;
+    }
+
+    /// A copy of the report in which the modules have other build ids.
+    void PretendAnotherBuild()
+    {
+        const fs::path report = Reports().at(0);
+        const std::string changed = std::regex_replace(Get(report), std::regex(" [0-9a-f]{40} /"),
+                                                       " 0000000000000000000000000000000000000000 /");
+        std::ofstream(report) << changed;
+    }
+
+    int exitCode = -1;
+};
+
+TEST_F(ResolvedReport, NamesTheLineThatCrashed)
+{
+    Crash({"null-write"});
+    const std::string text = Resolve();
+    EXPECT_EQ(exitCode, 0) << text;
+    std::smatch place;
+    ASSERT_TRUE(
+        std::regex_search(text, place, std::regex("#0 WriteToNull at (/.*/CrashChild\\.cpp):([0-9]+) ")))
+        << text;
+    std::ifstream source(place[1].str());
+    std::string line;
+    for (int i = std::stoi(place[2].str()); i > 0; --i)
+        std::getline(source, line);
+    EXPECT_THAT(line, HasSubstr("*reinterpret_cast<volatile int*>"));
+    EXPECT_THAT(text, ContainsRegex("\n  #1 main at [^\n]*/CrashChild.cpp:[0-9]+ "));
+    EXPECT_THAT(text, HasSubstr("\nsignal: SIGSEGV (11)"));
+}
+
+TEST_F(ResolvedReport, TakesNoFileOfAnotherBuild)
+{
+    Crash({"null-write"});
+    PretendAnotherBuild();
+    const std::string text = Resolve();
+    EXPECT_EQ(exitCode, 1);
+    EXPECT_THAT(text, Not(HasSubstr("CrashChild.cpp")));
+    EXPECT_THAT(text, ContainsRegex("  #0 WriteToNull\\+0x[0-9a-f]+   \\[crash_child\\+0x"));
+    EXPECT_THAT(text, ContainsRegex("/crash_child is another build"));
+}
+
+TEST_F(ResolvedReport, IsRefusedForAnythingElse)
 {
     fs::create_directories(Folder());
-    for (const char* name :
-         {"crash-20200101-000000-1.txt", "crash-20200101-000001-1.txt", "crash-20210101-000000-1.txt"})
-        std::ofstream(Folder() + name) << "old";
-    ASSERT_TRUE(CrashAPI_SetDumpMaxCount(3));
-    ASSERT_TRUE(CrashAPI_SetDumpPath(Folder().c_str()));
-    EXPECT_EQ(Reports().size(), 3u);
-    ASSERT_TRUE(CrashAPI_SetDumpMaxCount(2));
-    ASSERT_EQ(Reports().size(), 2u);
-    EXPECT_EQ(Reports()[0].filename(), "crash-20200101-000001-1.txt");
+    std::ofstream(Folder() + "notes.txt") << "Dear diary\n";
+    EXPECT_THAT(Resolve(), HasSubstr("is no crash report"));
+    EXPECT_EQ(exitCode, 2);
 }
 
 } // namespace

@@ -65,6 +65,8 @@ const std::vector<Row> kRows = {
     {"POST", kManagement + "wipers", R"({"wiperControl":{"channelGuids":["$camera","x"],"action":2}})", "200",
      R"({"channelGuid":"x","result":{"errorCode":404)"},
     {"POST", kManagement + "wipers", R"({"wiperControl":{"channelGuids":[],"action":3}})", "400", "wiper"},
+    {"POST", kManagement + "wipers", std::string(10000, '['), "400", "wiper"},
+    {"POST", kManagement + "wipers", "{\"wiperControl\":\"\xFF\"}", "400", "wiper"},
     {"DELETE", kDevices, "", "405", "method"},
     {"GET", "/vantor/v1/nothing", "", "404", "route"},
 };

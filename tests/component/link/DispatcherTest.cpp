@@ -32,7 +32,7 @@ struct Served
     std::vector<std::string> Dispatch(const LPCCallBackData& call)
     {
         calls.clear();
-        dispatcher.Dispatch(call);
+        dispatcher.Dispatch(std::make_shared<const LPCCallBackData>(call));
         return calls;
     }
 
@@ -79,6 +79,22 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(ACallWithoutHeaders, IsTakenAsUnknownMethod)
 {
     EXPECT_TRUE(Served().Dispatch({}).empty());
+}
+
+TEST(ANotification, HoldsItsMessageUntilEverybodyIsDone)
+{
+    Served served;
+    std::shared_ptr<protocol::WebSocketNotifyData> queued;
+    served.dispatcher.SetWebsocketSinks([&](auto notification) { queued = std::move(notification); },
+                                        [](const LPCCallBackData&) {}, [](const LPCCallBackData&) {});
+    auto call = std::make_shared<const LPCCallBackData>(Call("websocket", "", "", kOther));
+    const std::weak_ptr<const LPCCallBackData> message = call;
+    served.dispatcher.Dispatch(std::exchange(call, nullptr));
+    ASSERT_TRUE(queued);
+    EXPECT_EQ(queued->type, "deviceAdd");
+    EXPECT_FALSE(message.expired());
+    queued.reset();
+    EXPECT_TRUE(message.expired());
 }
 
 TEST(ARowThatNobodyServes, IsNamedInTheLog)

@@ -85,7 +85,7 @@ TEST(DeepNesting, IsRefusedBeyondTheLimit)
     std::string error;
     EXPECT_TRUE(json::ParseText(Nested(CJSON_NESTING_LIMIT), error));
     for (const std::size_t depth :
-         {std::size_t{CJSON_NESTING_LIMIT + 1}, std::size_t{100000}, std::size_t{1000000}}) {
+         {std::size_t{CJSON_NESTING_LIMIT + 1}, std::size_t{100000}, std::size_t{999999}}) {
         EXPECT_FALSE(json::ParseText(Nested(depth), error)) << depth;
         EXPECT_EQ(error, "syntax error at byte " + std::to_string(CJSON_NESTING_LIMIT)) << depth;
     }
@@ -108,6 +108,31 @@ TEST(LongBody, IsLoggedCut)
     EXPECT_FALSE(TParseJSONStr(result, std::string(1 << 20, 'x')));
     EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"Failed to cJSON_Parse( [" + std::string(4096, 'x') +
                                                          "] ). Error info: [syntax error at byte 0]."});
+}
+
+TEST(ManyValues, AreRefusedBeyondTheLimitButNotInsideATextNorInALongOne)
+{
+    const auto list = [](std::size_t values, const std::string& value) {
+        std::string text = "[" + value;
+        for (std::size_t i = 1; i < values; ++i)
+            text += "," + value;
+        return text + "]";
+    };
+    std::string error;
+    EXPECT_TRUE(json::ParseText(list(999999, "0"), error)) << error;
+    EXPECT_FALSE(json::ParseText(list(1000000, "0"), error));
+    EXPECT_EQ(error, "too many values at byte 1999998");
+    EXPECT_FALSE(json::ParseText(list(600000, "[]"), error));
+    EXPECT_TRUE(json::ParseText(R"(["\\",")" + std::string(2000000, ',') + R"(\"",1])", error)) << error;
+}
+
+TEST(AFloodOfBadBodies, DoesNotFillTheLog)
+{
+    const CapturedLog log;
+    for (int i = 0; i < 10000; ++i)
+        EXPECT_FALSE(WebSocketNotifyData().Parse("x"));
+    EXPECT_GE(log.Lines().size(), 10u);
+    EXPECT_LT(log.Lines().size(), 40u);
 }
 
 TEST(MessageBody, HasTheKeyAsItsOnlyMember)

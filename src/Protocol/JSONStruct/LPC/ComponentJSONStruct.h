@@ -77,4 +77,21 @@ struct ComponentListData : CMessage<ComponentListData, IInboundData>
     static constexpr auto Fields() { return Whole(&ComponentListData::components); }
 };
 
+/// How the component's link does.
+struct ComponentStateData : CMessage<ComponentStateData, IInboundData>
+{
+    static constexpr const char* kKey = "componentState";
+    std::int64_t runningSeconds = 0;
+    std::uint64_t messagesTaken = 0;    ///< from the framework since the start
+    std::uint64_t messagesUnderWay = 0; ///< of them, those that wait or are being served
+
+    static constexpr auto Fields()
+    {
+        using T = ComponentStateData;
+        return std::make_tuple(Must("runningSeconds", &T::runningSeconds),
+                               Must("messagesTaken", &T::messagesTaken),
+                               Must("messagesUnderWay", &T::messagesUnderWay));
+    }
+};
+
 } // namespace protocol

@@ -1,7 +1,6 @@
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
 
 #include "Protocol/JSONStruct/JSONKinds.h"
-#include "Protocol/JSONStruct/LoggableText.h"
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 
 namespace protocol {
@@ -39,8 +38,8 @@ bool LPCRequestData::FromJSON(const cJSON* item)
     }
     const cJSON* const data = json::Member(item, kData);
     if (m_payload && !data) {
-        BASE_ERROR("Failed to cJSON_GetObjectItem([%s]). Error info: [%s].", kData,
-                   LoggableText(json::PrintText(item)).c_str());
+        LogMissingItem(
+            kData, [item] { return json::PrintText(item); }, PROTOCOL_PLACE);
         return false;
     }
     if (m_payload && !m_payload->FromJSON(data))
