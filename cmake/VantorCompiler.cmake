@@ -22,7 +22,11 @@ else()
                            -Wnon-virtual-dtor -fno-omit-frame-pointer)
     # Crash reports name every module's build, so that none is resolved with another one.
     target_link_options(vantor_flags INTERFACE LINKER:--build-id=sha1)
-    if(CCACHE)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        # Means the functions too that hand a checked format on.
+        target_compile_options(vantor_flags INTERFACE -Wno-format-nonliteral)
+    endif()
+    if(CCACHE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(vantor_flags INTERFACE -fpch-preprocess)
     endif()
     if(VANTOR_SANITIZE)

@@ -96,6 +96,21 @@ function(vantor_test target)
                          PROPERTIES LABELS "${ARG_KIND}" TIMEOUT ${ARG_TIMEOUT})
 endfunction()
 
+# A fuzz target, part of the target fuzz, and its short run as a test "fuzz.<name>". FILES are sources of the product,
+# from the project's root, that are built into it so that the libraries which they belong to need not be.
+function(vantor_fuzz name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;FILES;LINKS" ${ARGN})
+    list(TRANSFORM ARG_FILES PREPEND "${CMAKE_SOURCE_DIR}/")
+    add_executable(fuzz_${name} EXCLUDE_FROM_ALL ${ARG_SOURCES} ${ARG_FILES})
+    target_link_libraries(fuzz_${name} PRIVATE ${ARG_LINKS})
+    target_include_directories(fuzz_${name} PRIVATE "${CMAKE_SOURCE_DIR}" "${CMAKE_SOURCE_DIR}/tools")
+    target_link_options(fuzz_${name} PRIVATE -fsanitize=fuzzer)
+    vantor_configure(fuzz_${name})
+    add_dependencies(fuzz fuzz_${name})
+    add_test(NAME fuzz.${name} COMMAND "${CMAKE_SOURCE_DIR}/fuzz/short" ${name})
+    set_tests_properties(fuzz.${name} PROPERTIES LABELS fuzz TIMEOUT 120)
+endfunction()
+
 # ---- floors ---------------------------------------------------------------------------------------------------------
 
 function(vantor_check_link target link)

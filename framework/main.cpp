@@ -6,6 +6,7 @@
 #include "CommonMethodLib/UserDataPath.h"
 #include "CrashAPI/CrashAPI.h"
 #include "UiDataController/HighDPIMgr.h"
+#include "UiDataController/ScreenGuard.h"
 #include "WindowEmbedding/GuestWindow.h"
 #include "framework/ui/FrameworkApplication.h"
 
@@ -14,9 +15,11 @@
 
 #include <clocale>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
+constexpr int kCannotRun = 1;
 constexpr int kWrongCommandLine = 2;
 
 bool PreparePaths()
@@ -51,7 +54,7 @@ int Run(const framework::CommandLine& line)
     if (!application.Start(error)) {
         if (!error.isEmpty())
             std::fprintf(stderr, "%s\n", qPrintable(error));
-        return error.isEmpty() ? 0 : 1;
+        return error.isEmpty() ? 0 : kCannotRun;
     }
     return QApplication::exec();
 }
@@ -62,6 +65,7 @@ int main(int argc, char* argv[])
 {
     std::setlocale(LC_CTYPE, "");
     Base::ProcessUtil::HoldEndRequests();
+    Base::ProcessUtil::FailWritesInsteadOfEnding();
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments << QString::fromLocal8Bit(argv[index]);
@@ -77,11 +81,14 @@ int main(int argc, char* argv[])
         return 0;
     }
     if (!PreparePaths())
-        return 1;
-    Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+        return kCannotRun;
+    const auto& paths = comm_methodlib::CUserDataPath::Instance();
+    Base::CLog::Instance().InitLog(paths.logPropertiesPath(), paths.installedLogPropertiesPath());
     PrepareCrashReports();
     UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
+    std::optional<UiDataController::CScreenGuard> guard(kCannotRun);
     QApplication application(argc, argv);
+    guard.reset();
     QCoreApplication::addLibraryPath(QCoreApplication::applicationDirPath() + "/../plugins");
     embedding::FollowMouseWithFocus();
     const int result = Run(*line);

@@ -7,6 +7,7 @@
 #include "CrashAPI/CrashAPI.h"
 #include "SignalTransmit.h"
 #include "UiDataController/HighDPIMgr.h"
+#include "UiDataController/ScreenGuard.h"
 #include "ui/Application/CrashSetup.h"
 #include "ui/Application/VantorApplication.h"
 
@@ -17,6 +18,7 @@
 #include <clocale>
 #include <future>
 #include <memory>
+#include <system_error>
 
 namespace {
 
@@ -28,6 +30,12 @@ void PreparePaths()
     const std::string exeDir = Base::FileUtil::GetCurExeDir();
     comm_methodlib::CUserDataPath::Instance().init(exeDir + "../", "Video.C", -1, -1);
     Base::FileUtil::InitCurExeDirUtf8(Base::LocalToUTF8(exeDir));
+}
+
+std::unique_ptr<video::CVantorApplication> MakeApplication(int& argc, char** argv)
+{
+    const UiDataController::CScreenGuard guard(kInitFailed);
+    return std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
 }
 
 void AddPluginPath()
@@ -50,11 +58,34 @@ void LeaveOpenGLAside()
     qunsetenv(integration);
 }
 
-int FailedInit(std::unique_ptr<video::CVantorApplication> application, std::future<void>& crashSetup)
+using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
+
+/// False when the component cannot run; the application is then as far as it came.
+bool StartUp(int& argc, char** argv, std::future<void>& crashSetup, ApplicationPtr& application)
 {
-    application->UnInit();
+    try {
+        crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
+        BASE_INFO("InitSysParameter:in0");
+        UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
+        application = MakeApplication(argc, argv);
+        Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
+        AddPluginPath();
+        LeaveOpenGLAside();
+        return application->Init();
+    } catch (const std::system_error& error) {
+        BASE_FATAL("The system refuses a thread or another thing that the component needs: %s.",
+                   error.what());
+        return false;
+    }
+}
+
+int FailedInit(ApplicationPtr application, std::future<void>& crashSetup)
+{
+    if (application)
+        application->UnInit();
     QCoreApplication::exit(0);
-    crashSetup.wait();
+    if (crashSetup.valid())
+        crashSetup.wait();
     application.reset();
     return kInitFailed;
 }
@@ -65,18 +96,18 @@ int main(int argc, char* argv[])
 {
     std::setlocale(LC_CTYPE, "");
     Base::ProcessUtil::HoldEndRequests();
+    Base::ProcessUtil::FailWritesInsteadOfEnding();
     PreparePaths();
-    Base::CLog::Instance().InitLog(comm_methodlib::CUserDataPath::Instance().logPropertiesPath());
+    const auto& paths = comm_methodlib::CUserDataPath::Instance();
+    Base::CLog::Instance().InitLog(paths.logPropertiesPath(), paths.installedLogPropertiesPath());
+    // Said on standard error; without a place every file would go to wherever the process was started.
+    if (paths.rootPath().empty())
+        return kInitFailed;
     CrashAPI_PrepareThread();
     Base::ProcessUtil::OnThreadStart([] { CrashAPI_PrepareThread(); });
-    std::future<void> crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
-    BASE_INFO("InitSysParameter:in0");
-    UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
-    auto application = std::make_unique<video::CVantorApplication>(kTitle, argc, argv);
-    Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
-    AddPluginPath();
-    LeaveOpenGLAside();
-    if (!application->Init())
+    std::future<void> crashSetup;
+    ApplicationPtr application;
+    if (!StartUp(argc, argv, crashSetup, application))
         return FailedInit(std::move(application), crashSetup);
 
     if (application->IsRightToLeft())

@@ -4,12 +4,14 @@
 
 #include <log4cxx/basicconfigurator.h>
 #include <log4cxx/consoleappender.h>
+#include <log4cxx/fileappender.h>
 #include <log4cxx/logger.h>
 #include <log4cxx/logmanager.h>
 #include <log4cxx/patternlayout.h>
 #include <log4cxx/propertyconfigurator.h>
 #include <log4cxx/spi/location/locationinfo.h>
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdarg>
@@ -67,6 +69,67 @@ log4cxx::AppenderPtr PlainAppender()
     return std::make_shared<log4cxx::ConsoleAppender>(layout, log4cxx::ConsoleAppender::getSystemErr());
 }
 
+/// Why what was configured gives no log; empty when it does. log4cxx itself goes on without one.
+std::string WhatIsWrong()
+{
+    const log4cxx::AppenderList appenders = log4cxx::Logger::getRootLogger()->getAllAppenders();
+    if (appenders.empty())
+        return "it sets up no appender for the root logger";
+    for (const log4cxx::AppenderPtr& appender : appenders) {
+        const auto file = log4cxx::cast<log4cxx::FileAppender>(appender);
+        if (file && !std::ofstream(file->getFile(), std::ios::app))
+            return "the file [" + file->getFile() + "] cannot be written";
+    }
+    return {};
+}
+
+std::string Configure(const std::string& propertiesPath)
+{
+    if (!std::ifstream(propertiesPath).good())
+        return "it cannot be read";
+    try {
+        log4cxx::PropertyConfigurator::configure(log4cxx::File(propertiesPath));
+        return WhatIsWrong();
+    } catch (const std::exception& error) {
+        return error.what();
+    }
+}
+
+/// Whether there is a log as the file says; one line on standard error when not.
+bool LogsAs(const std::string& propertiesPath)
+{
+    if (propertiesPath.empty())
+        return false;
+    const std::string problem = Configure(propertiesPath);
+    if (problem.empty())
+        return true;
+    log4cxx::LogManager::resetConfiguration();
+    std::fprintf(stderr, "Log: [%s] cannot be followed: %s.\n", propertiesPath.c_str(), problem.c_str());
+    return false;
+}
+
+/// How many lines were lost since one was written last.
+std::atomic<std::size_t> g_lost{0};
+
+void WriteLine(const log4cxx::LoggerPtr& logger, LogLevel level, const std::string& message,
+               const log4cxx::spi::LocationInfo& place)
+{
+    std::size_t lost = g_lost.exchange(0);
+    try {
+        if (lost > 0)
+            logger->forcedLog(
+                Level(LogLevel::Warn),
+                "Here " + std::to_string(lost) + " lines are missing that could not be written.", place);
+        lost = 0;
+        logger->forcedLog(Level(level), message, place);
+    } catch (const std::exception& error) {
+        if ((g_lost += lost + 1) == 1)
+            std::fprintf(stderr, "Log: lines are lost from here on: %s.\n", error.what());
+        if (level >= LogLevel::Error)
+            std::fprintf(stderr, "%s\n", message.c_str());
+    }
+}
+
 /// Most lines fit the buffer on the stack; only long ones are formatted a second time.
 std::string FormatMessage(const char* format, std::va_list arguments)
 {
@@ -86,6 +149,13 @@ std::string FormatMessage(const char* format, std::va_list arguments)
     return message;
 }
 
+/// What a text from outside may hold must not look like further lines.
+void PutOnOneLine(std::string& message)
+{
+    std::replace_if(
+        message.begin(), message.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }, ' ');
+}
+
 } // namespace
 
 CLog& CLog::Instance()
@@ -94,23 +164,26 @@ CLog& CLog::Instance()
     return *log;
 }
 
-bool CLog::InitLog(const std::string& propertiesPath)
+bool CLog::InitLog(const std::string& propertiesPath, const std::string& installedPath)
 {
-    const bool readable = std::ifstream(propertiesPath).good();
-    if (readable)
-        log4cxx::PropertyConfigurator::configure(log4cxx::File(propertiesPath));
-    else
+    const bool asWanted = LogsAs(propertiesPath);
+    if (!asWanted && (installedPath == propertiesPath || !LogsAs(installedPath)))
         log4cxx::BasicConfigurator::configure(PlainAppender());
     const std::unique_lock<std::shared_mutex> lock(TheGate().mutex);
     TheGate().open = true;
-    return readable;
+    return asWanted;
 }
 
 void CLog::UninitLog()
 {
     const std::unique_lock<std::shared_mutex> lock(TheGate().mutex);
-    if (std::exchange(TheGate().open, false))
+    if (!std::exchange(TheGate().open, false))
+        return;
+    try {
         log4cxx::LogManager::shutdown();
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "Log: its end could not be written: %s.\n", error.what());
+    }
 }
 
 void CLog::Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
@@ -124,12 +197,13 @@ void CLog::Write(LogLevel level, const char* logger, const LogLocation& location
 
     std::va_list arguments;
     va_start(arguments, format);
-    const std::string message = FormatMessage(format, arguments);
+    std::string message = FormatMessage(format, arguments);
     va_end(arguments);
+    PutOnOneLine(message);
     if (observer)
         observer(level, logger, message);
     if (wanted)
-        target->forcedLog(Level(level), message, Place(location));
+        WriteLine(target, level, message, Place(location));
 }
 
 void SetLogObserver(LogObserver observer)

@@ -24,16 +24,21 @@ class CLog
 public:
     static CLog& Instance();
 
-    /// Starts logging as the properties file says. A file that cannot be read gives a plain log on standard
-    /// error and the result false.
-    bool InitLog(const std::string& propertiesPath);
+    /// Starts logging as the properties file says. When that gives no log (it cannot be read, names no
+    /// appender for the root logger, or a file that cannot be written), as the file installedPath says; when
+    /// there is none, on standard error. The result is then false, and standard error has a line that says
+    /// why; it has none for an empty path.
+    ///
+    /// Lines that cannot be written later, as on a full disk, are lost, but for errors, which then go to
+    /// standard error. It has one line when that begins, and the log has one when it goes on.
+    bool InitLog(const std::string& propertiesPath, const std::string& installedPath = {});
 
     /// Writes out and stops; waits for lines that other threads are writing. May be called again. Call it
     /// before the process exits while other threads run: log4cxx itself does not survive that.
     void UninitLog();
 
     /// Writes one line to the named logger, or to the root logger when the name is empty. A message is cut at
-    /// 16 KiB.
+    /// 16 KiB; control characters in it become blanks.
     void Write(LogLevel level, const char* logger, const LogLocation& location, const char* format, ...)
         BASE_PRINTF_FORMAT(5, 6);
 

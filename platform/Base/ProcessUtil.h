@@ -14,6 +14,10 @@ void HoldEndRequests();
 /// Calls serve, once and on a thread of its own, when the process is asked to end or was asked already.
 void OnEndRequest(std::function<void()> serve);
 
+/// From here on a write to a pipe that nobody reads, or beyond the limit of a file's size, fails as any other
+/// instead of ending the process. Windows does so anyway.
+void FailWritesInsteadOfEnding();
+
 /// Shows the calling thread under this name (at most 15 bytes are kept) in debuggers and crash reports, and
 /// does what OnThreadStart asked for. Every thread of the system calls it first.
 void NameThisThread(const std::string& name);

@@ -28,6 +28,14 @@ std::string Canonical(const std::string& dir)
     return WithSlash(error ? dir : path.generic_string());
 }
 
+bool MakeOrTell(const std::string& folder, int dirMode)
+{
+    const std::string problem = MakeWritableFolder(folder, dirMode);
+    if (!problem.empty())
+        std::fprintf(stderr, "User data: cannot write in [%s]: %s.\n", folder.c_str(), problem.c_str());
+    return problem.empty();
+}
+
 bool IsFolderName(const std::string& name)
 {
     return !name.empty() && name != "." && name != ".." && name.find_first_of("/\\") == std::string::npos;
@@ -47,12 +55,12 @@ bool CUserDataPath::init(const std::string& installDir, const std::string& compo
     fileMode = fileMode < 0 ? kOwnFiles : fileMode;
     m_install = Canonical(installDir);
     LimitNewFiles(dirMode, fileMode);
-    m_usable = setPaths(component) && makeFolders(dirMode);
-    if (m_usable) {
+    const bool usable = setPaths(component) && makeFolders(dirMode);
+    if (m_canLog) {
         Base::ProcessUtil::SetEnvironment("VANTOR_LOG_DIR", m_log.substr(0, m_log.size() - 1));
         Base::ProcessUtil::SetEnvironment("VANTOR_COMPONENT", component);
     }
-    return m_usable;
+    return usable;
 }
 
 bool CUserDataPath::setPaths(const std::string& component)
@@ -77,23 +85,23 @@ bool CUserDataPath::setPaths(const std::string& component)
 
 bool CUserDataPath::makeFolders(int dirMode)
 {
-    for (const std::string& folder : {m_root, m_component, m_log, m_dump, m_video, m_capture}) {
-        const std::string problem = MakeWritableFolder(folder, dirMode);
-        if (problem.empty())
-            continue;
-        std::fprintf(stderr, "User data: cannot write in [%s]: %s.\n", folder.c_str(), problem.c_str());
-        return false;
-    }
-    return true;
+    m_canLog = MakeOrTell(m_root, dirMode) && MakeOrTell(m_component, dirMode) && MakeOrTell(m_log, dirMode);
+    bool usable = m_canLog;
+    for (const std::string& folder : {m_dump, m_video, m_capture})
+        usable = m_canLog && MakeOrTell(folder, dirMode) && usable;
+    return usable;
 }
 
 std::string CUserDataPath::logPropertiesPath() const
 {
-    if (!m_usable)
-        return {};
     std::error_code ignored;
     const std::string own = m_component + "log.properties";
-    return std::filesystem::is_regular_file(own, ignored) ? own : m_install + "resources/log.properties";
+    return m_canLog && std::filesystem::is_regular_file(own, ignored) ? own : installedLogPropertiesPath();
+}
+
+std::string CUserDataPath::installedLogPropertiesPath() const
+{
+    return m_canLog ? m_install + "resources/log.properties" : std::string();
 }
 
 } // namespace comm_methodlib

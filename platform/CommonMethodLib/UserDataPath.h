@@ -25,9 +25,9 @@ public:
     /// to others there.
     ///
     /// Sets VANTOR_LOG_DIR (logPath without the last "/") and VANTOR_COMPONENT in the environment for the
-    /// logger's properties file. False, with one line on standard error because there is no logger yet, when
+    /// logger's properties file. False, with a line on standard error because there is no logger yet, when
     /// the platform names no place, the component's name is no folder name, or a folder cannot be created or
-    /// written.
+    /// written. One line for each folder, up to the first without which there is no log either.
     bool init(const std::string& installDir, const std::string& component, int dirMode, int fileMode);
 
     const std::string& rootPath() const { return m_root; }
@@ -39,15 +39,17 @@ public:
     const std::string& capturePath() const { return m_capture; }
     const std::string& installDataPath() const { return m_install; }
 
-    /// "log.properties" in componentPath when the user put one there, else the installed one. Empty when init
-    /// failed: the log then goes to standard error.
+    /// "log.properties" in componentPath when the user put one there, else the installed one. Empty when the
+    /// log's folder cannot be used: the log then goes to standard error.
     std::string logPropertiesPath() const;
+    /// The installed one; empty as above.
+    std::string installedLogPropertiesPath() const;
 
 private:
     bool setPaths(const std::string& component);
     bool makeFolders(int dirMode);
 
-    bool m_usable = false;
+    bool m_canLog = false;
     std::string m_root;
     std::string m_component;
     std::string m_log;

@@ -1,8 +1,16 @@
 #include "DatabaseUpdate/DatabaseFiles.h"
 
+#include "Base/FileUtil.h"
+#include "Base/StringUtil.h"
+
 #include <filesystem>
 
 namespace DatabaseUpdate {
+
+bool ReplaceDatabaseFile(const std::string& from, const std::string& to)
+{
+    return Base::FileUtil::PutInPlace(Base::UTF8ToLocal(from), Base::UTF8ToLocal(to));
+}
 
 void RemoveJournals(const std::string& path)
 {

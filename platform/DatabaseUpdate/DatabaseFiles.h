@@ -4,10 +4,8 @@
 
 namespace DatabaseUpdate {
 
-/// Puts the file from in the place of the file to in one step that has reached the disk when the call
-/// returns; to need not exist. Paths in UTF-8. False when the system refuses; both files are then as they
-/// were.
-bool ReplaceFile(const std::string& from, const std::string& to);
+/// Base::FileUtil::PutInPlace for paths in UTF-8.
+bool ReplaceDatabaseFile(const std::string& from, const std::string& to);
 
 /// Removes the journals and logs beside a database file, as far as they exist: before another file takes its
 /// place, to which the engine would apply them. The file must be closed.

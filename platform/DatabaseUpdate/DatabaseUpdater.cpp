@@ -165,7 +165,7 @@ void CDatabaseUpdater::KeepCopy(CSQLite3Engine& database, int version) const
         database.CopyTo(unfinished, m_key);
         CSQLite3Engine(unfinished, CSQLite3Engine::Mode::Inspect, m_key).RequireSound();
         RemoveJournals(copy);
-        if (!ReplaceFile(unfinished, copy))
+        if (!ReplaceDatabaseFile(unfinished, copy))
             Refuse("no copy can be kept at " + copy);
     } catch (...) {
         RemoveDatabaseFile(unfinished);

@@ -68,7 +68,7 @@ void EncryptFile(const std::string& path, const std::string& key)
     try {
         WriteEncryptedCopy(path, copy, key);
         RemoveJournals(path);
-        if (!ReplaceFile(copy, path))
+        if (!ReplaceDatabaseFile(copy, path))
             throw CSQLite3Exception(Sqlite3DO::kErrorCantOpen,
                                     "the encrypted copy cannot take the file's place");
     } catch (...) {

@@ -89,7 +89,7 @@ void ClientRun::Start(const QStringList& options, const std::string& binFolder)
 
 void ClientRun::End()
 {
-    m_framework->Signal(SIGTERM);
+    AskToEnd();
     EXPECT_EQ(m_framework->WaitForExit(kEndMs).value_or(-1000), 0) << component.Output();
     EXPECT_EQ(component.ProcessId(), 0);
     for (const std::string& output : {component.Output(), Content(Folder() + "component.out")})
@@ -100,6 +100,11 @@ void ClientRun::Kill()
 {
     m_framework->Signal(SIGKILL);
     m_framework->WaitForExit(kEndMs);
+}
+
+void ClientRun::AskToEnd()
+{
+    m_framework->Signal(SIGTERM);
 }
 
 std::optional<int> ClientRun::AwaitExit(int seconds)

@@ -27,6 +27,8 @@ public:
     /// Asks the framework to end; both programs must end in order, without complaints of the X server.
     void End();
     void Kill();
+    /// Asks the framework to end, and does not wait.
+    void AskToEnd();
     /// The exit status of the framework that ends by itself.
     std::optional<int> AwaitExit(int seconds);
 

@@ -1,9 +1,8 @@
 #include "Base/FileUtil.h"
 
-#include "Base/GuidUtil.h"
-
 #include <fcntl.h>
 #include <pwd.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -67,10 +66,39 @@ std::string WithSlash(std::string dir)
 
 void SyncFolderOf(const std::string& path)
 {
-    const Descriptor folder(
-        ::open(std::filesystem::path(path).parent_path().c_str(), O_RDONLY | O_DIRECTORY));
-    if (folder.IsOpen())
-        ::fsync(folder.Get());
+    const std::string folder = path.substr(0, path.rfind('/') + 1);
+    const Descriptor open(::open(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (open.IsOpen())
+        ::fsync(open.Get());
+}
+
+/// Whether the path still leads to the open file.
+bool IsStillNamed(int fd, const std::string& path)
+{
+    struct stat open;
+    struct stat named;
+    return ::fstat(fd, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
+}
+
+/// The file, empty and locked by this caller alone until it is closed; -1 when the system refuses.
+int OpenAlone(const std::string& path)
+{
+    for (;;) {
+        const int fd = ::open(path.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0600);
+        if (fd < 0)
+            return -1;
+        while (::flock(fd, LOCK_EX) != 0 && errno == EINTR)
+            continue;
+        // Whoever held the lock may have put the file in place meanwhile.
+        if (IsStillNamed(fd, path)) {
+            if (::fchmod(fd, 0600) == 0 && ::ftruncate(fd, 0) == 0)
+                return fd;
+            ::close(fd);
+            return -1;
+        }
+        ::close(fd);
+    }
 }
 
 } // namespace
@@ -116,21 +144,21 @@ bool ReadFile(const std::string& path, std::string& content, std::size_t limit)
 
 bool WriteFileAtomically(const std::string& path, const std::string& content)
 {
-    const std::string temporary = path + "." + GuidUtil::CreateGuid();
-    {
-        const Descriptor file(::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-        if (!file.IsOpen())
-            return false;
-        if (!WriteAll(file.Get(), content) || ::fsync(file.Get()) != 0) {
-            ::unlink(temporary.c_str());
-            return false;
-        }
-    }
-    if (::rename(temporary.c_str(), path.c_str()) != 0) {
-        ::unlink(temporary.c_str());
+    const std::string temporary = path + ".writing";
+    const Descriptor file(OpenAlone(temporary));
+    if (!file.IsOpen())
         return false;
-    }
-    SyncFolderOf(path);
+    if (WriteAll(file.Get(), content) && ::fsync(file.Get()) == 0 && PutInPlace(temporary, path))
+        return true;
+    ::unlink(temporary.c_str());
+    return false;
+}
+
+bool PutInPlace(const std::string& from, const std::string& to)
+{
+    if (::rename(from.c_str(), to.c_str()) != 0)
+        return false;
+    SyncFolderOf(to);
     return true;
 }
 

@@ -47,6 +47,12 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
+void FailWritesInsteadOfEnding()
+{
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        ::signal(number, SIG_IGN);
+}
+
 std::int64_t ProcessId()
 {
     return ::getpid();

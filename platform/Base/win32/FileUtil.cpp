@@ -1,7 +1,5 @@
 #include "Base/FileUtil.h"
 
-#include "Base/GuidUtil.h"
-
 #include <windows.h>
 
 #include <algorithm>
@@ -10,8 +8,32 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <vector>
 
 namespace Base::FileUtil {
+
+namespace {
+
+/// The file, empty, which nobody else may write or move until it is closed.
+HANDLE OpenAlone(const std::string& path)
+{
+    return ::CreateFileA(path.c_str(), GENERIC_WRITE | DELETE, FILE_SHARE_READ, nullptr, CREATE_ALWAYS,
+                         FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+/// Gives the open file another name, in place of the file that has it.
+bool RenameOpen(HANDLE file, const std::string& path)
+{
+    const std::wstring name = std::filesystem::path(path).wstring();
+    std::vector<char> memory(sizeof(FILE_RENAME_INFO) + name.size() * sizeof(wchar_t));
+    auto* info = reinterpret_cast<FILE_RENAME_INFO*>(memory.data());
+    info->ReplaceIfExists = TRUE;
+    info->FileNameLength = static_cast<DWORD>(name.size() * sizeof(wchar_t));
+    std::copy(name.begin(), name.end(), info->FileName);
+    return ::SetFileInformationByHandle(file, FileRenameInfo, info, static_cast<DWORD>(memory.size())) != 0;
+}
+
+} // namespace
 
 std::string GetCurExeDir()
 {
@@ -49,21 +71,27 @@ bool ReadFile(const std::string& path, std::string& content, std::size_t limit)
 
 bool WriteFileAtomically(const std::string& path, const std::string& content)
 {
-    const std::string temporary = path + "." + GuidUtil::CreateGuid();
-    const HANDLE file = ::CreateFileA(temporary.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    const std::string temporary = path + ".writing";
+    HANDLE file = OpenAlone(temporary);
+    for (; file == INVALID_HANDLE_VALUE && ::GetLastError() == ERROR_SHARING_VIOLATION;
+         file = OpenAlone(temporary))
+        ::Sleep(1);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     DWORD written = 0;
-    const bool complete =
+    const bool inPlace =
         ::WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr) &&
-        written == content.size() && ::FlushFileBuffers(file);
+        written == content.size() && ::FlushFileBuffers(file) && RenameOpen(file, path);
     ::CloseHandle(file);
+    if (!inPlace)
+        ::DeleteFileA(temporary.c_str());
+    return inPlace;
+}
+
+bool PutInPlace(const std::string& from, const std::string& to)
+{
     const DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (complete && ::MoveFileExA(temporary.c_str(), path.c_str(), flags))
-        return true;
-    ::DeleteFileA(temporary.c_str());
-    return false;
+    return ::MoveFileExA(from.c_str(), to.c_str(), flags) != 0;
 }
 
 bool MakeDirs(const std::string& path)

@@ -44,6 +44,8 @@ void OnEndRequest(std::function<void()> serve)
     }).detach();
 }
 
+void FailWritesInsteadOfEnding() {}
+
 std::int64_t ProcessId()
 {
     return ::GetCurrentProcessId();

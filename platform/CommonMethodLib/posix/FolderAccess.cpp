@@ -30,6 +30,15 @@ int MakeFolder(const std::string& path, int mode)
     return ::chmod(path.c_str(), bits) == 0 ? 0 : errno;
 }
 
+/// Why there is no folder at a path that mkdir refused.
+std::string Reason(const std::string& path, int error)
+{
+    struct stat found;
+    if (error != EEXIST)
+        return SystemText(error);
+    return ::stat(path.c_str(), &found) == 0 ? SystemText(ENOTDIR) : "it is a link that leads nowhere";
+}
+
 } // namespace
 
 std::string MakeWritableFolder(const std::string& folder, int mode)
@@ -40,7 +49,7 @@ std::string MakeWritableFolder(const std::string& folder, int mode)
         const int error = IsFolder(part) ? 0 : MakeFolder(part, mode);
         // Another process may have made it meanwhile.
         if (error != 0 && !IsFolder(part))
-            return SystemText(error);
+            return Reason(part, error);
     }
     return ::access(folder.c_str(), R_OK | W_OK | X_OK) == 0 ? std::string() : SystemText(errno);
 }

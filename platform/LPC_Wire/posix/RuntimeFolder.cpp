@@ -10,17 +10,18 @@
 namespace lpc {
 namespace {
 
-bool IsFolder(const std::string& path)
+bool IsFolderToWriteIn(const std::string& path)
 {
     struct stat state
     {};
-    return stat(path.c_str(), &state) == 0 && S_ISDIR(state.st_mode);
+    return stat(path.c_str(), &state) == 0 && S_ISDIR(state.st_mode) &&
+           access(path.c_str(), W_OK | X_OK) == 0;
 }
 
 std::string FolderPath()
 {
     const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime && runtime[0] == '/' && IsFolder(runtime))
+    if (runtime && runtime[0] == '/' && IsFolderToWriteIn(runtime))
         return std::string(runtime) + "/vantor";
     const char* temporary = std::getenv("TMPDIR");
     const std::string base = temporary && temporary[0] == '/' ? temporary : "/tmp";

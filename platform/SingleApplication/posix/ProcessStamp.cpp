@@ -40,10 +40,10 @@ std::uint32_t StartTime(std::uint32_t pid)
     return static_cast<std::uint32_t>(ticks);
 }
 
-bool IsFolder(const std::string& path)
+bool IsFolderToWriteIn(const std::string& path)
 {
     struct stat info = {};
-    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+    return stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode) && access(path.c_str(), W_OK | X_OK) == 0;
 }
 
 } // namespace
@@ -75,7 +75,8 @@ std::string ServerName(const std::string& key)
     const char* runtime = std::getenv("XDG_RUNTIME_DIR");
     const std::string folder = runtime ? runtime : "";
     const std::string name = "vantor-" + key;
-    if (folder.empty() || folder.front() != '/' || folder.size() > kLongestRuntimeDir || !IsFolder(folder))
+    if (folder.empty() || folder.front() != '/' || folder.size() > kLongestRuntimeDir ||
+        !IsFolderToWriteIn(folder))
         return name;
     return folder + "/" + name;
 }

@@ -28,17 +28,35 @@ bool IsOneOf(char c, std::string_view set)
     return set.find(c) != std::string_view::npos;
 }
 
+/// The number of backslashes at the end of the text.
+std::size_t BackslashesBefore(std::string_view text)
+{
+    return text.size() - (text.find_last_not_of('\\') + 1);
+}
+
+/// The key between the last quote of the text and the one that opens it. Quotes with more backslashes before
+/// them belong to the key; where there are fewer, backslashes at the end of the key are in the way, and all
+/// from the text's begin counts as the key.
+std::string_view LastQuotedKey(std::string_view text)
+{
+    const char quote = text.back();
+    text.remove_suffix(1);
+    const std::size_t depth = BackslashesBefore(text);
+    const std::string_view key = text.substr(0, text.size() - depth);
+    std::size_t open = key.rfind(quote);
+    while (open != std::string_view::npos && BackslashesBefore(key.substr(0, open)) > depth)
+        open = key.substr(0, open).rfind(quote);
+    const bool isSure = open != std::string_view::npos && BackslashesBefore(key.substr(0, open)) == depth;
+    return isSure ? key.substr(open + 1) : key;
+}
+
 /// The key at the end of the text: all between its quotes, or the last word. Backslashes belong to it, those
 /// of its closing quote do not.
 std::string_view LastKey(std::string_view text)
 {
     text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
-    if (!text.empty() && IsOneOf(text.back(), "\"'")) {
-        const char quote = text.back();
-        text.remove_suffix(1);
-        text.remove_prefix(text.rfind(quote) + 1);
-        return text.substr(0, text.find_last_not_of('\\') + 1);
-    }
+    if (!text.empty() && IsOneOf(text.back(), "\"'"))
+        return LastQuotedKey(text);
     std::size_t begin = text.size();
     while (begin > 0 && (IsWordCharacter(text[begin - 1]) || text[begin - 1] == '\\'))
         --begin;
@@ -99,8 +117,9 @@ std::size_t EndOfValue(std::string_view text, std::size_t begin)
     return std::min(text.find_first_of(",}]\"\\&;\r\n", first), text.size());
 }
 
-/// User and password of the url whose "://" begins at the colon; slashes may be escaped. All of it when it
-/// ends with the text, which may have been cut before the "@".
+/// User and password of the url whose "://" begins at the colon; slashes may be escaped. An apostrophe may be
+/// part of a password (RFC 3986, 3.2.1) and does not end it. All of it when it ends with the text, which may
+/// have been cut before the "@".
 std::optional<std::string_view> UserOfUrl(std::string_view text, std::size_t colon)
 {
     const std::size_t begin = std::min(text.find_first_not_of("\\/", colon + 1), text.size());
@@ -108,7 +127,7 @@ std::optional<std::string_view> UserOfUrl(std::string_view text, std::size_t col
     if (text[colon] != ':' || std::count(slashes.begin(), slashes.end(), '/') != 2)
         return std::nullopt;
     const std::string_view rest = text.substr(begin);
-    const std::string_view url = rest.substr(0, rest.find_first_of(" \t\r\n\"'<>"));
+    const std::string_view url = rest.substr(0, rest.find_first_of(" \t\r\n\"<>"));
     const std::size_t at = url.rfind('@');
     if (at == std::string_view::npos && url.size() < rest.size())
         return std::nullopt;

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
+#include <future>
 
 using namespace Base::FileUtil;
 
@@ -13,6 +15,7 @@ TEST(WritingAFile, ReplacesItWholeAndLeavesNothingBeside)
 {
     TestDataRoot root;
     const std::string path = root.Path() + "file";
+    std::ofstream(path + ".writing") << "a killed process left this";
     ASSERT_TRUE(WriteFileAtomically(path, "old"));
     ASSERT_TRUE(WriteFileAtomically(path, std::string("new\0text", 8)));
     std::string content;
@@ -21,6 +24,27 @@ TEST(WritingAFile, ReplacesItWholeAndLeavesNothingBeside)
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(root.Path()), {}), 1);
     EXPECT_EQ(std::filesystem::status(path).permissions() & std::filesystem::perms::others_all,
               std::filesystem::perms::none);
+}
+
+TEST(WritingAFile, IsDoneByOneThreadAfterTheOther)
+{
+    TestDataRoot root;
+    const std::string path = root.Path() + "file";
+    const auto write = [&](char letter) {
+        bool written = true;
+        for (int time = 0; time < 10; ++time)
+            written = WriteFileAtomically(path, std::string(5000, letter)) && written;
+        return written;
+    };
+    std::vector<std::future<bool>> writers;
+    for (const char letter : {'a', 'b', 'c', 'd'})
+        writers.push_back(std::async(std::launch::async, write, letter));
+    for (auto& writer : writers)
+        EXPECT_TRUE(writer.get());
+    std::string content;
+    ASSERT_TRUE(ReadFile(path, content));
+    EXPECT_EQ(content, std::string(5000, content.empty() ? ' ' : content[0]));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(root.Path()), {}), 1);
 }
 
 TEST(ReadingAFile, RefusesOneOverTheLimitAndAMissingOne)

@@ -1,9 +1,12 @@
 #include "Base/Log.h"
 #include "Base/FileUtil.h"
+#include "Base/ProcessUtil.h"
 #include "support/CapturedLog.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
+
+#include <sys/resource.h>
 
 #include <atomic>
 #include <future>
@@ -92,6 +95,65 @@ TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
     BASE_ERROR("seen all the same");
     Base::CLog::Instance().UninitLog();
     EXPECT_NE(testing::internal::GetCapturedStderr().find("ERROR root seen all the same"), std::string::npos);
+}
+
+struct BadSettings
+{
+    const char* name;
+    const char* text;
+    const char* reason;
+};
+
+/// One line says so, and the installed settings hold.
+TEST(TheLog, FollowsTheInstalledSettingsWhenTheUsersGiveNone)
+{
+    const BadSettings rows[] = {
+        {"empty", "", "it sets up no appender for the root logger"},
+        {"noise", "\1\xff=\n\n=\xfe\\", "it sets up no appender for the root logger"},
+        {"unknown class", "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.NoAppender\n",
+         "it sets up no appender for the root logger"},
+        {"no such place",
+         "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.FileAppender\n"
+         "log4j.appender.F.layout=org.apache.log4j.SimpleLayout\nlog4j.appender.F.File=/proc/no/file\n",
+         "the file [/proc/no/file] cannot be written"},
+    };
+    for (const BadSettings& row : rows) {
+        TestDataRoot root;
+        const std::string bad = root.Path() + "bad.properties";
+        Base::FileUtil::WriteFileAtomically(bad, row.text);
+        testing::internal::CaptureStderr();
+        EXPECT_FALSE(Base::CLog::Instance().InitLog(bad, FileLog(root.Path()))) << row.name;
+        BASE_ERROR("seen all the same");
+        Base::CLog::Instance().UninitLog();
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("Log: [" + bad +
+                                                              "] cannot be followed: " + row.reason + ".\n"),
+                  std::string::npos)
+            << row.name;
+        EXPECT_NE(Content(root.Path() + "out.log").find("seen all the same"), std::string::npos) << row.name;
+    }
+}
+
+TEST(TheLog, SaysHowManyLinesCouldNotBeWritten)
+{
+    TestDataRoot root;
+    Base::ProcessUtil::FailWritesInsteadOfEnding();
+    ASSERT_TRUE(Base::CLog::Instance().InitLog(FileLog(root.Path())));
+    BASE_INFO("before");
+    rlimit before;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit none{0, before.rlim_max};
+    testing::internal::CaptureStderr();
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+    for (int i = 0; i < 3; ++i)
+        BASE_INFO("lost");
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    testing::internal::GetCapturedStderr();
+    BASE_INFO("after");
+    Base::CLog::Instance().UninitLog();
+    const std::string text = Content(root.Path() + "out.log");
+    EXPECT_EQ(text.find("|lost"), std::string::npos) << text;
+    EXPECT_NE(text.find("|Here 3 lines are missing that could not be written.\nINFO|"), std::string::npos)
+        << text;
 }
 
 TEST(TheLog, KeepsLongMessagesUpToItsLimit)

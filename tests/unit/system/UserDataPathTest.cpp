@@ -116,7 +116,7 @@ TEST_F(UserDataPath, WhatCannotBeUsedIsRefusedWithOneLineAndLogsToStandardError)
     Touch(m_data.Path() + "file");
     const Row rows[] = {
         {m_data.Path() + "file", "Video.C",
-         "User data: cannot write in [" + m_data.Path() + "file/]: File exists.\n"},
+         "User data: cannot write in [" + m_data.Path() + "file/]: Not a directory.\n"},
         {"/proc/vantor", "Video.C",
          "User data: cannot write in [/proc/vantor/]: No such file or directory.\n"},
         {m_data.Path(), "../Video.C", "User data: [../Video.C] is not the name of a component.\n"},
