@@ -13,6 +13,7 @@
 
 #include <QDebug>
 #include <QDir>
+#include <QOpenGLContext>
 
 #include <clocale>
 #include <future>
@@ -45,18 +46,38 @@ void AddPluginPath()
     QCoreApplication::addLibraryPath(dir);
 }
 
+constexpr const char* kOpenGLChoice = "QT_XCB_GL_INTEGRATION";
+
+/// No window is painted by OpenGL. Qt's window system would bring it up all the same for the first window,
+/// which takes as long as half of the start. To be called while there are no other threads, whose look into
+/// the environment could meet the change. False when the user has chosen.
+bool LeaveOpenGLAside()
+{
+    return !qEnvironmentVariableIsSet(kOpenGLChoice) && qputenv(kOpenGLChoice, "none");
+}
+
+/// The window system has read the choice afterwards; programs that this one starts are not bound by it.
+void TakeBackOpenGLChoice()
+{
+    (void)QOpenGLContext::supportsThreadedOpenGL(); // reads it
+    qunsetenv(kOpenGLChoice);
+}
+
 using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
 
 /// False when the component cannot run; the application is then as far as it came.
 bool StartUp(int& argc, char** argv, std::future<void>& crashSetup, ApplicationPtr& application)
 {
     try {
+        const bool withoutOpenGL = LeaveOpenGLAside();
         crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
         BASE_INFO("InitSysParameter:in0");
         UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
         application = MakeApplication(argc, argv);
         Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
         AddPluginPath();
+        if (withoutOpenGL)
+            TakeBackOpenGLChoice();
         return application->Init();
     } catch (const std::system_error& error) {
         BASE_FATAL("The system refuses a thread or another thing that the component needs: %s.",
