@@ -13,7 +13,6 @@
 
 #include <QDebug>
 #include <QDir>
-#include <QOpenGLContext>
 
 #include <clocale>
 #include <future>
@@ -46,21 +45,14 @@ void AddPluginPath()
     QCoreApplication::addLibraryPath(dir);
 }
 
-constexpr const char* kOpenGLChoice = "QT_XCB_GL_INTEGRATION";
-
 /// No window is painted by OpenGL. Qt's window system would bring it up all the same for the first window,
-/// which takes as long as half of the start. To be called while there are no other threads, whose look into
-/// the environment could meet the change. False when the user has chosen.
-bool LeaveOpenGLAside()
+/// which takes as long as half of the start. A user's own choice stays. To be called while there are no other
+/// threads, whose look into the environment could meet the change.
+void LeaveOpenGLAside()
 {
-    return !qEnvironmentVariableIsSet(kOpenGLChoice) && qputenv(kOpenGLChoice, "none");
-}
-
-/// The window system has read the choice afterwards; programs that this one starts are not bound by it.
-void TakeBackOpenGLChoice()
-{
-    (void)QOpenGLContext::supportsThreadedOpenGL(); // reads it
-    qunsetenv(kOpenGLChoice);
+    constexpr const char* kChoice = "QT_XCB_GL_INTEGRATION";
+    if (!qEnvironmentVariableIsSet(kChoice))
+        Base::ProcessUtil::SetEnvironment(kChoice, "none");
 }
 
 using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
@@ -69,15 +61,13 @@ using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
 bool StartUp(int& argc, char** argv, std::future<void>& crashSetup, ApplicationPtr& application)
 {
     try {
-        const bool withoutOpenGL = LeaveOpenGLAside();
+        LeaveOpenGLAside();
         crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
         BASE_INFO("InitSysParameter:in0");
         UiDataController::CHighDPIMgr::doHighDPI(argc, argv);
         application = MakeApplication(argc, argv);
         Base::ProcessUtil::OnEndRequest([] { emit video::CSignalTransmit::Instance().SignalQuit(); });
         AddPluginPath();
-        if (withoutOpenGL)
-            TakeBackOpenGLChoice();
         return application->Init();
     } catch (const std::system_error& error) {
         BASE_FATAL("The system refuses a thread or another thing that the component needs: %s.",
