@@ -324,6 +324,15 @@ TEST_F(ResolvedReport, TakesNoFileOfAnotherBuild)
     EXPECT_THAT(text, ContainsRegex("/crash_child is another build"));
 }
 
+TEST_F(ResolvedReport, ThatWasCutSaysSo)
+{
+    Crash({"null-write"});
+    const fs::path report = Reports().at(0);
+    fs::resize_file(report, Get(report).find("\nmodules:\n"));
+    EXPECT_THAT(Resolve(), ContainsRegex("#0 [^\n]*WriteToNull.*the report was cut\n"));
+    EXPECT_EQ(exitCode, 1);
+}
+
 TEST_F(ResolvedReport, IsRefusedForAnythingElse)
 {
     fs::create_directories(Folder());
