@@ -211,10 +211,18 @@ TEST_F(CrashReport, FullTypeReadsNoMoreOfAStackThanThereIs)
     EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
 }
 
+TEST_F(CrashReport, FullTypeShowsNothingOfWhatLiesBehindAStack)
+{
+    Crash({"markers-behind", "full"});
+    const std::string contents = Section("stack contents");
+    EXPECT_THAT(contents, ContainsRegex("\n  0x[0-9a-f]{16}: 0x[^\n]*\n"));
+    EXPECT_THAT(contents, Not(HasSubstr("0x5ca1ab1e0ddba110")));
+}
+
 TEST_F(CrashReport, FullTypeSurvivesAStackPointerThatPointsNowhere)
 {
     EXPECT_EQ(Crash({"lost-stack", "full"}).Signal(), SIGILL);
-    EXPECT_THAT(Section("stack contents"), HasSubstr("(no more memory can be read there)"));
+    EXPECT_THAT(Section("stack contents"), HasSubstr("(there is no more of the stack)"));
     EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
 }
 
