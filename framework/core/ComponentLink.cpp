@@ -95,7 +95,8 @@ void CComponentLink::OnClientConnected(lpcserver::ClientId client, const std::st
     if (name != lpc::kVideoComponentName)
         return;
     if (m_component != 0) {
-        BASE_WARN("A second client has the component's name; it is not taken for it.");
+        BASE_LIMITED(Base::CFaultLimit, BASE_WARN, "%s",
+                     "A second client has the component's name; it is not taken for it.");
         return;
     }
     m_component = client;

@@ -134,7 +134,7 @@ bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, cons
 void CLPCClientPackage::RegisterAlarm()
 {
     if (commlayer::CRegisterAlarm::request())
-        BASE_INFO("Register alarm success.");
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "%s", "Register alarm success.");
     else
         BASE_ERROR_TO(kLogger, "Failed to register alarm.");
 }
