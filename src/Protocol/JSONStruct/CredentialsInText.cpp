@@ -149,7 +149,7 @@ std::size_t EndOfBracketed(std::string_view text, std::size_t open)
 {
     std::size_t depth = 0;
     for (std::size_t at = open; at < text.size(); ++at) {
-        if (text[at] == '"') {
+        if (IsOneOf(text[at], "\"'")) {
             at = ClosingQuote(text, at);
         } else if (IsOneOf(text[at], "{[")) {
             ++depth;
@@ -184,8 +184,8 @@ bool EndsInQuotedCredentialKey(std::string_view text)
     const std::size_t depth = BackslashesAtEnd(text);
     text.remove_suffix(depth);
     const std::size_t open = text.rfind(quote);
-    return open == std::string_view::npos || BackslashesAtEnd(text.substr(0, open)) != depth ||
-           IsCredentialKey(std::string(text.substr(open + 1)));
+    const bool isSure = open == std::string_view::npos || BackslashesAtEnd(text.substr(0, open)) == depth;
+    return !isSure || IsCredentialKey(std::string(text.substr(open + 1)));
 }
 
 /// Whether the text ends in the key of a credential: a quoted one, or a word.
