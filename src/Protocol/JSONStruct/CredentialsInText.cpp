@@ -6,6 +6,7 @@
 #include <charconv>
 #include <numeric>
 #include <string>
+#include <utility>
 
 namespace protocol {
 
@@ -43,8 +44,7 @@ std::size_t SkipBlanks(std::string_view text, std::size_t from)
     return std::min(text.find_first_not_of(kBlanks, from), text.size());
 }
 
-// ---- what a string says
-// ---------------------------------------------------------------------------------------
+// ---- what a string says ----
 
 /// The text that is logged, or what a string inside it says.
 struct Text
@@ -115,8 +115,7 @@ std::size_t ClosingQuote(std::string_view text, std::size_t open)
     return text.size();
 }
 
-// ---- keys and values
-// ------------------------------------------------------------------------------------------
+// ---- keys and values ----
 
 /// Whether the key names a credential, also when it does so only without its escapes.
 bool IsCredentialKey(std::string key)
@@ -200,8 +199,7 @@ bool EndsInCredentialKey(std::string_view text)
     return IsCredentialKey(std::string(text.substr(begin)));
 }
 
-// ---- the search
-// -----------------------------------------------------------------------------------------------
+// ---- the search ----
 
 class CSearch
 {
