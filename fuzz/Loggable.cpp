@@ -12,6 +12,8 @@
 
 #include <boost/locale/utf.hpp>
 
+#include <cctype>
+
 namespace {
 
 using protocol::json::Attach;
