@@ -97,13 +97,6 @@ void LogNotServed(const LPCCallBackData& data)
     LogNotServed(data.Header(kMethodHeader).c_str());
 }
 
-void LogNoWindow()
-{
-    static Base::CFaultLimit limit;
-    if (const auto skipped = limit.Next())
-        BASE_ERROR("Get wnd id Error.%s", skipped->c_str());
-}
-
 } // namespace
 
 CSignalTransmit::CSignalTransmit(CWndIdManager& windows, CCurrentUser& user, ReplyMethod reply)
@@ -163,7 +156,7 @@ void CSignalTransmit::OnSignalGetWnd(const LPCCallBackData& data)
         return;
     int wid = 0;
     if (!m_windows.GetWID(request.type, wid)) {
-        LogNoWindow();
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "%s", "Get wnd id Error.");
         return;
     }
     BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Get wnd Success id:[%d].", wid);

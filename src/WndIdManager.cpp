@@ -1,6 +1,7 @@
 #include "WndIdManager.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "ui/System/SystemconfigUIManager.h"
 
 #include <algorithm>
@@ -77,7 +78,7 @@ bool CWndIdManager::GetMainViewWID(int& wid)
         return false;
     if (isNew)
         BASE_INFO("Init Preview Success.");
-    BASE_INFO("Get MainView WndId Success.");
+    BASE_LIMITED(Base::CCallLimit, BASE_INFO, "%s", "Get MainView WndId Success.");
     return true;
 }
 

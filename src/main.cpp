@@ -45,12 +45,23 @@ void AddPluginPath()
     QCoreApplication::addLibraryPath(dir);
 }
 
+/// No window is painted by OpenGL. Qt's window system would bring it up all the same for the first window,
+/// which takes as long as half of the start. A user's own choice stays. To be called while there are no other
+/// threads, whose look into the environment could meet the change.
+void LeaveOpenGLAside()
+{
+    constexpr const char* kChoice = "QT_XCB_GL_INTEGRATION";
+    if (!qEnvironmentVariableIsSet(kChoice))
+        Base::ProcessUtil::SetEnvironment(kChoice, "none");
+}
+
 using ApplicationPtr = std::unique_ptr<video::CVantorApplication>;
 
 /// False when the component cannot run; the application is then as far as it came.
 bool StartUp(int& argc, char** argv, std::future<void>& crashSetup, ApplicationPtr& application)
 {
     try {
+        LeaveOpenGLAside();
         crashSetup = Base::RunAsync("crash-setup", video::crashAPIInit);
         BASE_INFO("InitSysParameter:in0");
         UiDataController::CHighDPIMgr::doHighDPI(argc, argv);

@@ -1,4 +1,5 @@
 // Measures calls of the real component from request to reply, beside the same bytes over the bare channel.
+// This program, which asks, is placed as the client, and the process that answers as the server.
 
 #include "support/ComponentHost.h"
 #include "support/Placement.h"
@@ -64,11 +65,13 @@ class CBareServer : lpcserver::IServerEvents
 {
 public:
     /// answer: the body of all answers.
-    explicit CBareServer(const std::string& answer)
+    CBareServer(const std::string& answer, bench::Placement placement)
     {
+        if (m_server.Start(kBareServer) != lpc::kNoError)
+            Fail("listening");
+        const bench::CPlacedServer placed(placement);
         std::string error;
-        if (m_server.Start(kBareServer) != lpc::kNoError ||
-            !m_client.Start({Base::FileUtil::GetCurExeDir() + "bench_dispatch", "--answer", answer}, {},
+        if (!m_client.Start({Base::FileUtil::GetCurExeDir() + "bench_dispatch", "--answer", answer}, {},
                             error))
             Fail("starting the bare channel");
         std::unique_lock<std::mutex> lock(m_mutex);
@@ -116,12 +119,12 @@ CSamples Measure(Channel& channel, const lpc::Message& request, std::size_t call
     return samples;
 }
 
-void Run(const Case& what, const std::string& where, bench::CComponentHost& component, std::size_t calls)
+void Run(const Case& what, bench::Placement placement, bench::CComponentHost& component, std::size_t calls)
 {
-    const std::string name = what.name + where;
+    const std::string name = std::string(what.name) + bench::PlacementName(placement);
     const std::string answer = component.Ask(what.request).body; // also makes the page
     CSamples bare = [&] {
-        CBareServer channel(answer);
+        CBareServer channel(answer, placement);
         return Measure(channel, what.request, calls);
     }();
     CSamples served = Measure(component, what.request, calls);
@@ -140,13 +143,17 @@ int main(int argc, char** argv)
     if (argc == 3 && std::strcmp(argv[1], "--answer") == 0)
         return AnswerAll(argv[2]);
     const std::size_t calls = argc > 1 && std::strcmp(argv[1], "--quick") == 0 ? 200 : 2000;
-    for (const bench::Placement placement : {bench::Placement::Free, bench::Placement::OneCpu}) {
-        bench::PlaceClient(placement); // what it starts stays there too
+    using bench::Placement;
+    for (const Placement placement : {Placement::Free, Placement::OneCpu, Placement::TwoCpus}) {
+        bench::PlaceClient(placement);
         const bench::CFreshRoot root;
         bench::CComponentHost component;
-        component.Start();
+        {
+            const bench::CPlacedServer placed(placement);
+            component.Start();
+        }
         for (const Case& what : kCases)
-            Run(what, bench::PlacementName(placement), component, calls);
+            Run(what, placement, component, calls);
     }
     return 0;
 }

@@ -11,9 +11,24 @@ enum class Placement { Free, OneCpu, TwoCpus };
 /// "", "@1cpu" or "@2cpu".
 const char* PlacementName(Placement placement);
 
-/// Binds the calling process: the client to processor 0, the server to 0 or 1.
+/// Binds the calling thread, and the threads and processes that it starts from then on: the client to
+/// processor 0, the server to 0 or 1.
 void PlaceClient(Placement placement);
 void PlaceServer(Placement placement);
+
+/// What the calling thread starts while this object lives is placed as the server, what it starts later as
+/// the client.
+class CPlacedServer
+{
+public:
+    explicit CPlacedServer(Placement placement) : m_placement(placement) { PlaceServer(placement); }
+    ~CPlacedServer() { PlaceClient(m_placement); }
+    CPlacedServer(const CPlacedServer&) = delete;
+    CPlacedServer& operator=(const CPlacedServer&) = delete;
+
+private:
+    const Placement m_placement;
+};
 
 /// A second process that runs a function and is ended with this object.
 class CSecondProcess

@@ -12,6 +12,12 @@ void CSamples::Tick()
     m_last = now;
 }
 
+void CSamples::Add(std::chrono::nanoseconds time)
+{
+    m_times.push_back(std::chrono::duration<double, std::micro>(time).count());
+    m_last += std::chrono::duration_cast<Clock::duration>(time);
+}
+
 double CSamples::Quantile(double part)
 {
     const auto at =

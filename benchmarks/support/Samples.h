@@ -18,6 +18,8 @@ public:
     void Begin() { m_start = m_last = Clock::now(); }
     /// One call is done.
     void Tick();
+    /// One call that took this long; instead of Begin and Tick.
+    void Add(std::chrono::nanoseconds time);
     /// The whole is done; without it the last tick counts.
     void End() { m_last = Clock::now(); }
 

@@ -3,6 +3,7 @@
 #include "Base/Log.h"
 #include "Base/RateLimit.h"
 #include "LPC_Forward/Answer.h"
+#include "LPC_Wire/HeaderCodec.h"
 #include "LPC_Wire/Limits.h"
 #include "LPC_Wire/WellKnownNames.h"
 #include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
@@ -23,10 +24,10 @@ namespace route = protocol::route;
 /// channels of all devices, in 640 KiB.
 constexpr std::size_t kBodyLimit = lpc::kMiB;
 
-/// Of requests that nobody has served yet; more are answered with "try again". Each counts its body and as
-/// much more that a thousand without body fit.
+/// Of requests that nobody has served yet; more are answered with "try again". Each counts its headers and
+/// body, and at least so much that no more than a thousand wait.
 constexpr std::size_t kMostWaitingBytes = 16 * lpc::kMiB;
-constexpr std::size_t kBytesOfRequest = kMostWaitingBytes / 1000;
+constexpr std::size_t kLeastBytesOfRequest = kMostWaitingBytes / 1000;
 
 constexpr const char* kAlarmMessage = "alarmMessage";
 
@@ -95,7 +96,8 @@ void CComponentLink::OnClientConnected(lpcserver::ClientId client, const std::st
     if (name != lpc::kVideoComponentName)
         return;
     if (m_component != 0) {
-        BASE_WARN("A second client has the component's name; it is not taken for it.");
+        BASE_LIMITED(Base::CFaultLimit, BASE_WARN, "%s",
+                     "A second client has the component's name; it is not taken for it.");
         return;
     }
     m_component = client;
@@ -139,12 +141,13 @@ void CComponentLink::ServeLater(lpcserver::ClientId client, const lpc::CallBackD
 {
     if (data.body.size() > kBodyLimit)
         return Reply(client, data.requestId, Failed(413, "The body is larger than 1 MiB."));
-    const std::size_t bytes = data.body.size() + kBytesOfRequest;
-    const auto serve = [this, client, data, bytes] {
+    const std::size_t bytes =
+        std::max(kLeastBytesOfRequest, lpc::EncodedHeaderBytes(data.headers) + data.body.size());
+    auto serve = [this, client, data, bytes] {
         m_waitingBytes -= bytes;
         Serve(client, data);
     };
-    if ((m_waitingBytes += bytes) > kMostWaitingBytes || !m_worker.PostTask(serve)) {
+    if ((m_waitingBytes += bytes) > kMostWaitingBytes || !m_worker.PostTask(std::move(serve))) {
         m_waitingBytes -= bytes;
         Reply(client, data.requestId, lpcforward::MakeAnswer(503, lpc::kTryAgain, {}));
     }

@@ -16,12 +16,10 @@ std::optional<DataEncryption> ReadOrExplain(const CDataEncryptionConfig& setup, 
 {
     auto encryption = setup.Read();
     if (!encryption)
-        error =
-            "The data-encryption setup \"" + setup.File() +
-            "\" cannot be read; the log says why. The databases can be opened with it only. Unlock the "
-            "keyring "
-            "if its key lies there; else put it and the file of the same name ending in \".key\" back from a "
-            "backup, or move both and the databases away to begin anew.";
+        error = "The data-encryption setup \"" + setup.File() +
+                "\" cannot be read; the log says why. The databases can be opened with it only. Unlock the "
+                "keyring if its key lies there; else put it and the file of the same name ending in "
+                "\".key\" back from a backup, or move both and the databases away to begin anew.";
     return encryption;
 }
 

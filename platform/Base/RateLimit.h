@@ -98,7 +98,8 @@ using CCallLimit = CLineLimit<100>;
 } // namespace Base
 
 /// Writes a line of Base/Log.h as far as the limit allows, with the suffix about skipped ones; there must be
-/// an argument besides the format. The arguments are evaluated only for lines that are written.
+/// an argument besides the format: a fixed text is written by "%s". The arguments are evaluated only for
+/// lines that are written.
 ///
 ///     BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "There is no window [%s] to show.", name.c_str());
 #define BASE_LIMITED(Limit, log, format, ...)                                                                \

@@ -17,7 +17,7 @@ bool IsLetterOrDigit(char c)
 bool CanAskFor(const std::string& name, std::string& why)
 {
     if (!IsOffered())
-        why = "there is no keyring in this session";
+        why = "there is no keyring here";
     else if (!IsName(name))
         why = "it is no name of an entry";
     else

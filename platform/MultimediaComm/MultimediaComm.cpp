@@ -1,25 +1,30 @@
 #include "MultimediaComm/MultimediaComm.h"
 
+#include "Base/FileUtil.h"
 #include "Base/Log.h"
+#include "MultimediaComm/HardwareProbe.h"
 
-extern "C" {
-#include <libavcodec/avcodec.h>
-#include <libavutil/hwcontext.h>
-#include <libavutil/log.h>
-}
+#define BOOST_DLL_USE_STD_FS
+#include <boost/dll/shared_library.hpp>
+#include <boost/dll/shared_library_load_mode.hpp>
 
-#include <algorithm>
+#include <filesystem>
 #include <mutex>
 #include <optional>
+#include <system_error>
 
 namespace multimediacomm {
 
 namespace {
 
+using Library = boost::dll::shared_library;
+
 struct Probed
 {
     std::mutex mutex;
+    bool allowed = false;
     std::optional<std::vector<HardwareDecoder>> decoders;
+    Library library; ///< stays loaded: drivers that it opened may have threads of their own
 };
 
 /// Never destroyed: the worker that probes may outlive main.
@@ -29,47 +34,23 @@ Probed& State()
     return *state;
 }
 
-/// Keeps the multimedia library from printing what a failed probe means to it.
-class QuietLibrary
+std::filesystem::path LibraryPath()
 {
-public:
-    QuietLibrary() : m_level(av_log_get_level()) { av_log_set_level(AV_LOG_QUIET); }
-    ~QuietLibrary() { av_log_set_level(m_level); }
-    QuietLibrary(const QuietLibrary&) = delete;
-    QuietLibrary& operator=(const QuietLibrary&) = delete;
-
-private:
-    int m_level;
-};
-
-std::vector<AVHWDeviceType> DecodingDeviceTypes()
-{
-    std::vector<AVHWDeviceType> types;
-    for (const AVCodecID codec : {AV_CODEC_ID_H264, AV_CODEC_ID_HEVC}) {
-        const AVCodec* decoder = avcodec_find_decoder(codec);
-        for (int i = 0; const AVCodecHWConfig* config = decoder ? avcodec_get_hw_config(decoder, i) : nullptr;
-             ++i)
-            if (std::find(types.begin(), types.end(), config->device_type) == types.end())
-                types.push_back(config->device_type);
-    }
-    return types;
+    const std::filesystem::path bare = std::filesystem::path(Base::FileUtil::GetCurExeDir()) / ".." /
+                                       "plugins" / "multimedia" / "MultimediaProbe";
+    return Library::decorate(bare);
 }
 
-bool CanOpen(AVHWDeviceType type)
+bool Load(Library& library)
 {
-    AVBufferRef* device = nullptr;
-    const bool opened = av_hwdevice_ctx_create(&device, type, nullptr, nullptr, 0) >= 0;
-    av_buffer_unref(&device);
-    return opened;
-}
-
-std::vector<HardwareDecoder> Probe()
-{
-    const QuietLibrary quiet;
-    std::vector<HardwareDecoder> decoders;
-    for (const AVHWDeviceType type : DecodingDeviceTypes())
-        decoders.push_back({av_hwdevice_get_type_name(type), CanOpen(type)});
-    return decoders;
+    std::error_code error;
+    if (!library.is_loaded())
+        library.load(LibraryPath(), error);
+    if (!error && library.has(kProbeHardware))
+        return true;
+    BASE_ERROR("Hardware decoding: the library [%s] cannot be loaded: %s.", LibraryPath().string().c_str(),
+               error.message().c_str());
+    return false;
 }
 
 std::string Summary(const std::vector<HardwareDecoder>& decoders)
@@ -84,28 +65,47 @@ std::string Summary(const std::vector<HardwareDecoder>& decoders)
            "; no device: " + (missing.empty() ? "none" : missing);
 }
 
+std::vector<HardwareDecoder> Probe(Library& library)
+{
+    std::vector<HardwareDecoder> decoders;
+    if (!Load(library))
+        return decoders;
+    library.get<ProbeHardware>(kProbeHardware)(
+        [](void* found, const char* name, bool usable) {
+            static_cast<std::vector<HardwareDecoder>*>(found)->push_back({name, usable});
+        },
+        &decoders);
+    BASE_INFO("Hardware decoding, %s.", Summary(decoders).c_str());
+    return decoders;
+}
+
 } // namespace
 
 bool Init()
 {
     std::lock_guard<std::mutex> lock(State().mutex);
-    if (!State().decoders) {
-        State().decoders = Probe();
-        BASE_INFO("Hardware decoding, %s.", Summary(*State().decoders).c_str());
-    }
-    return !State().decoders->empty();
+    std::error_code error;
+    State().allowed = std::filesystem::is_regular_file(LibraryPath(), error);
+    if (!State().allowed)
+        BASE_ERROR("Hardware decoding: there is no library [%s].", LibraryPath().string().c_str());
+    return State().allowed;
 }
 
 void UnInit()
 {
     std::lock_guard<std::mutex> lock(State().mutex);
+    State().allowed = false;
     State().decoders.reset();
 }
 
 std::vector<HardwareDecoder> HardwareDecoders()
 {
     std::lock_guard<std::mutex> lock(State().mutex);
-    return State().decoders.value_or(std::vector<HardwareDecoder>());
+    if (!State().allowed)
+        return {};
+    if (!State().decoders)
+        State().decoders = Probe(State().library);
+    return *State().decoders;
 }
 
 } // namespace multimediacomm

@@ -13,16 +13,17 @@ struct HardwareDecoder
     bool usable; ///< A device of this kind could be opened.
 };
 
-/// Looks once which devices can be opened and writes one line to the log. Takes a few milliseconds for each
-/// kind where there is no device, and up to a second where there is one, so it belongs on a worker thread.
-/// False when the library knows no kind at all; a machine without any device is a success.
+/// Allows HardwareDecoders to look. Takes no time, so that a start may wait for it. False, with one log line,
+/// when the library that looks is not there.
 bool Init();
 
-/// Forgets what Init found.
+/// Forgets what was found; nothing is looked for until the next Init.
 void UnInit();
 
 /// Every kind that was looked for, in the library's order of preference; empty before Init and after UnInit.
-/// Waits for an Init that is under way.
+/// The first call after Init loads the multimedia library, looks which devices can be opened, and writes one
+/// line to the log; that takes up to a second, so it belongs on a worker thread. Others wait for it
+/// meanwhile.
 std::vector<HardwareDecoder> HardwareDecoders();
 
 } // namespace multimediacomm

@@ -134,6 +134,9 @@ protected:
                             << R"(export VANTOR_USER_DATA=$R/data LOG=$R/data/Video.C/log.properties
                                   export INSTALLED=$BIN/../resources/log.properties
                                   mkdir -p -m 700 $R/data
+                                  # What a program in want finds of fonts must not be kept for the others.
+                                  export XDG_CACHE_HOME=$R/cache FONTS=/var/cache/fontconfig
+                                  mount --bind $FONTS $FONTS && mount -o remount,bind,ro $FONTS
                                   )"
                             << "HOSTED='" << Hosted() << "'\nset -- timeout -s KILL 40 " << Command() << '\n'
                             << "( " << Prepare() << '\n'

@@ -26,7 +26,7 @@ constexpr int kMessages = 50000;
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 constexpr long kMemoryKiB = 2 * 1024 * 1024; // the sanitizers' own bookkeeping counts too
 #else
-constexpr long kMemoryKiB = 160 * 1024;
+constexpr long kMemoryKiB = 128 * 1024;
 #endif
 constexpr std::uintmax_t kLogBytes = 512 * 1024;
 
@@ -53,6 +53,7 @@ std::vector<lpc::Message> Kinds()
         return lpc::HeaderMap{{"protocol", "http"}, {"url", url}};
     };
     return {WithData("frameworkMove", R"({"x":1,"y":2})"),
+            WithData("getWndHandle", R"({"type":"MainView"})"), // good, but nobody waits for the answer
             Method("getWndHandle", "no JSON, password=hunter2"),
             Method("getWndHandle", Deep()),
             Method("showWnd", "{\"method\":\"showWnd\",\"data\":{\"type\":\"\xC0\xAF\"}}"),
@@ -65,6 +66,7 @@ std::vector<lpc::Message> Kinds()
             WithData("nobodyKnowsThis", "{}"),
             {websocket,
              R"({"guid":"1","type":"nobodyWantsThis","data":{"text":")" + std::string(2000, 't') + R"("}})"},
+            {websocket, R"({"guid":")" + std::string(2000, 'g') + R"(","type":"deviceAdd","data":{}})"},
             {websocket, Deep()},
             {websocket, "{\"type\":\"\xFF\"}"},
             {websocket, ""},

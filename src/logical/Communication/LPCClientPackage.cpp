@@ -27,19 +27,16 @@ Result LoggedSend(Result result)
     return result;
 }
 
-/// A message that is under way, counted.
-struct CountedCall
+/// Counts the tasks that live.
+struct CountedTask : CDispatchTask
 {
-    CountedCall(const lpcclient::LPCCallBackData& call, std::shared_ptr<std::atomic<std::uint64_t>> count)
-        : data(call), underWay(std::move(count))
+    CountedTask(const lpcclient::LPCCallBackData& call, std::shared_ptr<std::atomic<std::uint64_t>> count)
+        : CDispatchTask(call), underWay(std::move(count))
     {
         ++*underWay;
     }
-    ~CountedCall() { --*underWay; }
-    CountedCall(const CountedCall&) = delete;
-    CountedCall& operator=(const CountedCall&) = delete;
+    ~CountedTask() { --*underWay; }
 
-    const lpcclient::LPCCallBackData data;
     const std::shared_ptr<std::atomic<std::uint64_t>> underWay;
 };
 
@@ -137,7 +134,7 @@ bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, cons
 void CLPCClientPackage::RegisterAlarm()
 {
     if (commlayer::CRegisterAlarm::request())
-        BASE_INFO("Register alarm success.");
+        BASE_LIMITED(Base::CCallLimit, BASE_INFO, "%s", "Register alarm success.");
     else
         BASE_ERROR_TO(kLogger, "Failed to register alarm.");
 }
@@ -165,12 +162,12 @@ protocol::ComponentStateData CLPCClientPackage::State() const
 bool CLPCClientPackage::OnInvoke(const lpcclient::LPCCallBackData& data)
 {
     ++m_taken;
-    const auto counted = std::make_shared<const CountedCall>(data, m_underWay);
-    auto task = [this, call = CLPCDispatcher::Call(counted, &counted->data)] { m_dispatcher.Dispatch(call); };
-    if (data.Header(kProtocolHeader) == kHttpProtocol)
-        m_postTask(std::move(task));
+    const DispatchTaskPtr task = std::make_shared<CountedTask>(data, m_underWay);
+    auto dispatch = [this, task] { m_dispatcher.Dispatch(task); };
+    if (task->protocol == kHttpProtocol)
+        m_postTask(std::move(dispatch));
     else
-        m_inOrder.PostTask(std::move(task));
+        m_inOrder.PostTask(std::move(dispatch));
     return true;
 }
 

@@ -3,7 +3,6 @@
 #include "Base/Log.h"
 #include "Base/RateLimit.h"
 #include "Protocol/JSONStruct/LoggableText.h"
-#include "logical/Communication/LPCNames.h"
 
 namespace video {
 
@@ -13,7 +12,7 @@ namespace {
 struct HeldNotification
 {
     protocol::WebSocketNotifyData notification;
-    CLPCDispatcher::Call call;
+    DispatchTaskPtr task;
 };
 
 void ServeFrom(const CRouteTable& table, const std::string& name, const lpcclient::LPCCallBackData& data)
@@ -32,28 +31,27 @@ void CLPCDispatcher::SetWebsocketSinks(NotifySink notifyCenter, LPCHandler webso
     m_alarm = std::move(alarm);
 }
 
-void CLPCDispatcher::Dispatch(const Call& call) const
+void CLPCDispatcher::Dispatch(const DispatchTaskPtr& task) const
 {
-    const std::string protocol = call->Header(kProtocolHeader);
-    if (protocol == kWebsocketProtocol)
-        DispatchWebsocket(call);
-    else if (protocol == kHttpProtocol)
-        ServeFrom(m_http, call->Header(kUrlHeader), *call);
+    if (task->protocol == kWebsocketProtocol)
+        DispatchWebsocket(task);
+    else if (task->protocol == kHttpProtocol)
+        ServeFrom(m_http, task->url, task->data);
     else
-        ServeFrom(m_methods, call->Header(kMethodHeader), *call);
+        ServeFrom(m_methods, task->method, task->data);
 }
 
-void CLPCDispatcher::DispatchWebsocket(const Call& call) const
+void CLPCDispatcher::DispatchWebsocket(const DispatchTaskPtr& task) const
 {
     auto held = std::make_shared<HeldNotification>();
-    held->call = call;
-    if (!held->notification.Parse(call->body))
+    held->task = task;
+    if (!held->notification.Parse(task->data.body))
         return;
     const bool isAlarm = held->notification.type == kAlarmMessageType;
     m_notifyCenter({held, &held->notification});
-    m_websocket(*call);
+    m_websocket(task->data);
     if (isAlarm)
-        m_alarm(*call);
+        m_alarm(task->data);
 }
 
 } // namespace video

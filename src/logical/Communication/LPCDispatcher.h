@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Protocol/JSONStruct/WebSocket/WebSocketCommonJSONStruct.h"
+#include "logical/Communication/DispatchTask.h"
 #include "logical/Communication/RouteTable.h"
 
 #include <functional>
@@ -26,15 +27,10 @@ public:
     /// callback data, and alarm those of the type "alarmMessage". Set all before the link is opened.
     void SetWebsocketSinks(NotifySink notifyCenter, LPCHandler websocket, LPCHandler alarm);
 
-    /// A message on its way. Whatever queues work for a message holds this, or a copy of the data, as long as
-    /// the work waits: what is held counts against the channel's receive queue, and so every queue is
-    /// bounded.
-    using Call = std::shared_ptr<const lpcclient::LPCCallBackData>;
-
-    void Dispatch(const Call& call) const;
+    void Dispatch(const DispatchTaskPtr& task) const;
 
 private:
-    void DispatchWebsocket(const Call& call) const;
+    void DispatchWebsocket(const DispatchTaskPtr& task) const;
 
     CRouteTable m_http;
     CRouteTable m_methods;

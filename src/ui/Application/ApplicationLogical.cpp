@@ -4,6 +4,7 @@
 #include "Base/FileUtil.h"
 #include "Base/Log.h"
 #include "Base/MessageLoop.h"
+#include "Base/RateLimit.h"
 #include "Base/Singleton.h"
 #include "ClientCommonLogical/NotifyCenterManager.h"
 #include "ClientCommonLogical/NotifyTypes.h"
@@ -16,6 +17,7 @@
 #include "MultimediaComm/MultimediaComm.h"
 #include "PlaybackLogical/PlaybackLogical.h"
 #include "PreviewLogical/PreviewLogical.h"
+#include "Protocol/JSONStruct/LoggableText.h"
 #include "SignalTransmit.h"
 #include "UiDataController/LocalLogManager.h"
 #include "UiDataController/RemoteConfigController.h"
@@ -97,7 +99,8 @@ void CVantorApplication::RegisterForNotifications()
     for (const char* type : clientcommon::kResourceNotifyTypes)
         clientcommon::CNotifyCenterManager::Instance().RegisterHandler(
             type, m_anchor.Ref(), [](const protocol::WebSocketNotifyData& notification) {
-                BASE_INFO("Notification [%s] of [%s].", notification.type.c_str(), notification.guid.c_str());
+                BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Notification [%s] of [%s].",
+                             notification.type.c_str(), protocol::LoggableText(notification.guid).c_str());
             });
 }
 

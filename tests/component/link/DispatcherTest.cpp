@@ -32,7 +32,7 @@ struct Served
     std::vector<std::string> Dispatch(const LPCCallBackData& call)
     {
         calls.clear();
-        dispatcher.Dispatch(std::make_shared<const LPCCallBackData>(call));
+        dispatcher.Dispatch(std::make_shared<const video::CDispatchTask>(call));
         return calls;
     }
 
@@ -87,9 +87,10 @@ TEST(ANotification, HoldsItsMessageUntilEverybodyIsDone)
     std::shared_ptr<protocol::WebSocketNotifyData> queued;
     served.dispatcher.SetWebsocketSinks([&](auto notification) { queued = std::move(notification); },
                                         [](const LPCCallBackData&) {}, [](const LPCCallBackData&) {});
-    auto call = std::make_shared<const LPCCallBackData>(Call("websocket", "", "", kOther));
-    const std::weak_ptr<const LPCCallBackData> message = call;
-    served.dispatcher.Dispatch(std::exchange(call, nullptr));
+    video::DispatchTaskPtr task =
+        std::make_shared<const video::CDispatchTask>(Call("websocket", "", "", kOther));
+    const std::weak_ptr<const video::CDispatchTask> message = task;
+    served.dispatcher.Dispatch(std::exchange(task, nullptr));
     ASSERT_TRUE(queued);
     EXPECT_EQ(queued->type, "deviceAdd");
     EXPECT_FALSE(message.expired());

@@ -82,8 +82,8 @@ TEST_F(Keyring, ThatCannotBeUsedSaysWhyAndAsksNobody)
         {"unlocked", Service::Unlocked, "", bus, "no such entry"},
         {"locked", Service::Locked, "", bus, "locked"},
         {"no service", Service::None, "", bus, "service"},
-        {"not wanted", Service::None, "none", bus, "no keyring in this session"},
-        {"no bus", Service::None, "", "autolaunch:", "no keyring in this session"},
+        {"not wanted", Service::None, "none", bus, "no keyring here"},
+        {"no bus", Service::None, "", "autolaunch:", "no keyring here"},
         {"a bus that is gone", Service::None, "", "unix:path=" + m_root.Path() + "gone", "connect"},
         {"a mute bus", Service::None, "", "unix:path=" + m_root.Path() + "mute", "did not answer in time"},
     };

@@ -22,43 +22,43 @@ TEST_F(MultimediaComm, EachKindOfDeviceIsListedOnceAndTheLogSumsThemUp)
     CapturedLog log;
     EXPECT_TRUE(multimediacomm::HardwareDecoders().empty());
     ASSERT_TRUE(multimediacomm::Init());
+    EXPECT_TRUE(log.Lines().empty());
 
     std::set<std::string> names;
+    const std::vector<HardwareDecoder> decoders = multimediacomm::HardwareDecoders();
     const auto lines = log.Messages(Base::LogLevel::Info);
     ASSERT_EQ(lines.size(), 1u);
     const std::size_t border = lines[0].find("; no device: ");
-    for (const HardwareDecoder& decoder : multimediacomm::HardwareDecoders()) {
+    for (const HardwareDecoder& decoder : decoders) {
         EXPECT_TRUE(names.insert(decoder.name).second) << decoder.name;
         EXPECT_EQ(lines[0].find(decoder.name) < border, decoder.usable) << lines[0];
     }
     EXPECT_THAT(names, testing::Contains("vaapi"));
 }
 
-TEST_F(MultimediaComm, SecondInitLooksForNothingAndUnInitForgets)
+TEST_F(MultimediaComm, DevicesAreLookedForOnceUntilUnInitForgetsThem)
 {
     ASSERT_TRUE(multimediacomm::Init());
+    EXPECT_FALSE(multimediacomm::HardwareDecoders().empty());
     CapturedLog log;
     EXPECT_TRUE(multimediacomm::Init());
+    EXPECT_FALSE(multimediacomm::HardwareDecoders().empty());
     EXPECT_TRUE(log.Lines().empty());
     multimediacomm::UnInit();
     multimediacomm::UnInit();
     EXPECT_TRUE(multimediacomm::HardwareDecoders().empty());
     EXPECT_TRUE(multimediacomm::Init());
+    EXPECT_FALSE(multimediacomm::HardwareDecoders().empty());
     EXPECT_EQ(log.Lines().size(), 1u);
 }
 
-TEST_F(MultimediaComm, ThreadsThatAskDuringInitGetAllOrNothing)
+TEST_F(MultimediaComm, ThreadsThatAskAtOnceGetAll)
 {
-    multimediacomm::Init();
-    const std::size_t all = multimediacomm::HardwareDecoders().size();
-    multimediacomm::UnInit();
-    auto probing = std::async(std::launch::async, multimediacomm::Init);
-    for (int i = 0; i < 100; ++i) {
-        const std::size_t seen = multimediacomm::HardwareDecoders().size();
-        EXPECT_TRUE(seen == 0 || seen == all) << seen;
-    }
-    EXPECT_TRUE(probing.get());
-    EXPECT_EQ(multimediacomm::HardwareDecoders().size(), all);
+    ASSERT_TRUE(multimediacomm::Init());
+    auto asking = std::async(std::launch::async, multimediacomm::HardwareDecoders);
+    const std::size_t seen = multimediacomm::HardwareDecoders().size();
+    EXPECT_GT(seen, 0u);
+    EXPECT_EQ(asking.get().size(), seen);
 }
 
 } // namespace
