@@ -19,7 +19,7 @@ using comm_method::CDataEncryptionConfig;
 using comm_method::DataEncryption;
 
 constexpr char kLabel[] = "Vantor.DESetup.1";
-const std::string kKeyText(2 * Encrypt::kKeyBytes, '0'); // AESParams is all zeros at first
+const std::string kKeyText(2 * Encrypt::kKeyBytes, '0');
 
 /// A folder that goes with the program.
 class CFolder
@@ -45,8 +45,7 @@ private:
 
 std::string Document(const std::string& plain)
 {
-    Encrypt::AESParams params;
-    params.label = kLabel;
+    const auto params = Encrypt::ParamsOf(kKeyText, kLabel).value();
     return "<DESetup version=\"1\"><Sealed>" + Encrypt::Seal(params, plain) + "</Sealed></DESetup>";
 }
 

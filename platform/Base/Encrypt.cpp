@@ -9,6 +9,7 @@
 #include <memory>
 #include <mutex>
 #include <stdexcept>
+#include <utility>
 
 namespace Base::Encrypt {
 namespace {
@@ -81,6 +82,18 @@ int HexDigit(char c)
     return -1;
 }
 
+const unsigned char* KeyOf(const AESParams& params)
+{
+    Require(params.key && params.key->size() == kKeyBytes);
+    return Bytes(*params.key);
+}
+
+void WipeAndDelete(std::string* secret)
+{
+    Wipe(*secret);
+    delete secret;
+}
+
 std::optional<std::string> Decrypt(const AESParams& params, const std::string& bytes)
 {
     const int size = static_cast<int>(bytes.size() - kNonceBytes - kTagBytes);
@@ -91,7 +104,7 @@ std::optional<std::string> Decrypt(const AESParams& params, const std::string& b
     const Context context(EVP_CIPHER_CTX_new());
     Require(context != nullptr);
     int written = 0;
-    Require(EVP_DecryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, params.key.data(), nonce) == 1);
+    Require(EVP_DecryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, KeyOf(params), nonce) == 1);
     Require(EVP_DecryptUpdate(context.get(), nullptr, &written, Bytes(params.label),
                               static_cast<int>(params.label.size())) == 1);
     Require(EVP_DecryptUpdate(context.get(), Bytes(plain), &written, cipher, size) == 1);
@@ -105,21 +118,12 @@ std::optional<std::string> Decrypt(const AESParams& params, const std::string& b
 
 } // namespace
 
-AESParams::~AESParams()
-{
-    OPENSSL_cleanse(key.data(), key.size());
-}
-
 std::optional<AESParams> ParamsOf(const std::string& keyText, const std::string& label)
 {
     if (!IsKeyText(keyText))
         return std::nullopt;
     auto bytes = FromHex(keyText);
-    AESParams params;
-    std::copy(bytes->begin(), bytes->end(), params.key.begin());
-    params.label = label;
-    Wipe(*bytes);
-    return params;
+    return AESParams{{new std::string(std::move(*bytes)), WipeAndDelete}, label};
 }
 
 void SetAESParams(const AESParams& params)
@@ -149,8 +153,7 @@ std::string Seal(const AESParams& params, const std::string& plain)
     const Context context(EVP_CIPHER_CTX_new());
     Require(context != nullptr);
     int written = 0;
-    Require(EVP_EncryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, params.key.data(), Bytes(bytes)) ==
-            1);
+    Require(EVP_EncryptInit_ex(context.get(), EVP_aes_256_gcm(), nullptr, KeyOf(params), Bytes(bytes)) == 1);
     Require(EVP_EncryptUpdate(context.get(), nullptr, &written, Bytes(params.label),
                               static_cast<int>(params.label.size())) == 1);
     Require(EVP_EncryptUpdate(context.get(), cipher, &written, Bytes(plain),

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -13,16 +12,14 @@ constexpr std::size_t kNonceBytes = 12;
 constexpr std::size_t kTagBytes = 16;
 
 /// The process-wide parameters of the data encryption. label is authenticated with every text, so that a text
-/// sealed under one label does not open under another. The key is wiped with the object.
+/// sealed under one label does not open under another.
 struct AESParams
 {
-    std::array<std::uint8_t, kKeyBytes> key{};
+    /// kKeyBytes bytes; null without a key, and nothing can then be sealed or opened. They lie on the heap,
+    /// so that no stack holds them, and crash reports do not show them. Copies share them; the last one wipes
+    /// them.
+    std::shared_ptr<const std::string> key;
     std::string label;
-
-    AESParams() = default;
-    AESParams(const AESParams&) = default;
-    AESParams& operator=(const AESParams&) = default;
-    ~AESParams();
 };
 
 /// The parameters made of a key as hexadecimal digits; nothing for a text that is none.
@@ -33,7 +30,8 @@ void SetAESParams(const AESParams& params);
 std::optional<AESParams> GetAESParams();
 void ClearAESParams();
 
-/// nonce, cipher text and tag of the plain text, in base64. A new random nonce each time.
+/// nonce, cipher text and tag of the plain text, in base64. A new random nonce each time. Throws without a
+/// key.
 std::string Seal(const AESParams& params, const std::string& plain);
 
 /// The plain text of what Seal gave; nothing when it was changed, cut, or sealed otherwise.

@@ -108,8 +108,9 @@ bool LogsAs(const std::string& propertiesPath)
     return false;
 }
 
-/// How many lines were lost since one was written last.
+/// How many lines were lost that the log does not tell of yet, and whether standard error tells of them.
 std::atomic<std::size_t> g_lost{0};
+std::atomic<bool> g_told{false};
 
 void WriteLine(const log4cxx::LoggerPtr& logger, LogLevel level, const std::string& message,
                const log4cxx::spi::LocationInfo& place)
@@ -122,8 +123,10 @@ void WriteLine(const log4cxx::LoggerPtr& logger, LogLevel level, const std::stri
                 "Here " + std::to_string(lost) + " lines are missing that could not be written.", place);
         lost = 0;
         logger->forcedLog(Level(level), message, place);
+        g_told = false;
     } catch (const std::exception& error) {
-        if ((g_lost += lost + 1) == 1)
+        g_lost += lost + 1;
+        if (!g_told.exchange(true))
             std::fprintf(stderr, "Log: lines are lost from here on: %s.\n", error.what());
         if (level >= LogLevel::Error)
             std::fprintf(stderr, "%s\n", message.c_str());

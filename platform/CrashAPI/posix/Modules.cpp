@@ -1,62 +1,29 @@
 #include "CrashAPI/posix/Modules.h"
 
-#include "CrashAPI/posix/SafeFiles.h"
+#include "CrashAPI/posix/MemoryMap.h"
 #include "CrashAPI/posix/SafeText.h"
 
 #include <cstring>
 
 namespace crash {
 
-namespace {
-
-/// Takes one hexadecimal number and the character behind it.
-std::uint64_t TakeHex(const char*& text)
-{
-    std::uint64_t value = 0;
-    for (; *text; ++text) {
-        const char* const digits = "0123456789abcdef";
-        const char* const digit = std::strchr(digits, *text);
-        if (!digit)
-            return ++text, value;
-        value = value * 16 + static_cast<std::uint64_t>(digit - digits);
-    }
-    return value;
-}
-
-const char* BehindField(const char* text)
-{
-    while (*text && *text != ' ')
-        ++text;
-    while (*text == ' ')
-        ++text;
-    return text;
-}
-
-} // namespace
-
 void ModuleTable::Gather()
 {
     m_count = m_leftOut = m_textBytes = 0;
-    LineReader map("/proc/self/maps");
-    while (char* line = map.Next())
-        Take(line);
+    MemoryMap map;
+    Mapping mapping;
+    while (map.Next(mapping))
+        Take(mapping);
 }
 
-/// A line: "start-end rwxp offset device inode  path".
-void ModuleTable::Take(char* line)
+void ModuleTable::Take(const Mapping& mapping)
 {
-    const char* at = line;
-    const std::uint64_t start = TakeHex(at);
-    TakeHex(at);
-    const bool runs = std::strlen(at) > 3 && at[2] == 'x';
-    at = BehindField(at);
-    const std::uint64_t offset = TakeHex(at);
-    const char* const path = BehindField(BehindField(at));
+    const char* const path = mapping.path;
     if (*path != '/' && std::strcmp(path, "[vdso]") != 0)
         return;
-    const bool within = m_count > 0 && start < m_modules[m_count - 1].image.end &&
+    const bool within = m_count > 0 && mapping.start < m_modules[m_count - 1].image.end &&
                         std::strcmp(path, m_modules[m_count - 1].path) == 0;
-    if ((within || (offset == 0 && Add(start, path))) && runs)
+    if ((within || (mapping.offset == 0 && Add(mapping.start, path))) && mapping.runs)
         m_modules[m_count - 1].runs = true;
 }
 

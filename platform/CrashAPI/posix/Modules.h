@@ -8,6 +8,8 @@
 
 namespace crash {
 
+struct Mapping;
+
 struct Module
 {
     std::uint64_t start = 0;
@@ -30,7 +32,7 @@ public:
     bool WriteTo(int fd) const;
 
 private:
-    void Take(char* line);
+    void Take(const Mapping& mapping);
     bool Add(std::uint64_t start, const char* path);
     const char* Keep(const char* text);
 

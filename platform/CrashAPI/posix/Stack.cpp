@@ -1,12 +1,15 @@
 #include "CrashAPI/posix/Stack.h"
 
 #include "CrashAPI/posix/Guard.h"
+#include "CrashAPI/posix/MemoryMap.h"
 #include "CrashAPI/posix/SafeMemory.h"
 #include "CrashAPI/posix/SafeText.h"
 
 #include <execinfo.h>
+#include <pthread.h>
 
 #include <algorithm>
+#include <cstring>
 
 namespace crash {
 
@@ -94,6 +97,24 @@ void WriteChain(FrameWriter& writer, const ProgramPlace& place, const ModuleTabl
     }
 }
 
+/// Where the calling thread's stack ends when the address lies in it; else 0. What comes behind it is often
+/// the heap of another thread. The C library keeps its own record of a thread at the end of its stack, and of
+/// the first thread elsewhere.
+std::uint64_t EndOfStack(std::uint64_t address)
+{
+    const auto record = static_cast<std::uint64_t>(::pthread_self());
+    MemoryMap map;
+    Mapping mapping;
+    while (map.Next(mapping)) {
+        if (address < mapping.start || address >= mapping.end)
+            continue;
+        if (record >= address && record < mapping.end)
+            return record;
+        return std::strcmp(mapping.path, "[stack]") == 0 ? mapping.end : 0;
+    }
+    return 0;
+}
+
 } // namespace
 
 bool WriteStack(int fd, const ProgramPlace& place, const ModuleTable& modules)
@@ -127,7 +148,8 @@ void WriteStackContents(int fd, std::uint64_t stackPointer)
     // After an overflow the pointer is in the closed page below the stack.
     for (int i = 0; i < 4 && !ReadMemory(at, words); ++i)
         at = (at / kPage + 1) * kPage;
-    const std::uint64_t end = at + kContentBytes;
+    const std::uint64_t stackEnd = EndOfStack(at);
+    const std::uint64_t end = std::min(at + kContentBytes, stackEnd);
     for (; at < end && ReadMemory(at, words); at += sizeof words) {
         line.Add("  ").AddHex(at, 16).Add(":");
         for (const std::uint64_t word : words)
@@ -135,7 +157,7 @@ void WriteStackContents(int fd, std::uint64_t stackPointer)
         if (!line.Add("\n").WriteTo(fd))
             return;
     }
-    line.Add(at < end ? "(no more memory can be read there)\n" : "(the rest is not shown)\n").WriteTo(fd);
+    line.Add(at < stackEnd ? "(the rest is not shown)\n" : "(there is no more of the stack)\n").WriteTo(fd);
 }
 
 } // namespace crash

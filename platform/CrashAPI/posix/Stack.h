@@ -11,7 +11,8 @@ namespace crash {
 /// be. Safe in a signal handler. False when the file takes no more.
 bool WriteStack(int fd, const ProgramPlace& place, const ModuleTable& modules);
 
-/// The stack's memory from the stack pointer upward, as words of the processor.
+/// The calling thread's stack from the stack pointer upward, as words of the processor; nothing when the
+/// pointer points elsewhere.
 void WriteStackContents(int fd, std::uint64_t stackPointer);
 
 } // namespace crash

@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <cstdio>
@@ -109,6 +110,27 @@ CRASH_FUNCTION void WriteToNullBesideAMarker()
     g_sum = static_cast<int>(marker);
 }
 
+/// On a thread whose stack has memory with markers directly behind it.
+CRASH_FUNCTION void WriteToNullBelowMarkers()
+{
+    constexpr std::size_t kStack = 512 * 1024;
+    constexpr std::size_t kMarkers = 8 * 1024;
+    void* memory = ::mmap(nullptr, kStack + kMarkers * sizeof(std::uint64_t), PROT_READ | PROT_WRITE,
+                          MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    auto* const markers = reinterpret_cast<std::uint64_t*>(static_cast<char*>(memory) + kStack);
+    std::fill(markers, markers + kMarkers, 0x5ca1ab1e0ddba110);
+    pthread_attr_t attributes;
+    ::pthread_attr_init(&attributes);
+    ::pthread_attr_setstack(&attributes, memory, kStack);
+    pthread_t thread;
+    const auto crash = [](void*) -> void* {
+        WriteToNull();
+        return nullptr;
+    };
+    ::pthread_create(&thread, &attributes, crash, nullptr);
+    ::pthread_join(thread, nullptr);
+}
+
 CRASH_FUNCTION void WriteToNullWithTheLoaderLocked()
 {
     std::atomic<bool> locked{false};
@@ -153,6 +175,7 @@ constexpr Way kWays[] = {
     {"null-call", CallNull},
     {"lost-stack", CallLoseStack},
     {"marker", WriteToNullBesideAMarker},
+    {"markers-behind", WriteToNullBelowMarkers},
     {"loader-locked", WriteToNullWithTheLoaderLocked},
     {"late-library", WriteToNullInALateLibrarysProcess},
 };

@@ -211,10 +211,18 @@ TEST_F(CrashReport, FullTypeReadsNoMoreOfAStackThanThereIs)
     EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
 }
 
+TEST_F(CrashReport, FullTypeShowsNothingOfWhatLiesBehindAStack)
+{
+    Crash({"markers-behind", "full"});
+    const std::string contents = Section("stack contents");
+    EXPECT_THAT(contents, ContainsRegex("\n  0x[0-9a-f]{16}: 0x[^\n]*\n"));
+    EXPECT_THAT(contents, Not(HasSubstr("0x5ca1ab1e0ddba110")));
+}
+
 TEST_F(CrashReport, FullTypeSurvivesAStackPointerThatPointsNowhere)
 {
     EXPECT_EQ(Crash({"lost-stack", "full"}).Signal(), SIGILL);
-    EXPECT_THAT(Section("stack contents"), HasSubstr("(no more memory can be read there)"));
+    EXPECT_THAT(Section("stack contents"), HasSubstr("(there is no more of the stack)"));
     EXPECT_THAT(OnlyReport(), EndsWith("\nend of report\n"));
 }
 
@@ -322,6 +330,15 @@ TEST_F(ResolvedReport, TakesNoFileOfAnotherBuild)
     EXPECT_THAT(text, Not(HasSubstr("CrashChild.cpp")));
     EXPECT_THAT(text, ContainsRegex("  #0 WriteToNull\\+0x[0-9a-f]+   \\[crash_child\\+0x"));
     EXPECT_THAT(text, ContainsRegex("/crash_child is another build"));
+}
+
+TEST_F(ResolvedReport, ThatWasCutSaysSo)
+{
+    Crash({"null-write"});
+    const fs::path report = Reports().at(0);
+    fs::resize_file(report, Get(report).find("\nmodules:\n"));
+    EXPECT_THAT(Resolve(), ContainsRegex("#0 [^\n]*WriteToNull.*the report was cut\n"));
+    EXPECT_EQ(exitCode, 1);
 }
 
 TEST_F(ResolvedReport, IsRefusedForAnythingElse)

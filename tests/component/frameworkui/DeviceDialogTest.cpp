@@ -61,7 +61,8 @@ TEST(DeviceForm, SaysWhichFieldsCannotBeTaken)
 struct DeviceDialogTest : testing::Test
 {
     TestDataRoot root;
-    CResources resources{root.Path() + "resources.json", Base::Encrypt::AESParams(),
+    CResources resources{root.Path() + "resources.json",
+                         Base::Encrypt::ParamsOf(Base::Encrypt::RandomKeyText(), "test").value(),
                          [](const ResourceChange&) {}};
 };
 

@@ -4,6 +4,7 @@
 #include "UiDataController/HighDPIMgr.h"
 #include "UiDataController/LocalLogManager.h"
 #include "UiDataController/RemoteConfigController.h"
+#include "UiDataController/ScreenGuard.h"
 #include "UiDataController/SystemStatusMonitor.h"
 #include "VantorGUIToolkit/UiSingleton.h"
 #include "support/CapturedLog.h"
@@ -16,6 +17,7 @@
 #include <QPointer>
 
 #include <atomic>
+#include <csignal>
 #include <filesystem>
 #include <set>
 #include <thread>
@@ -299,4 +301,16 @@ TEST(Logic, PlaybackStartsAndEndsAnyNumberOfTimes)
     Groups groups, other;
     CheckStartAndEnd(PlaybackLogical::CPlaybackLogical::Instance(), groups, other,
                      &PlaybackLogical::CPlaybackLogical::GroupManager);
+}
+
+TEST(ScreenGuardDeathTest, EndsTheProcessInOrderOnlyWhereThereIsNoScreen)
+{
+    constexpr int kExitCode = 7;
+    const auto fail = [](const char* text) {
+        const CScreenGuard guard(kExitCode);
+        qFatal("%s", text);
+    };
+    EXPECT_EXIT(fail("It failed because no Qt platform plugin could be initialized."),
+                testing::ExitedWithCode(kExitCode), "No screen can be used: It failed");
+    EXPECT_EXIT(fail("ASSERT: x"), testing::KilledBySignal(SIGABRT), "ASSERT: x");
 }

@@ -22,10 +22,7 @@ protected:
 
 std::string Sealed(const std::string& keyHex, const std::string& plain)
 {
-    Base::Encrypt::AESParams params;
-    const std::string bytes = Base::Encrypt::FromHex(keyHex).value();
-    std::copy(bytes.begin(), bytes.end(), params.key.begin());
-    params.label = "Vantor.DESetup.1";
+    const auto params = Base::Encrypt::ParamsOf(keyHex, "Vantor.DESetup.1").value();
     return "<DESetup version=\"1\"><Sealed>" + Base::Encrypt::Seal(params, plain) + "</Sealed></DESetup>";
 }
 
@@ -42,7 +39,7 @@ TEST_F(DataEncryptionConfig, ReadsWhatItWrote)
     ASSERT_TRUE(read);
     EXPECT_TRUE(*read == encryption);
     const auto key = read->Params().key;
-    EXPECT_EQ(Base::Encrypt::ToHex(std::string(key.begin(), key.end())), encryption.dataKey);
+    EXPECT_EQ(Base::Encrypt::ToHex(*key), encryption.dataKey);
 }
 
 TEST_F(DataEncryptionConfig, GeneratesDifferentKeysEachTime)

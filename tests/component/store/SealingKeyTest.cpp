@@ -95,7 +95,9 @@ TEST_F(Keyring, ThatCannotBeUsedSaysWhyAndAsksNobody)
         EXPECT_EQ(keyring::Load("name", why), std::nullopt) << row.what;
         EXPECT_THAT(why, HasSubstr(row.why)) << row.what;
         const bool isUnlocked = row.service == Service::Unlocked;
+        why.clear();
         EXPECT_EQ(keyring::Store("name", "Of the test", "hidden", why), isUnlocked) << row.what;
+        EXPECT_THAT(why, HasSubstr(isUnlocked ? "" : row.why)) << row.what;
         EXPECT_EQ(keyring::Remove("name", why), isUnlocked) << row.what;
         EXPECT_THAT(why, Not(HasSubstr("hidden")));
     }

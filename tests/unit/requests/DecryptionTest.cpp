@@ -14,12 +14,7 @@ using Lines = std::vector<std::string>;
 class DeviceCredentials : public ::testing::Test
 {
 protected:
-    DeviceCredentials()
-    {
-        params.key.fill(7);
-        params.label = "devices";
-        Base::Encrypt::SetAESParams(params);
-    }
+    DeviceCredentials() { Base::Encrypt::SetAESParams(params); }
     ~DeviceCredentials() override { Base::Encrypt::ClearAESParams(); }
 
     protocol::DeviceResponseData Device(const std::string& userName, const std::string& password) const
@@ -31,7 +26,8 @@ protected:
         return device;
     }
 
-    AESParams params;
+    const AESParams params =
+        Base::Encrypt::ParamsOf(std::string(2 * Base::Encrypt::kKeyBytes, '7'), "devices").value();
 };
 
 TEST_F(DeviceCredentials, AreOpened)

@@ -8,10 +8,8 @@ namespace {
 
 Encrypt::AESParams ParamsWith(std::uint8_t keyByte, const std::string& label)
 {
-    Encrypt::AESParams params;
-    params.key.fill(keyByte);
-    params.label = label;
-    return params;
+    const std::string bytes(Encrypt::kKeyBytes, static_cast<char>(keyByte));
+    return Encrypt::ParamsOf(Encrypt::ToHex(bytes), label).value();
 }
 
 } // namespace
@@ -75,6 +73,20 @@ TEST(Encrypt, KeepsTheProcessWideParametersUntilTheyAreCleared)
     EXPECT_EQ(Encrypt::GetAESParams()->label, "shared");
     Encrypt::ClearAESParams();
     EXPECT_FALSE(Encrypt::GetAESParams());
+}
+
+TEST(Encrypt, DoesNothingWithoutAKey)
+{
+    EXPECT_THROW(Encrypt::Seal({nullptr, "label"}, "secret"), std::runtime_error);
+    EXPECT_THROW(Encrypt::Open({nullptr, "label"}, Encrypt::Seal(ParamsWith(7, "label"), "secret")),
+                 std::runtime_error);
+}
+
+TEST(Encrypt, KeepsTheKeyOutOfTheStacksOfItsUsers)
+{
+    const Encrypt::AESParams params = ParamsWith(7, "label");
+    const std::string memory(reinterpret_cast<const char*>(&params), sizeof params);
+    EXPECT_EQ(memory.find(std::string(4, '\7')), std::string::npos);
 }
 
 TEST(Hex, ReadsBothCasesAndRefusesEverythingElse)

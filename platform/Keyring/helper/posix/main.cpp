@@ -142,14 +142,15 @@ SecretValue* SecretFromInput()
 
 [[noreturn]] void Store(const char* name, const char* label)
 {
+    // Before any refusal: the answer is lost on a socket that is closed with input unread.
+    SecretValue* const secret = SecretFromInput();
     RequireRunningService();
     SecretService* const service = Service(SECRET_SERVICE_OPEN_SESSION);
     if (Find(service, name, 0))
         Refuse("the keyring has an entry of that name");
     GError* error = nullptr;
-    SecretItem* const item =
-        secret_item_create_sync(RequireUnlocked(service), &kSchema, AttributesOf(name), label,
-                                SecretFromInput(), SECRET_ITEM_CREATE_NONE, nullptr, &error);
+    SecretItem* const item = secret_item_create_sync(RequireUnlocked(service), &kSchema, AttributesOf(name),
+                                                     label, secret, SECRET_ITEM_CREATE_NONE, nullptr, &error);
     Require(item != nullptr, error);
     Succeed();
 }
