@@ -1,6 +1,6 @@
 // Every message structure, read from a body, as a value alone and as the data of an envelope.
 //
-// Input: a character that chooses the structure (its place in AllMessages.h, '0' is the first), and the text.
+// Input: a line with the key of the structure (kKey), and the text.
 
 #include "Fuzz.h"
 #include "Protocol/JSONStruct/AllMessages.h"
@@ -62,12 +62,11 @@ void CheckMessage(const std::string& text)
     CheckComesBack<T>(text, ReadEnvelope, WriteEnvelope);
 }
 
+/// Some structures share their key.
 template<typename... Messages>
-void CheckOneOf(MessageList<Messages...>, fuzz::CInput& input)
+void CheckMessages(MessageList<Messages...>, const std::string& key, const std::string& text)
 {
-    constexpr void (*kChecks[])(const std::string&) = {&CheckMessage<Messages>...};
-    const std::size_t choice = input.Choice(sizeof...(Messages));
-    kChecks[choice](input.Rest());
+    ((key == Messages::kKey ? CheckMessage<Messages>(text) : void()), ...);
 }
 
 } // namespace
@@ -75,6 +74,7 @@ void CheckOneOf(MessageList<Messages...>, fuzz::CInput& input)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     fuzz::CInput input(data, size);
-    CheckOneOf(AllMessages(), input);
+    const std::string key = input.Line();
+    CheckMessages(AllMessages(), key, input.Rest());
     return 0;
 }

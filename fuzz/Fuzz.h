@@ -3,6 +3,7 @@
 #include "Base/Log.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -29,12 +30,8 @@ public:
     CInput(const std::uint8_t* data, std::size_t size) : m_rest(reinterpret_cast<const char*>(data), size) {}
 
     bool IsEmpty() const { return m_rest.empty(); }
-    std::size_t Size() const { return m_rest.size(); }
 
     unsigned Byte() { return static_cast<unsigned char>(Text(1).c_str()[0]); }
-
-    /// A number below the limit that a printable first character of a corpus file can choose: '0' is 0.
-    std::size_t Choice(std::size_t limit) { return (Byte() - '0') % limit; }
 
     std::string Text(std::size_t length)
     {

@@ -2,8 +2,7 @@
 //
 // Input: '-' and any bytes. Or a digit that chooses how a credential is put into a text, and then lines: the
 // name of its key (made into a credential's name when it is none), what stands before the mark in the value,
-// what stands behind it, the name and the value of a member beside it. Names, and the member beside it, come
-// without ":" and "=".
+// what stands behind it, the name and the value of a member beside it.
 
 #include "Base/CredentialName.h"
 #include "Fuzz.h"
@@ -12,6 +11,8 @@
 #include "lpc/json/Masking.h"
 
 #include <boost/locale/utf.hpp>
+
+#include <cctype>
 
 namespace {
 
@@ -133,28 +134,24 @@ std::string ShownByTool(const std::string& text)
     return masked ? lpctool::ToText(*masked) : std::string();
 }
 
-/// A line without the characters.
-std::string Line(fuzz::CInput& input, std::string_view without)
+/// A line without what a C string cannot hold.
+std::string Line(fuzz::CInput& input)
 {
     std::string line = input.Line();
-    const auto isUnwanted = [&](char c) { return without.find(c) != std::string_view::npos; };
-    line.erase(std::remove_if(line.begin(), line.end(), isUnwanted), line.end());
+    line.erase(std::remove(line.begin(), line.end(), '\0'), line.end());
     return line;
 }
 
 Credential ReadCredential(fuzz::CInput& input)
 {
-    using namespace std::string_view_literals;
-    constexpr auto kNoSeparators = "\0:="sv;
-    constexpr auto kNotInJson = "\0"sv;
     Credential credential;
-    credential.key = Line(input, kNoSeparators);
+    credential.key = Line(input);
     if (!Base::IsCredentialName(credential.key))
         credential.key += "Password";
-    credential.value = Line(input, kNotInJson) + kMark;
-    credential.value += Line(input, kNotInJson);
-    credential.otherKey = Line(input, kNoSeparators);
-    credential.otherValue = Line(input, kNoSeparators);
+    credential.value = Line(input) + kMark;
+    credential.value += Line(input);
+    credential.otherKey = Line(input);
+    credential.otherValue = Line(input);
     return credential;
 }
 
@@ -163,13 +160,24 @@ bool HoldsMark(const std::string& text)
     return text.find(kMark) != std::string::npos;
 }
 
+/// The member behind the credential, when it is a plain word, is shown.
+void CheckRestIsShown(const Credential& credential, std::size_t form, const std::string& shown)
+{
+    const std::string& word = credential.otherValue;
+    const std::string quote = form == 3 ? R"(\")" : R"(")";
+    if (form <= 3 && shown.size() < protocol::kLoggedTextLimit && Word(word, "") == word)
+        FUZZ_CHECK(shown.find(quote + "after" + quote + ":" + quote + word + quote) != std::string::npos);
+}
+
 void CheckHidden(const Credential& credential, std::size_t form)
 {
     constexpr std::size_t kUrlForms = 6; // these are for LoggableText alone
     const std::string text = TextWith(credential, form);
     if (text.find(kMark) != text.rfind(kMark)) // it is elsewhere too
         return;
-    FUZZ_CHECK(!HoldsMark(Shown(text)));
+    const std::string shown = Shown(text);
+    FUZZ_CHECK(!HoldsMark(shown));
+    CheckRestIsShown(credential, form, shown);
     if (form < kUrlForms)
         FUZZ_CHECK(!HoldsMark(ShownByTool(text)));
 }

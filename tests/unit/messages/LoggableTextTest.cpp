@@ -1,4 +1,5 @@
 #include "Protocol/JSONStruct/LoggableText.h"
+#include "Protocol/JSONStruct/JSONTree.h"
 
 #include <gtest/gtest.h>
 
@@ -52,6 +53,20 @@ const Row kRows[] = {
     {"NoJsonAtAll", "password=abc def&host=x", "password=***&host=x"},
     {"HeaderLine", "Authorization: Basic YTpi\nHost: x", "Authorization: *** Host: x"},
     {"JsonInsideAText", R"({"data":"{\"pwd\":\"a\\\"b\",\"x\":1}"})", R"({"data":"{\"pwd\":***,\"x\":1}"})"},
+    {"OpenPairBesideJsonInsideAText", R"({"data":"{\"name\":\"a, pwd=\\\"\",\"pwd\":\"abc\",\"x\":1}"})",
+     R"({"data":"{\"name\":\"a, pwd=***\",\"pwd\":***,\"x\":1}"})"},
+    {"OpenPairInAKey", R"({"a=\":":"b","x":{"pwd":"abc"},"y":"z"})",
+     R"({"a=\":":"b","x":{"pwd":***},"y":"z"})"},
+    {"PairInsideAText", R"({"data":"pwd: a\"b\\c","x":1})", R"({"data":"pwd: ***","x":1})"},
+    {"JsonInOtherText", R"(got {"a":"{\"b\":1,\"pwd\":\"x\\\"\"}"} late)",
+     R"(got {"a":"{\"b\":1,\"pwd\":***)"},
+    {"BrokenJson", R"({"a":'b',"data":"{\"pwd\":1,\"x\":2}" "pwd":{"c":'}d'}})",
+     R"({"a":'b',"data":"{\"pwd\":***,\"x\":2}" "pwd":***})"},
+    {"BrokenJsonThatEndsInText", R"({"pwd":"abc","x":1} is no answer)", R"({"pwd":***,"x":1} is no answer)"},
+    {"BeginIsMissing", R"(ame\":\"b\",\"pwd \\\"x\\\" y\":\"abc\")",
+     R"(ame\":\"b\",\"pwd \\\"x\\\" y\":***)"},
+    {"QuoteNotEscapedInTheValue", "pwd='it's me', x='1'", "pwd=***, x='1'"},
+    {"PathIsNoKey", R"(C:\data\log.txt: is full at 12:30)", R"(C:\data\log.txt: is full at 12:30)"},
     {"KeyWrittenWithEscapes", R"({"pass\u0077ord":"abc","x":1})", R"({"pass\u0077ord":***,"x":1})"},
     {"NoQuotesAroundTheKey", "{pwd: 'abc', x: 1}", "{pwd: ***, x: 1}"},
     {"SeveralLines", "{\n\t\"a\" : 1\r\n}", "{  \"a\" : 1  }"},
@@ -75,6 +90,24 @@ TEST(TextInALine, StaysBelowTheLimitWhenMasksAreLongerThanTheValues)
     while (text.size() < 3 * protocol::kLoggedTextLimit)
         text += "pwd=;";
     EXPECT_LE(LoggableText(text).size(), protocol::kLoggedTextLimit);
+}
+
+TEST(TextInALine, HidesACredentialHoweverDeepItLies)
+{
+    std::string text = "pwd=hunter";
+    for (int level = 0; text.size() < protocol::kLoggedTextLimit; ++level) {
+        EXPECT_EQ(LoggableText(text).find("hunter"), std::string::npos) << level;
+        const auto inner = protocol::json::NewText(text);
+        text = R"({"data":)" + protocol::json::PrintText(inner.get()) + "}";
+    }
+}
+
+TEST(TextInALine, HidesACredentialBehindMoreThanAreLookedAt)
+{
+    std::string text;
+    for (int i = 0; i < 200; ++i)
+        text += "pwd=x;";
+    EXPECT_EQ(LoggableText(text + "pwd=hunter").find("hunter"), std::string::npos);
 }
 
 TEST(TextInALine, HidesACredentialThatTheCutDivides)
