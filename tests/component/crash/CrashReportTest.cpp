@@ -310,11 +310,11 @@ TEST_F(ResolvedReport, NamesTheLineThatCrashed)
     EXPECT_EQ(exitCode, 0) << text;
     std::smatch place;
     ASSERT_TRUE(
-        std::regex_search(text, place, std::regex("#0 WriteToNull at (/.*/CrashChild\\.cpp):([0-9]+) ")))
+        std::regex_search(text, place, std::regex("#0 WriteToNull at /.*/CrashChild\\.cpp:([0-9]+) ")))
         << text;
-    std::ifstream source(place[1].str());
+    std::ifstream source(CRASH_CHILD_SOURCE);
     std::string line;
-    for (int i = std::stoi(place[2].str()); i > 0; --i)
+    for (int i = std::stoi(place[1].str()); i > 0; --i)
         std::getline(source, line);
     EXPECT_THAT(line, HasSubstr("*reinterpret_cast<volatile int*>"));
     EXPECT_THAT(text, ContainsRegex("\n  #1 main at [^\n]*/CrashChild.cpp:[0-9]+ "));
