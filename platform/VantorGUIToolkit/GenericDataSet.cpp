@@ -173,6 +173,8 @@ bool CGenericDataSet::loadContent(const QByteArray& content, const QString& name
         return Refuse(name, "empty");
     if (static_cast<std::size_t>(content.size()) > kMaxBytes)
         return Refuse(name, "larger than " + std::to_string(kMaxBytes) + " bytes");
+    // A reader alone would set the library up without its lock, while another thread may be doing the same.
+    xmlInitParser();
     const Reader reader(
         xmlReaderForMemory(content.constData(), content.size(), nullptr, nullptr, XML_PARSE_NONET));
     if (!reader)
