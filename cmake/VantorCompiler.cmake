@@ -31,8 +31,10 @@ else()
     endif()
     if(VANTOR_SANITIZE)
         # The vptr check opens a pipe to look at memory, which a test that leaves no descriptors makes fail.
-        target_compile_options(vantor_flags INTERFACE -fsanitize=${VANTOR_SANITIZE} -fno-sanitize=vptr
-                               -fno-sanitize-recover=all)
-        target_link_options(vantor_flags INTERFACE -fsanitize=${VANTOR_SANITIZE})
+        # A target that sets VANTOR_UNSANITIZED is left as it is.
+        set(wanted "$<NOT:$<BOOL:$<TARGET_PROPERTY:VANTOR_UNSANITIZED>>>")
+        target_compile_options(vantor_flags INTERFACE
+            "$<${wanted}:-fsanitize=${VANTOR_SANITIZE};-fno-sanitize=vptr;-fno-sanitize-recover=all>")
+        target_link_options(vantor_flags INTERFACE "$<${wanted}:-fsanitize=${VANTOR_SANITIZE}>")
     endif()
 endif()
