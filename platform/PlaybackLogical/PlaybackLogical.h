@@ -2,7 +2,7 @@
 
 #include "Base/Noncopyable.h"
 #include "UiDataController/IGroupManager.h"
-#include "UiDataController/ILocalDataManager.h"
+#include "VideoInterfaces/ILocalDataManager.h"
 
 #include <mutex>
 

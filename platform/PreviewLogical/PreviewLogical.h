@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Base/Noncopyable.h"
-#include "UiDataController/ILocalDataManager.h"
+#include "VideoInterfaces/ILocalDataManager.h"
 #include "UiDataController/IResourceTreeManager.h"
 
 #include <mutex>

@@ -3,9 +3,13 @@
 #include "Base/AsyncTask.h"
 #include "Base/Log.h"
 #include "Base/RateLimit.h"
+#include "Base/StringUtil.h"
 #include "CommonMethodLib/WorkerPool.h"
 #include "CommunicationLayer/FrameworkRequests.h"
+#include "LPC_Wire/Limits.h"
+#include "Protocol/JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
+#include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "logical/Communication/LPCNames.h"
 
 namespace video {
@@ -25,6 +29,28 @@ Result LoggedSend(Result result)
         BASE_ERROR_TO(kLogger, "Failed to send. LastError: [%d].%s", lpcclient::GetLPCLastError(),
                       skipped->c_str());
     return result;
+}
+
+constexpr int kOk = 200;
+constexpr int kPayloadTooLarge = 413;
+
+lpc::HeaderMap AnswerHeaders(const lpcclient::LPCCallBackData& call, const RouteAnswer& answer)
+{
+    lpc::HeaderMap headers = call.headers;
+    if (answer.status != kOk)
+        headers[lpc::kStatusHeader] = std::to_string(answer.status);
+    if (answer.error != 0)
+        headers[lpc::kErrorCodeHeader] = std::to_string(answer.error);
+    return headers;
+}
+
+std::string TooLongBody(std::size_t bytes)
+{
+    protocol::CommonResponseData response;
+    response.result.errorCode = lpc::kTooLong;
+    response.message = Base::StringUtil::Format(
+        "The answer has %zu bytes; at most %zu can be sent. Ask for less.", bytes, lpc::kMaxBody);
+    return protocol::WriteJSONStr(response);
 }
 
 /// Counts the tasks that live.
@@ -124,6 +150,18 @@ bool CLPCClientPackage::NotifyMethod(const std::string& method)
 bool CLPCClientPackage::ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body)
 {
     return Reply({call.requestId, call.headers, body});
+}
+
+bool CLPCClientPackage::Answer(const lpcclient::LPCCallBackData& call, const RouteAnswer& answer)
+{
+    if (call.requestId == 0)
+        return true;
+    if (Reply({call.requestId, AnswerHeaders(call, answer), answer.body}))
+        return true;
+    if (lpcclient::GetLPCLastError() != lpc::kTooLong)
+        return false;
+    const RouteAnswer tooLong{TooLongBody(answer.body.size()), kPayloadTooLarge, lpc::kTooLong};
+    return Reply({call.requestId, AnswerHeaders(call, tooLong), tooLong.body});
 }
 
 bool CLPCClientPackage::ReplyMethod(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload)

@@ -55,6 +55,11 @@ public:
     /// Answers a call with the body, under the call's request identifier and header map.
     bool ReplyBody(const lpcclient::LPCCallBackData& call, const std::string& body);
 
+    /// Answers a call of a route, with the status and error number as headers beside those of the call where
+    /// they report something. An answer that is too long for the channel is replaced by one that says so. A
+    /// notification takes no answer: nothing is sent, and the result is true.
+    bool Answer(const lpcclient::LPCCallBackData& call, const RouteAnswer& answer);
+
     /// Answers a method call with the payload, in the envelope of the payload's method.
     bool ReplyMethod(const lpcclient::LPCCallBackData& call, const protocol::ILPCData& payload);
 

@@ -11,6 +11,17 @@ namespace video {
 /// Serves one kind of request or notification, on a thread of the worker pool.
 using LPCHandler = std::function<void(const lpcclient::LPCCallBackData& data)>;
 
+/// What a route answers. An answer with another status than 200 tells that the request was refused or failed.
+struct RouteAnswer
+{
+    std::string body;
+    int status = 200;
+    int error = 0; ///< an lpc::Error, or 0
+};
+
+/// Sends a call's answer; see CLPCClientPackage::Answer.
+using AnswerCall = std::function<bool(const lpcclient::LPCCallBackData& call, const RouteAnswer& answer)>;
+
 /// Handlers by exact, case-sensitive name. The rows are put in by the subsystems that own them, before the
 /// link is opened; from then on the table is only read, from any thread.
 class CRouteTable

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Protocol/JSONStruct/ParseJSONUtil.h"
+#include "logical/Communication/RouteTable.h"
+
+#include <utility>
+
+namespace video {
+
+/// A handler of a route whose body holds the structure Body, and whose answer is the structure that work
+/// gives:
+///
+///     http.Bind(route::kLocalFileQuery, AnswerTo<LocalFileQuery>(answer, [&](const LocalFileQuery& query) {
+///         return FilesOf(query);
+///     }));
+///
+/// A body that does not hold the structure has its line in the log and is dropped without an answer.
+template<typename Body, typename Work>
+LPCHandler AnswerTo(AnswerCall answer, Work work)
+{
+    return [answer = std::move(answer), work = std::move(work)](const lpcclient::LPCCallBackData& call) {
+        Body body;
+        if (protocol::TParseJSONStr(body, call.body))
+            answer(call, {protocol::WriteJSONStr(work(body))});
+    };
+}
+
+} // namespace video
