@@ -17,6 +17,7 @@
 #include <QPointer>
 
 #include <atomic>
+#include <cstdlib>
 #include <csignal>
 #include <filesystem>
 #include <set>
@@ -62,7 +63,12 @@ struct ResourceTree : vantor::IResourceTreeManager
 struct Groups : vantor::IGroupManager
 {};
 struct LocalData : vantor::ILocalDataManager
-{};
+{
+    vantor::ILocalFile& LocalFile() override { std::abort(); }
+    vantor::ILocalDataPath& LocalDataPath() override { std::abort(); }
+    vantor::IVideoSystemConfig& SystemConfig() override { std::abort(); }
+    void Release() override {}
+};
 
 /// Starts, refuses others and lets go, the same for both logics.
 template<typename Logic, typename Manager, typename Getter>
