@@ -36,8 +36,8 @@ CREATE TRIGGER PictureFileUpdate INSTEAD OF UPDATE ON PictureFile BEGIN
         SET ID = NEW.ID, CameraID = ifnull(NEW.CameraID, ''), GroupID = NEW.GroupID, FileName = NEW.FileName,
             FilePath = NEW.FilePath, OccurTime = NEW.OccurTime, FileSize = NEW.FileSize
         WHERE ID = OLD.ID;
-    INSERT OR IGNORE INTO PictureFileCamera VALUES (ifnull(NEW.CameraID, ''));
-    DELETE FROM PictureFileCamera WHERE CameraID = OLD.CameraID
+    INSERT OR IGNORE INTO PictureFileCamera SELECT ifnull(NEW.CameraID, '') WHERE NEW.CameraID IS NOT OLD.CameraID;
+    DELETE FROM PictureFileCamera WHERE CameraID = OLD.CameraID AND NEW.CameraID IS NOT OLD.CameraID
         AND NOT EXISTS (SELECT 1 FROM PictureFileRow WHERE CameraID = OLD.CameraID);
 END;
 
@@ -75,8 +75,8 @@ CREATE TRIGGER VideoFileUpdate INSTEAD OF UPDATE ON VideoFile BEGIN
             FilePath = NEW.FilePath, PicturePath = NEW.PicturePath, OccurTime = NEW.OccurTime,
             BeginTime = NEW.BeginTime, EndTime = NEW.EndTime, FileSize = NEW.FileSize
         WHERE ID = OLD.ID;
-    INSERT OR IGNORE INTO VideoFileCamera VALUES (ifnull(NEW.CameraID, ''));
-    DELETE FROM VideoFileCamera WHERE CameraID = OLD.CameraID
+    INSERT OR IGNORE INTO VideoFileCamera SELECT ifnull(NEW.CameraID, '') WHERE NEW.CameraID IS NOT OLD.CameraID;
+    DELETE FROM VideoFileCamera WHERE CameraID = OLD.CameraID AND NEW.CameraID IS NOT OLD.CameraID
         AND NOT EXISTS (SELECT 1 FROM VideoFileRow WHERE CameraID = OLD.CameraID);
 END;
 
