@@ -143,8 +143,8 @@ TEST_F(LocalFileRoutes, TakeNoTextForAStatement)
         std::string body = kClip;
         const std::string name = std::string("\"") + field + "\":\"";
         body.insert(body.find(name) + name.size(), text);
-        EXPECT_EQ(Call(kLocalFile, "{\"localFile\":" + body + "}"),
-                  R"({"fileNotifyResult":{"guid":")" + Clips() + "\"}}");
+        const std::string answer = Call(kLocalFile, "{\"localFile\":" + body + "}");
+        EXPECT_EQ(answer, R"({"fileNotifyResult":{"guid":")" + Clips() + "\"}}");
         EXPECT_EQ(Ask("SELECT count(*) FROM VideoFile"), "1") << body;
         connection.Execute("DELETE FROM VideoFile");
     }
