@@ -12,38 +12,20 @@ using Record = video::VideoSystemConfigStruct;
 
 namespace {
 
-#define GETTER(name)                                                                                         \
-    {                                                                                                        \
-#name, [](const vantor::IVideoSystemConfig& config) { return static_cast<int>(config.name()); }      \
-    }
-const std::map<std::string, std::function<int(const vantor::IVideoSystemConfig&)>> kGetters = {
-    GETTER(DisplayScale),
-    GETTER(InstantPlaybackTime),
-    GETTER(PlayPerformance),
-    GETTER(EnableToolBar),
-    GETTER(ClockedPreviewToolBar),
-    GETTER(PlaybackPriority),
-    GETTER(EnableResumePreview),
-    GETTER(EnableAutoChangeStreamType),
-    GETTER(SnapshotPicType),
-    GETTER(VideoFileFormat),
-    GETTER(EnableHighlightShow),
-    GETTER(EnableATMOSD),
-    GETTER(EnableRuleShow),
-    GETTER(EnableTargetPattern),
-    GETTER(EnableRenderingEffect),
-    GETTER(EnableDisconnectMultiStreams),
-    GETTER(PlaybackDefaultStreamType),
-    GETTER(EnableWheelControlZoom),
-    GETTER(OnlyPlayVCAInVCAPlayBack),
-    GETTER(EnableHardDecode),
-    GETTER(EnablePlayBackFrameExtraction),
-    GETTER(DownloadFileMode),
-    GETTER(SearchFileCameraMode),
-    GETTER(SearchCloudP2PRecordFileMode),
-    GETTER(StreamOffset),
-    GETTER(EnableDenoise),
+using Getter = std::function<int(const vantor::IVideoSystemConfig&)>;
+// clang-format off
+#define GETTER(name) {#name, [](const auto& config) { return static_cast<int>(config.name()); }}
+const std::map<std::string, Getter> kGetters = {
+    GETTER(DisplayScale), GETTER(InstantPlaybackTime), GETTER(PlayPerformance), GETTER(EnableToolBar),
+    GETTER(ClockedPreviewToolBar), GETTER(PlaybackPriority), GETTER(EnableResumePreview),
+    GETTER(EnableAutoChangeStreamType), GETTER(SnapshotPicType), GETTER(VideoFileFormat),
+    GETTER(EnableHighlightShow), GETTER(EnableATMOSD), GETTER(EnableRuleShow), GETTER(EnableTargetPattern),
+    GETTER(EnableRenderingEffect), GETTER(EnableDisconnectMultiStreams), GETTER(PlaybackDefaultStreamType),
+    GETTER(EnableWheelControlZoom), GETTER(OnlyPlayVCAInVCAPlayBack), GETTER(EnableHardDecode),
+    GETTER(EnablePlayBackFrameExtraction), GETTER(DownloadFileMode), GETTER(SearchFileCameraMode),
+    GETTER(SearchCloudP2PRecordFileMode), GETTER(StreamOffset), GETTER(EnableDenoise),
     GETTER(ShowRecordAndAlarmState)};
+// clang-format on
 
 TEST(EverySetting, HasAGetterThatReadsItAloneAndASetterThatSaves)
 {
@@ -78,9 +60,11 @@ struct Effect
     std::function<void(CSystemConfig&)> change;
     std::string heard;
     int sent;
-    std::string
-        stored; ///< DisplayScale, EnableToolBar, EnableRuleShow, SnapshotPicType, EnableTransactionInfor
+    std::string stored; ///< see kStored
 };
+
+const std::string kStored = "SELECT DisplayScale || '|' || EnableToolBar || '|' || EnableRuleShow || '|' || "
+                            "SnapshotPicType || '|' || EnableTransactionInfor FROM VideoSystemConfigTable";
 
 void ApplyEdit(CSystemConfig& config, const std::function<void(CSystemConfigEdit&)>& change)
 {
@@ -153,9 +137,7 @@ TEST(AChange, PostsSavesAndSendsWhatBelongsToIt)
         Deliver(world.loop);
         EXPECT_EQ(world.observer.heard, effect.heard);
         EXPECT_EQ(world.sent, effect.sent);
-        EXPECT_EQ(world.Ask("SELECT DisplayScale || '|' || EnableToolBar || '|' || EnableRuleShow || '|' || "
-                            "SnapshotPicType || '|' || EnableTransactionInfor FROM VideoSystemConfigTable"),
-                  effect.stored);
+        EXPECT_EQ(world.Ask(kStored), effect.stored);
     }
 }
 

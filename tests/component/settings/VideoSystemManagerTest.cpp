@@ -43,19 +43,4 @@ TEST(TheStores, AreNotWaitedForWhenTheyDoNotCome)
     EXPECT_THROW(slow.SystemConfig(), std::runtime_error);
 }
 
-TEST(TheStores, KeepFoldersAndSettingsForTheNextStart)
-{
-    Stores stores;
-    {
-        CVideoSystemManager manager;
-        manager.Init(stores.Parts());
-        manager.SystemConfig().SetCaptureSaveFolder("/elsewhere");
-        manager.SystemConfig().SetVideoFileFormat(1);
-    }
-    CVideoSystemManager next;
-    next.Init(stores.Parts());
-    EXPECT_EQ(next.SystemConfig().CaptureSaveFolder(), "/elsewhere");
-    EXPECT_EQ(next.SystemConfig().VideoFileFormat(), 1);
-}
-
 } // namespace
