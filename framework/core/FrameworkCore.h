@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Protocol/JSONStruct/HTTP/LocalFileJSONStruct.h"
+#include "framework/core/ComponentAnswer.h"
 #include "framework/core/FrameworkEvents.h"
 #include "framework/core/FrameworkSettings.h"
 #include "framework/core/Resources.h"
@@ -74,6 +76,14 @@ public:
     void TabRemoved(const std::string& name);
     void TabSwitched(const std::string& name);
     void WindowMoved(int x, int y);
+
+    // The component's catalogue of pictures and clips. An answer is waited for ten seconds.
+    void QueryLocalFiles(const protocol::LocalFileQuery& query,
+                         OnAsked<protocol::LocalFileQueryResult> onAnswer);
+    /// The path of a record; empty when there is none of this identifier.
+    void ResolveLocalFile(const protocol::LocalFile& file, OnAsked<protocol::LocalFileResult> onAnswer);
+    /// Tells of a new file; the answer is its record's identifier, empty when it could not be stored.
+    void ReportLocalFile(const protocol::LocalFileNotify& file, OnAsked<protocol::FileNotifyResult> onAnswer);
 
     /// Tells the component to stop working, changes the user, and tells it to bring its pages up to date.
     /// False: as CUsers::Login.
