@@ -37,8 +37,8 @@ FrameworkOptions OptionsOf(const CommandLine& line, const std::string& folder)
 
 CFrameworkApplication::CFrameworkApplication(CommandLine line)
     : m_line(std::move(line)), m_folder(comm_methodlib::CUserDataPath::Instance().componentPath()),
-      m_core(m_relay, OptionsOf(m_line, m_folder)), m_windows(m_core),
-      m_pages(m_core, m_relay, m_windows, m_unread, m_report)
+      m_core(m_relay, OptionsOf(m_line, m_folder)), m_windows(m_core), m_files(m_core),
+      m_pages(m_core, m_relay, m_windows, m_files, m_unread, m_report)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     // Before the pages, which show it, and also while there is no window yet.

@@ -3,6 +3,7 @@
 #include "framework/core/FrameworkCore.h"
 #include "framework/ui/CommandLine.h"
 #include "framework/ui/Pages.h"
+#include "framework/ui/parts/CoreLocalFiles.h"
 #include "framework/ui/parts/CoreWindows.h"
 #include "framework/ui/parts/EventRelay.h"
 #include "framework/ui/parts/Report.h"
@@ -54,6 +55,7 @@ private:
     const std::string m_folder; ///< the framework's own, ends in "/"
     CFrameworkCore m_core;
     CCoreWindows m_windows;
+    CCoreLocalFiles m_files;
     CPages m_pages;
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CTour> m_tour;
