@@ -31,7 +31,8 @@ bool Write(const std::string& path, const QByteArray& content)
 QByteArray PictureOf(const DemonstrationFile& file, double second, double passed)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(file.moment).addMSecs(qint64(second * 1000));
-    return Jpeg(PaintCamera(QString::fromStdString(file.camera), file.scene, moment, passed));
+    return Jpeg(
+        PaintCamera(QString::fromStdString(file.group + ", " + file.camera), file.scene, moment, passed));
 }
 
 QByteArray ClipOf(const DemonstrationFile& file)
@@ -58,7 +59,8 @@ std::vector<DemonstrationFile> PlanDemonstration(const CResources& resources, st
         file.type = index % 3 == 2 ? LocalFileType::Video : LocalFileType::Picture;
         file.cameraGuid = channels[camera].guid;
         file.groupGuid = channels[camera].groupGuid;
-        file.camera = groups[file.groupGuid] + ' ' + channels[camera].name;
+        file.group = groups[file.groupGuid];
+        file.camera = channels[camera].name;
         file.scene = static_cast<int>(camera);
         file.moment = before - kSpan + (index + 1) * kSpan / count - 600 - (index * 977) % kMostJitter;
         file.seconds = 4 + index % 8;
@@ -70,7 +72,7 @@ std::vector<DemonstrationFile> PlanDemonstration(const CResources& resources, st
 protocol::LocalFileNotify RecordOf(const DemonstrationFile& file, const FrameworkChoices& folders)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(file.moment);
-    const std::string day = moment.toString("yyyy-MM-dd").toStdString() + '/';
+    const std::string day = file.group + '/' + moment.toString("yyyy-MM-dd").toStdString() + '/';
     const std::string name = file.camera + moment.toString(" yyyy-MM-dd HH-mm-ss").toStdString();
     const bool isClip = file.type == LocalFileType::Video;
     protocol::LocalFileNotify record;

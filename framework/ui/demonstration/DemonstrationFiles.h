@@ -16,7 +16,8 @@ struct DemonstrationFile
     protocol::LocalFileType type = protocol::LocalFileType::Picture;
     std::string cameraGuid;
     std::string groupGuid;
-    std::string camera;      ///< "Main gate Camera 01"
+    std::string group;       ///< "Main gate"
+    std::string camera;      ///< "Camera 01"
     int scene = 0;           ///< see PaintCamera
     std::int64_t moment = 0; ///< seconds since 1970
     int seconds = 0;         ///< the length of a clip

@@ -1,10 +1,11 @@
 #include "framework/ui/pages/LocalFileModel.h"
 
-#include "VantorGUIToolkit/Icons.h"
 #include "VantorGUIToolkit/Toolkit.h"
 #include "framework/core/Resources.h"
+#include "framework/ui/pages/Thumbnails.h"
 
 #include <QDateTime>
+#include <QPixmap>
 
 #include <algorithm>
 #include <numeric>
@@ -51,8 +52,11 @@ QString LengthText(qint64 seconds)
 }
 
 CLocalFileModel::CLocalFileModel(QObject* parent)
-    : QAbstractTableModel(parent), m_files(std::make_shared<const std::vector<LocalFileQueryItem>>())
-{}
+    : QAbstractTableModel(parent), m_files(std::make_shared<const std::vector<LocalFileQueryItem>>()),
+      m_thumbnails(new CThumbnails(this))
+{
+    connect(m_thumbnails, &CThumbnails::Loaded, this, &CLocalFileModel::PictureLoaded);
+}
 
 void CLocalFileModel::SetFiles(ILocalFileSource::Files files)
 {
@@ -139,6 +143,12 @@ QVariant CLocalFileModel::ValueOf(const LocalFileQueryItem& file, int column) co
     }
 }
 
+QPixmap CLocalFileModel::PictureOf(const LocalFileQueryItem& file) const
+{
+    return m_thumbnails->Of(QString::fromStdString(file.picFilePath),
+                            file.type == LocalFileType::Video ? "video" : "picture");
+}
+
 QVariant CLocalFileModel::data(const QModelIndex& index, int role) const
 {
     const LocalFileQueryItem& file = File(index.row());
@@ -148,9 +158,7 @@ QVariant CLocalFileModel::data(const QModelIndex& index, int role) const
     case Qt::UserRole:
         return ValueOf(file, index.column());
     case Qt::DecorationRole:
-        return index.column() == Name
-                   ? VantorGUIToolkit::icon(file.type == LocalFileType::Video ? "video" : "picture")
-                   : QVariant();
+        return index.column() == Name ? QVariant(PictureOf(file)) : QVariant();
     default:
         return {};
     }

@@ -9,6 +9,7 @@
 namespace framework {
 
 class CResources;
+class CThumbnails;
 
 /// Records of the catalogue for a table: texts are made as they are shown, sorting goes by the values behind
 /// them (Qt::UserRole). GUI thread.
@@ -38,11 +39,17 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
+signals:
+    /// Something that is shown looks different now.
+    void PictureLoaded();
+
 private:
     QString TextOf(const protocol::LocalFileQueryItem& file, int column) const;
+    QPixmap PictureOf(const protocol::LocalFileQueryItem& file) const;
     QVariant ValueOf(const protocol::LocalFileQueryItem& file, int column) const;
 
     ILocalFileSource::Files m_files;
+    CThumbnails* m_thumbnails;
     QHash<QString, QString> m_names; ///< of cameras and groups, by identifier
 };
 

@@ -8,6 +8,7 @@
 #include "VantorGUIToolkit/Widgets/TableView.h"
 #include "framework/ui/pages/CameraBox.h"
 #include "framework/ui/pages/LocalFileModel.h"
+#include "framework/ui/pages/Thumbnails.h"
 #include "framework/ui/parts/StateText.h"
 #include "framework/ui/parts/WindowTable.h"
 
@@ -31,7 +32,8 @@ using protocol::LocalFileType;
 
 namespace {
 
-constexpr int kWidths[] = {280, 120, 160, 168, 80, 96};
+constexpr int kWidths[] = {320, 120, 144, 168, 80, 96};
+constexpr int kRowHeight = Grid::Huge + Grid::Medium;
 constexpr int kCameraWidth = 280;
 constexpr int kSearchWidth = 200;
 constexpr int kSlowMs = 200; ///< an answer that comes sooner is not worth a flicker
@@ -150,9 +152,13 @@ void CLocalFilesPage::SetUpTable()
 {
     m_table->setObjectName("localFilesTable");
     m_table->setModel(m_filter);
+    m_table->setTextElideMode(Qt::ElideMiddle); // of paths and file names both ends tell something
     for (int column = 0; column < int(std::size(kWidths)); ++column)
         m_table->setColumnWidth(column, kWidths[column]);
     m_table->sortByColumn(CLocalFileModel::Time, Qt::DescendingOrder);
+    m_table->setIconSize(CThumbnails::kSize);
+    m_table->verticalHeader()->setDefaultSectionSize(kRowHeight);
+    connect(m_model, &CLocalFileModel::PictureLoaded, m_table->viewport(), qOverload<>(&QWidget::update));
     m_table->SetEmptyState("search", tr("Nothing found"), tr("No file has this text."));
     connect(m_table, &QTableView::doubleClicked, this, [this] { Open(Opening::File); });
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,

@@ -10,7 +10,8 @@ TEST(FrameworkCommandLine, TakesWhatIsKnown)
 {
     QString error;
     const auto line = ParseCommandLine({"--skin", "BlueSkin", "--language", "34", "--open", "Devices",
-                                        "--open", "Wiper", "--tour", "pictures", "--report", "-"},
+                                        "--open", "Wiper", "--tour", "pictures", "--report", "-",
+                                        "--demonstration"},
                                        error);
     ASSERT_TRUE(line) << error.toStdString();
     EXPECT_EQ(line->skin, "BlueSkin");
@@ -18,6 +19,7 @@ TEST(FrameworkCommandLine, TakesWhatIsKnown)
     EXPECT_EQ(line->open, QStringList({"Devices", "Wiper"}));
     EXPECT_EQ(line->tourFolder, "pictures");
     EXPECT_EQ(line->report, "-");
+    EXPECT_TRUE(line->demonstration);
 }
 
 TEST(FrameworkCommandLine, RefusesTheRestWithAReason)
