@@ -24,7 +24,8 @@ struct FrameworkOptions
     std::string dataFolder;       ///< the framework's own folder, "<root>/Framework.C/"; made when missing
     std::string componentProgram; ///< path of the component; empty: it is started by somebody else
     std::string componentOutput;  ///< file for what the component prints; empty: as this process
-    std::chrono::milliseconds endLimit{5000}; ///< for the component to end before it is killed
+    std::chrono::milliseconds endLimit{5000};     ///< for the component to end before it is killed
+    std::chrono::milliseconds answerLimit{10000}; ///< for the component's routes to answer
 };
 
 /// A window of the component, ready to be embedded.
@@ -77,7 +78,7 @@ public:
     void TabSwitched(const std::string& name);
     void WindowMoved(int x, int y);
 
-    // The component's catalogue of pictures and clips. An answer is waited for ten seconds.
+    // The component's catalogue of pictures and clips. The answer limit holds.
     void QueryLocalFiles(const protocol::LocalFileQuery& query,
                          OnAsked<protocol::LocalFileQueryResult> onAnswer);
     /// The path of a record; empty when there is none of this identifier.

@@ -81,8 +81,6 @@ private:
     void OnResource(const ResourceChange& change);
     void OnUsers();
     void TellUser();
-
-    static constexpr std::uint32_t kRouteTimeoutMs = 10000;
 };
 
 template<typename Body>
@@ -99,7 +97,8 @@ void FrameworkParts::AskComponent(const char* url, const protocol::IInboundData&
         });
     };
     if (state == ComponentState::Ready)
-        link.AskRoute(url, protocol::WriteJSONStr(question), kRouteTimeoutMs, take);
+        link.AskRoute(url, protocol::WriteJSONStr(question),
+                      static_cast<std::uint32_t>(options.answerLimit.count()), take);
     else
         take(AskOutcome::NotThere, {});
 }

@@ -7,6 +7,7 @@
 #include <QCompleter>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QStyledItemDelegate>
 
 namespace framework {
 
@@ -29,6 +30,10 @@ CCameraBox::CCameraBox(QWidget* parent) : QComboBox(parent)
     completer()->setCompletionMode(QCompleter::PopupCompletion);
     completer()->setFilterMode(Qt::MatchContains);
     completer()->setCaseSensitivity(Qt::CaseInsensitive);
+    completer()->setMaxVisibleItems(kShownEntries);
+    completer()->popup()->setProperty("completions", true);
+    completer()->popup()->setItemDelegate(
+        new QStyledItemDelegate(this)); // that of completers knows no sheets
     connect(this, qOverload<int>(&QComboBox::activated), this, &CCameraBox::Take);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &CCameraBox::Take);
 }

@@ -60,9 +60,10 @@ CLocalFilesPage::CLocalFilesPage(ILocalFileSource& source, CResources& resources
       m_header(new CPageHeader(
           TitleOf("LocalFiles"),
           tr("Pictures and clips on this computer, as the component has catalogued them."), this)),
-      m_openFile(m_header->AddAction(tr("Open"), ButtonKind::Normal)),
+      m_refresh(m_header->AddAction(tr("Refresh"), ButtonKind::Normal)),
       m_openFolder(m_header->AddAction(tr("Show folder"), ButtonKind::Normal)),
-      m_kinds(new QButtonGroup(this)), m_cameras(new CCameraBox(this)), m_span(new QComboBox(this)),
+      m_openFile(m_header->AddAction(tr("Open"), ButtonKind::Primary)), m_kinds(new QButtonGroup(this)),
+      m_cameras(new CCameraBox(this)), m_span(new QComboBox(this)),
       m_count(makeLabel({}, TextRole::Hint, this)), m_banner(new CBanner({}, Tone::Warn, this)),
       m_states(new QStackedWidget(this)), m_table(new CTableView(this))
 {
@@ -90,16 +91,15 @@ CLocalFilesPage::CLocalFilesPage(ILocalFileSource& source, CResources& resources
 
 void CLocalFilesPage::SetUpHeader()
 {
+    m_refresh->setObjectName("refresh");
+    m_refresh->setIcon(icon("refresh"));
+    m_refresh->setToolTip(QKeySequence(Qt::Key_F5).toString(QKeySequence::NativeText));
+    connect(m_refresh, &QPushButton::clicked, this, &CLocalFilesPage::Reload);
     m_openFile->setObjectName("openFile");
     m_openFolder->setObjectName("openFolder");
     m_openFolder->setIcon(icon("folder"));
     connect(m_openFile, &QPushButton::clicked, this, [this] { Open(Opening::File); });
     connect(m_openFolder, &QPushButton::clicked, this, [this] { Open(Opening::Folder); });
-    QPushButton* refresh = m_header->AddAction(tr("Refresh"), ButtonKind::Primary);
-    refresh->setObjectName("refresh");
-    refresh->setIcon(iconOnAccent("refresh"));
-    refresh->setToolTip(QKeySequence(Qt::Key_F5).toString(QKeySequence::NativeText));
-    connect(refresh, &QPushButton::clicked, this, &CLocalFilesPage::Reload);
 }
 
 QPushButton* CLocalFilesPage::AddKind(const QString& text, const char* iconName, const char* name,
@@ -263,7 +263,7 @@ void CLocalFilesPage::Take(AskOutcome outcome, const ILocalFileSource::Files& fi
     case AskOutcome::Unreadable:
         return ShowFailure(tr("The answer of the component cannot be read."));
     }
-    const auto* selected = Selected();
+    const auto* selected = SelectedRow();
     const std::string chosen = selected ? selected->fileGuid : std::string();
     m_table->setColumnHidden(CLocalFileModel::Length, Type() == LocalFileType::Picture);
     m_model->SetFiles(files);
@@ -305,6 +305,7 @@ void CLocalFilesPage::ShowReason(const char* iconName, const QString& title, con
 void CLocalFilesPage::ShowAway()
 {
     ++m_asked;
+    m_banner->hide();
     const ComponentState state = m_source.State();
     ShowReason("power", TextOf(state), SentenceOf(state));
 }
@@ -333,8 +334,13 @@ void CLocalFilesPage::UpdateButtons()
 
 const protocol::LocalFileQueryItem* CLocalFilesPage::Selected() const
 {
+    return m_states->currentWidget() == m_table ? SelectedRow() : nullptr;
+}
+
+const protocol::LocalFileQueryItem* CLocalFilesPage::SelectedRow() const
+{
     const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    if (rows.isEmpty() || m_states->currentWidget() != m_table)
+    if (rows.isEmpty())
         return nullptr;
     return &m_model->File(m_filter->mapToSource(rows.front()).row());
 }

@@ -67,7 +67,9 @@ private:
     void ShowFailure(const QString& sentence);
     void ShowCount();
     void UpdateButtons();
+    /// What the user can see to be chosen; the row is chosen also while a reason covers the table.
     const protocol::LocalFileQueryItem* Selected() const;
+    const protocol::LocalFileQueryItem* SelectedRow() const;
     void Open(Opening what);
     void OpenPlace(const LocalFilePlace& place, Opening what);
 
@@ -76,8 +78,9 @@ private:
     CLocalFileModel* m_model;
     CLocalFileFilter* m_filter;
     VantorGUIToolkit::CPageHeader* m_header;
-    QPushButton* m_openFile;
+    QPushButton* m_refresh;
     QPushButton* m_openFolder;
+    QPushButton* m_openFile;
     QButtonGroup* m_kinds;
     CCameraBox* m_cameras;
     QComboBox* m_span;

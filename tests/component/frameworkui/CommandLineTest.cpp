@@ -9,10 +9,10 @@ namespace {
 TEST(FrameworkCommandLine, TakesWhatIsKnown)
 {
     QString error;
-    const auto line = ParseCommandLine({"--skin", "BlueSkin", "--language", "34", "--open", "Devices",
-                                        "--open", "Wiper", "--tour", "pictures", "--report", "-",
-                                        "--demonstration"},
-                                       error);
+    const auto line =
+        ParseCommandLine({"--skin", "BlueSkin", "--language", "34", "--open", "Devices", "--open", "Wiper",
+                          "--tour", "pictures", "--report", "-", "--demonstration"},
+                         error);
     ASSERT_TRUE(line) << error.toStdString();
     EXPECT_EQ(line->skin, "BlueSkin");
     EXPECT_EQ(line->language, 34);
