@@ -771,11 +771,11 @@
     </message>
     <message>
         <source>Last 7 days</source>
-        <translation>آخر 7 أيام</translation>
+        <translation>آخر ٧ أيام</translation>
     </message>
     <message>
         <source>Last 30 days</source>
-        <translation>آخر 30 يومًا</translation>
+        <translation>آخر ٣٠ يومًا</translation>
     </message>
     <message>
         <source>All days</source>

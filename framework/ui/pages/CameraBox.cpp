@@ -35,6 +35,7 @@ CCameraBox::CCameraBox(QWidget* parent) : QComboBox(parent)
     completer()->popup()->setItemDelegate(
         new QStyledItemDelegate(this)); // that of completers knows no sheets
     connect(this, qOverload<int>(&QComboBox::activated), this, &CCameraBox::Take);
+    connect(lineEdit(), &QLineEdit::textChanged, this, &CCameraBox::AlignText);
     connect(lineEdit(), &QLineEdit::returnPressed, this, &CCameraBox::Take);
 }
 
@@ -65,6 +66,7 @@ void CCameraBox::Fill(const CResources& resources)
     setCurrentIndex(m_taken);
     if (m_taken < 0)
         setEditText(m_identifier);
+    AlignText();
 }
 
 CCameraBox::Choice CCameraBox::Chosen() const
@@ -73,6 +75,13 @@ CCameraBox::Choice CCameraBox::Chosen() const
         return {LocalFileCondition::Camera, m_identifier.toStdString()};
     return {static_cast<LocalFileCondition>(itemData(m_taken, kConditionRole).toInt()),
             itemData(m_taken, kGuidRole).toString().toStdString()};
+}
+
+// A line edit aligns by the language of its text, which would part a Latin name from its icon.
+void CCameraBox::AlignText()
+{
+    const bool isForeign = isRightToLeft() && !currentText().isRightToLeft();
+    lineEdit()->setAlignment((isForeign ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
 // Two groups may have one name: the entry that the user chose, then, not the first of its name.

@@ -37,6 +37,7 @@ private:
     void AddEntry(const QString& iconName, const QString& text, const std::string& guid,
                   protocol::LocalFileCondition condition);
     void Take();
+    void AlignText();
 
     int m_taken = -1; ///< the entry that is chosen; -1: the identifier
     QString m_identifier;

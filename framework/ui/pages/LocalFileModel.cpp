@@ -30,6 +30,12 @@ qint64 LengthOf(const LocalFileQueryItem& file)
 
 } // namespace
 
+QString PathText(const QString& path)
+{
+    constexpr QChar kLeftToRightMark(0x200e);
+    return kLeftToRightMark + path;
+}
+
 QString KiBText(qint64 kib)
 {
     if (kib <= 0)
@@ -125,7 +131,7 @@ QString CLocalFileModel::TextOf(const LocalFileQueryItem& file, int column) cons
     case Size:
         return KiBText(file.filSize);
     default:
-        return PathOf(file);
+        return PathText(PathOf(file));
     }
 }
 

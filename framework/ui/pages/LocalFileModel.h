@@ -65,6 +65,8 @@ protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
 };
 
+/// A path that keeps its order among words that are read from right to left.
+QString PathText(const QString& path);
 /// A size as people read it: "312 KiB", "1.4 MiB".
 QString KiBText(qint64 kib);
 /// A length of time: "0:07", "1:02:03".

@@ -32,7 +32,7 @@ using protocol::LocalFileType;
 
 namespace {
 
-constexpr int kWidths[] = {320, 120, 144, 168, 80, 96};
+constexpr int kWidths[] = {336, 120, 144, 168, 80, 96};
 constexpr int kRowHeight = Grid::Huge + Grid::Medium;
 constexpr int kCameraWidth = 280;
 constexpr int kSearchWidth = 200;
@@ -368,12 +368,12 @@ void CLocalFilesPage::OpenPlace(const LocalFilePlace& place, Opening what)
     else if (place.path.isEmpty())
         problem = tr("The file is no longer in the catalogue.");
     else if (!place.exists)
-        problem = tr("The file is gone: %1").arg(place.path);
+        problem = tr("The file is gone: %1").arg(PathText(place.path));
     else {
         const bool isFile = what == Opening::File && IsPictureOrClip(place.path);
         const QString target = isFile ? place.path : QFileInfo(place.path).path();
         if (!QDesktopServices::openUrl(QUrl::fromLocalFile(target)))
-            problem = tr("No program opens %1").arg(target);
+            problem = tr("No program opens %1").arg(PathText(target));
     }
     if (problem.isEmpty())
         return;
