@@ -186,17 +186,21 @@ CLocalFileFilter::CLocalFileFilter(CLocalFileModel* model) : QSortFilterProxyMod
     setSourceModel(model);
     setSortRole(Qt::UserRole);
     setSortLocaleAware(true);
-    setFilterCaseSensitivity(Qt::CaseInsensitive);
+}
+
+void CLocalFileFilter::SetText(const QString& text)
+{
+    m_text = text;
+    invalidateFilter();
 }
 
 bool CLocalFileFilter::filterAcceptsRow(int row, const QModelIndex& parent) const
 {
-    const QRegularExpression wanted = filterRegularExpression();
-    if (wanted.pattern().isEmpty())
+    if (m_text.isEmpty())
         return true;
     for (const int column :
          {CLocalFileModel::Name, CLocalFileModel::Camera, CLocalFileModel::Group, CLocalFileModel::Path})
-        if (sourceModel()->index(row, column, parent).data().toString().contains(wanted))
+        if (sourceModel()->index(row, column, parent).data().toString().contains(m_text, Qt::CaseInsensitive))
             return true;
     return false;
 }

@@ -61,8 +61,14 @@ class CLocalFileFilter : public QSortFilterProxyModel
 public:
     explicit CLocalFileFilter(CLocalFileModel* model);
 
+    /// Empty: all records are shown.
+    void SetText(const QString& text);
+
 protected:
     bool filterAcceptsRow(int row, const QModelIndex& parent) const override;
+
+private:
+    QString m_text;
 };
 
 /// A path that keeps its order among words that are read from right to left.

@@ -127,6 +127,7 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     m_span->addItems({tr("Today"), tr("Last 7 days"), tr("Last 30 days"), tr("All days")});
     m_span->setCurrentIndex(int(Span::Week));
     m_count->setObjectName("count");
+    m_count->setWordWrap(false);
     auto* kinds = new QHBoxLayout;
     kinds->setSpacing(Grid::Tight);
     kinds->addWidget(AddKind(tr("Pictures"), "picture", "pictures", LocalFileType::Picture));
@@ -143,7 +144,7 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     connect(m_kinds, &QButtonGroup::idClicked, this, &CLocalFilesPage::Reload);
     connect(m_cameras, &CCameraBox::ChoiceChanged, this, &CLocalFilesPage::Reload);
     connect(m_span, qOverload<int>(&QComboBox::activated), this, &CLocalFilesPage::Reload);
-    connect(search, &QLineEdit::textChanged, m_filter, &QSortFilterProxyModel::setFilterFixedString);
+    connect(search, &QLineEdit::textChanged, m_filter, &CLocalFileFilter::SetText);
     connect(search, &QLineEdit::textChanged, this, &CLocalFilesPage::ShowCount);
     return row;
 }

@@ -111,7 +111,7 @@ struct LocalFilesPageTest : testing::Test
     std::unique_ptr<CLocalFilesPage> page;
 };
 
-TEST_F(LocalFilesPageTest, SortsByTimeLengthAndSizeByWhatTheyAre)
+TEST_F(LocalFilesPageTest, SortsByWhatTimesLengthsAndSizesAreAndSearchesTheNames)
 {
     ASSERT_EQ(source.queries.size(), 1u);
     EXPECT_EQ(source.queries[0].contition, protocol::LocalFileCondition::Group);
@@ -122,6 +122,8 @@ TEST_F(LocalFilesPageTest, SortsByTimeLengthAndSizeByWhatTheyAre)
     EXPECT_THAT(NamesBy(kTime), ElementsAre("c", "b", "a"));
     EXPECT_THAT(NamesBy(kTime + 1), ElementsAre("b", "c", "a"));
     EXPECT_THAT(NamesBy(kTime + 2), ElementsAre("c", "a", "b"));
+    page->findChild<QLineEdit*>("search")->setText("B");
+    EXPECT_THAT(NamesBy(kTime), ElementsAre("b"));
     EXPECT_EQ(page->FileCount(), 3);
 }
 
