@@ -90,18 +90,20 @@ void CDemonstration::State::Run()
 {
     if (progress.Get().begin.count == 0 && !Begin())
         return;
+    if (core.Resources().Devices().empty())
+        AddDevices();
     const Progress before = progress.Get();
     const std::vector<DemonstrationFile> files =
         PlanDemonstration(core.Resources(), before.begin.count, kFiles);
     std::string problem;
     int reported = before.reported;
-    for (; reported < static_cast<int>(files.size()) && problem.empty(); ++reported) {
+    while (reported < static_cast<int>(files.size()) && problem.empty()) {
         problem = Make(files[static_cast<std::size_t>(reported)], reported == before.reported);
-        if (problem.empty() && !Note(reported + 1))
+        if (problem.empty() && !Note(++reported))
             problem = "the state cannot be saved";
     }
     if (!problem.empty())
-        BASE_WARN("The demonstration stopped at file %d: %s.", reported, problem.c_str());
+        BASE_WARN("The demonstration stopped after %d files: %s.", reported, problem.c_str());
     else if (progress.Change([](Progress& now) { return now.isOver = true; }))
         BASE_INFO("The demonstration has %d files.", reported);
     if (reported > before.reported)
@@ -118,11 +120,7 @@ bool CDemonstration::State::Begin()
         now.isOver = !isFresh;
         return true;
     };
-    if (!progress.Change(begin))
-        return false;
-    if (isFresh)
-        AddDevices();
-    return isFresh;
+    return progress.Change(begin) && isFresh;
 }
 
 void CDemonstration::State::AddDevices()
