@@ -96,6 +96,9 @@ void CCameraBox::Take()
         return;
     m_taken = entry;
     m_identifier = entry < 0 ? text : QString();
+    setCurrentIndex(entry);
+    if (entry < 0)
+        setEditText(text);
     emit ChoiceChanged();
 }
 

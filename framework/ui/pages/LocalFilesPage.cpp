@@ -269,13 +269,21 @@ void CLocalFilesPage::Take(AskOutcome outcome, const ILocalFileSource::Files& fi
     m_table->setColumnHidden(CLocalFileModel::Length, Type() == LocalFileType::Picture);
     m_model->SetFiles(files);
     if (files->empty())
-        return ShowReason("gallery", Type() == LocalFileType::Picture ? tr("No pictures") : tr("No clips"),
-                          tr("Nothing was catalogued for this camera or group in these days."));
+        return ShowEmpty();
     Show(m_table);
     const int row = m_model->RowOf(chosen);
     if (row >= 0)
         m_table->selectRow(m_filter->mapFromSource(m_model->index(row, 0)).row());
     UpdateButtons();
+}
+
+void CLocalFilesPage::ShowEmpty()
+{
+    const QString sentence = tr("Nothing was catalogued for this camera or group in these days.");
+    if (Type() == LocalFileType::Picture)
+        ShowReason("picture", tr("No pictures"), sentence);
+    else
+        ShowReason("video", tr("No clips"), sentence);
 }
 
 void CLocalFilesPage::Show(QWidget* state)
@@ -296,6 +304,7 @@ void CLocalFilesPage::ShowReason(const char* iconName, const QString& title, con
     Show(m_table);
     auto* reason = new CEmptyState(iconName, title, sentence, m_states);
     reason->setObjectName("reason");
+    setSurface(reason, Surface::Card);
     reason->SetAction(action);
     connect(reason, &CEmptyState::SignalAction, this, &CLocalFilesPage::Reload);
     m_reason = reason;

@@ -63,6 +63,7 @@ private:
     /// Shows that there is no list, and why.
     void ShowReason(const char* iconName, const QString& title, const QString& sentence,
                     const QString& action = {});
+    void ShowEmpty();
     void ShowAway();
     void ShowFailure(const QString& sentence);
     void ShowCount();
