@@ -91,7 +91,9 @@ void CCameraBox::Take()
     if (text.isEmpty())
         return;
     const bool isCurrent = currentIndex() >= 0 && itemText(currentIndex()) == text;
-    const int entry = isCurrent ? currentIndex() : findText(text, Qt::MatchFixedString);
+    int entry = isCurrent ? currentIndex() : findText(text, Qt::MatchFixedString);
+    if (entry < 0)
+        entry = findText(text, Qt::MatchContains); // the first that the completer shows
     if (entry == m_taken && (entry >= 0 || text == m_identifier))
         return;
     m_taken = entry;

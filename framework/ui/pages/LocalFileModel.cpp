@@ -30,10 +30,23 @@ qint64 LengthOf(const LocalFileQueryItem& file)
 
 } // namespace
 
+QString LineText(QString text)
+{
+    const auto disturbs = [](QChar character) {
+        const ushort code = character.unicode();
+        const bool isDirection = (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
+        return isDirection || character.category() == QChar::Other_Control ||
+               character.category() == QChar::Separator_Line ||
+               character.category() == QChar::Separator_Paragraph;
+    };
+    std::replace_if(text.begin(), text.end(), disturbs, QChar(QChar::ReplacementCharacter));
+    return text;
+}
+
 QString PathText(const QString& path)
 {
     constexpr QChar kLeftToRightMark(0x200e);
-    return kLeftToRightMark + path;
+    return kLeftToRightMark + LineText(path);
 }
 
 QString KiBText(qint64 kib)
@@ -68,6 +81,7 @@ void CLocalFileModel::SetFiles(ILocalFileSource::Files files)
 {
     beginResetModel();
     m_files = std::move(files);
+    m_thumbnails->RetryFailed();
     endResetModel();
 }
 
@@ -115,11 +129,11 @@ QString CLocalFileModel::TextOf(const LocalFileQueryItem& file, int column) cons
 {
     const auto named = [this](const std::string& guid) {
         const QString text = QString::fromStdString(guid);
-        return m_names.value(text, text);
+        return LineText(m_names.value(text, text));
     };
     switch (column) {
     case Name:
-        return QString::fromStdString(file.fileName);
+        return LineText(QString::fromStdString(file.fileName));
     case Camera:
         return named(file.cameraGuid);
     case Group:
@@ -157,6 +171,8 @@ QPixmap CLocalFileModel::PictureOf(const LocalFileQueryItem& file) const
 
 QVariant CLocalFileModel::data(const QModelIndex& index, int role) const
 {
+    if (!index.isValid())
+        return {};
     const LocalFileQueryItem& file = File(index.row());
     switch (role) {
     case Qt::DisplayRole:

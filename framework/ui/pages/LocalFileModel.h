@@ -71,7 +71,10 @@ private:
     QString m_text;
 };
 
-/// A path that keeps its order among words that are read from right to left.
+/// Untrusted text as one line: what breaks lines, or turns the order of characters so that "gpj.exe" reads
+/// "exe.jpg", is replaced.
+QString LineText(QString text);
+/// A path, as LineText, that keeps its order among words that are read from right to left.
 QString PathText(const QString& path);
 /// A size as people read it: "312 KiB", "1.4 MiB".
 QString KiBText(qint64 kib);

@@ -1,14 +1,13 @@
 #include "framework/ui/pages/Thumbnails.h"
 
 #include "VantorGUIToolkit/Icons.h"
+#include "framework/ui/parts/DiskLook.h"
 
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QImageReader>
 #include <QPainter>
 #include <QPalette>
-#include <QThreadPool>
-
-#include <mutex>
 
 namespace framework {
 
@@ -25,16 +24,33 @@ QSize InPixels()
     return CThumbnails::kSize * qApp->devicePixelRatio();
 }
 
-/// Fills the size, cutting what sticks out. Null for what is no picture, or one of absurd size.
+/// Of what cameras write. Qt has readers for more; a vector graphic is a program of a kind.
+bool IsPhotograph(const QByteArray& format)
+{
+    return format == "jpeg" || format == "png" || format == "bmp";
+}
+
+bool IsBounded(const QSize& size)
+{
+    return !size.isEmpty() && qint64(size.width()) * size.height() <= kMostPixels;
+}
+
+/// Fills the size, cutting what sticks out. Null for what is no picture, or one of absurd size or shape.
 QImage Read(const QString& path, const QSize& size)
 {
+    if (!QFileInfo(path).isFile()) // opening a pipe would wait for a writer
+        return {};
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     const QSize whole = reader.size();
-    if (whole.isEmpty() || qint64(whole.width()) * whole.height() > kMostPixels)
+    if (!IsPhotograph(reader.format()) || !IsBounded(whole))
         return {};
-    reader.setScaledSize(whole.scaled(size, Qt::KeepAspectRatioByExpanding));
+    const bool isTurned = reader.transformation() & QImageIOHandler::TransformationRotate90;
+    const QSize scaled = whole.scaled(isTurned ? size.transposed() : size, Qt::KeepAspectRatioByExpanding);
+    if (!IsBounded(scaled))
+        return {};
+    reader.setScaledSize(scaled);
     const QImage picture = reader.read();
     const QRect middle(QPoint((picture.width() - size.width()) / 2, (picture.height() - size.height()) / 2),
                        size);
@@ -57,38 +73,13 @@ QPixmap Rounded(Draw draw)
 
 } // namespace
 
-/// What the reading thread knows of the thumbnails, which may be gone before it has read.
-struct CThumbnails::Reader
-{
-    std::mutex mutex;
-    CThumbnails* owner;
-
-    void Tell(const QString& path, const QImage& picture)
-    {
-        const std::lock_guard<std::mutex> lock(mutex);
-        if (owner)
-            QMetaObject::invokeMethod(
-                owner, [owner = owner, path, picture] { owner->Take(path, picture); }, Qt::QueuedConnection);
-    }
-};
-
-CThumbnails::CThumbnails(QObject* parent)
-    : QObject(parent), m_pictures(kMostKept), m_reader(std::make_shared<Reader>())
-{
-    m_reader->owner = this;
-}
-
-CThumbnails::~CThumbnails()
-{
-    const std::lock_guard<std::mutex> lock(m_reader->mutex);
-    m_reader->owner = nullptr;
-}
+CThumbnails::CThumbnails(QObject* parent) : QObject(parent), m_pictures(kMostKept) {}
 
 QPixmap CThumbnails::Of(const QString& path, const QString& iconName)
 {
     if (const QPixmap* picture = m_pictures.object(path))
         return picture->isNull() ? Tile(iconName) : *picture;
-    if (!path.isEmpty()) {
+    if (!path.isEmpty() && path != m_reading) {
         m_wanted.removeOne(path);
         m_wanted.append(path);
         if (m_wanted.size() > kMostWanted)
@@ -114,17 +105,23 @@ const QPixmap& CThumbnails::Tile(const QString& iconName)
 
 void CThumbnails::ReadNext()
 {
-    if (m_isReading || m_wanted.isEmpty())
+    if (!m_reading.isEmpty() || m_wanted.isEmpty())
         return;
-    m_isReading = true;
-    const QString path = m_wanted.takeLast();
-    QThreadPool::globalInstance()->start(
-        [path, size = InPixels(), reader = m_reader] { reader->Tell(path, Read(path, size)); });
+    m_reading = m_wanted.takeLast();
+    const auto read = [path = m_reading, size = InPixels()] { return Read(path, size); };
+    LookAtDisk(this, read, [this, path = m_reading](const QImage& picture) { Take(path, picture); });
+}
+
+void CThumbnails::RetryFailed()
+{
+    for (const QString& path : m_pictures.keys())
+        if (m_pictures.object(path)->isNull())
+            m_pictures.remove(path);
 }
 
 void CThumbnails::Take(const QString& path, const QImage& picture)
 {
-    m_isReading = false;
+    m_reading.clear();
     auto* pixmap = new QPixmap;
     if (!picture.isNull())
         *pixmap = Rounded([&](QPainter& painter, const QRect& area) {

@@ -5,8 +5,6 @@
 #include <QPixmap>
 #include <QStringList>
 
-#include <memory>
-
 namespace framework {
 
 /// Small pictures of picture files, read on another thread when they are first shown; the latest that was
@@ -20,18 +18,17 @@ public:
     static constexpr QSize kSize{64, 36};
 
     explicit CThumbnails(QObject* parent);
-    ~CThumbnails() override;
 
     /// The picture, of kSize; until it is there, and for a file that cannot be shown, a tile with the icon.
     QPixmap Of(const QString& path, const QString& iconName);
+    /// What could not be shown is read again when it is wanted the next time: it may be there by now.
+    void RetryFailed();
 
 signals:
     /// One more is there.
     void Loaded();
 
 private:
-    struct Reader;
-
     const QPixmap& Tile(const QString& iconName);
     void ReadNext();
     void Take(const QString& path, const QImage& picture);
@@ -39,8 +36,7 @@ private:
     QCache<QString, QPixmap> m_pictures; ///< by path; null for a file that cannot be shown
     QHash<QString, QPixmap> m_tiles;     ///< by icon
     QStringList m_wanted;                ///< the latest last
-    bool m_isReading = false;
-    std::shared_ptr<Reader> m_reader;
+    QString m_reading;                   ///< empty: nothing is being read
 };
 
 } // namespace framework

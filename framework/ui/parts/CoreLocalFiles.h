@@ -20,9 +20,6 @@ public:
     ComponentState State() const override;
 
 private:
-    template<typename Task>
-    void Post(Task task);
-
     CFrameworkCore& m_core;
 };
 

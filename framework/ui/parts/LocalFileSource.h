@@ -16,8 +16,8 @@ namespace framework {
 struct LocalFilePlace
 {
     AskOutcome outcome = AskOutcome::NotThere;
-    QString path; ///< empty: there is no such record
-    bool exists = false;
+    QString path;        ///< empty: there is no such record
+    bool exists = false; ///< as a file, and the path is a whole one
 };
 
 /// The component's catalogue of pictures and clips as a page sees it. GUI thread; answers arrive there too,

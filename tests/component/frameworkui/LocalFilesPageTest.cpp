@@ -111,7 +111,7 @@ struct LocalFilesPageTest : testing::Test
     std::unique_ptr<CLocalFilesPage> page;
 };
 
-TEST_F(LocalFilesPageTest, SortsByWhatTimesLengthsAndSizesAreAndSearchesTheNames)
+TEST_F(LocalFilesPageTest, SortsByWhatTimesLengthsAndSizesAreAndShowsAndSearchesTheNames)
 {
     ASSERT_EQ(source.queries.size(), 1u);
     EXPECT_EQ(source.queries[0].contition, protocol::LocalFileCondition::Group);
@@ -125,6 +125,9 @@ TEST_F(LocalFilesPageTest, SortsByWhatTimesLengthsAndSizesAreAndSearchesTheNames
     page->findChild<QLineEdit*>("search")->setText("B");
     EXPECT_THAT(NamesBy(kTime), ElementsAre("b"));
     EXPECT_EQ(page->FileCount(), 3);
+    page->Reload();
+    source.Answer(1, {File("b\n\u202Egpj.exe", 1, 1, 1)});
+    EXPECT_THAT(NamesBy(kTime), ElementsAre("b\uFFFD\uFFFDgpj.exe"));
 }
 
 TEST_F(LocalFilesPageTest, SaysWhyThereIsNoList)
@@ -156,7 +159,11 @@ TEST_F(LocalFilesPageTest, TakesOnlyTheAnswerToTheLatestQuestion)
     EXPECT_EQ(source.queries[2].type, LocalFileType::Video);
     EXPECT_EQ(source.queries[2].contition, protocol::LocalFileCondition::Camera);
     EXPECT_EQ(source.queries[2].guid, "a camera of elsewhere");
-    source.Answer(2, {File("new", 1, 1, 1)});
+    camera->setText("camera 0");
+    QApplication::sendEvent(camera, &enter);
+    ASSERT_EQ(source.queries.size(), 4u);
+    EXPECT_EQ(source.queries[3].guid, resources.Channels({})[0].guid) << "a part of a name";
+    source.Answer(3, {File("new", 1, 1, 1)});
     source.Answer(0, {File("old", 1, 1, 1), File("older", 1, 1, 1)});
     EXPECT_EQ(page->FileCount(), 1);
 }
