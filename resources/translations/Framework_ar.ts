@@ -696,7 +696,7 @@
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
-        <translation>أقل من 1 KiB</translation>
+        <translation>أقل من ١ KiB</translation>
     </message>
     <message>
         <source>Name</source>

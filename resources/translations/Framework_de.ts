@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>Length</source>
-        <translation>Länge</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Size</source>
@@ -739,7 +739,7 @@
     </message>
     <message>
         <source>Show folder</source>
-        <translation>Ordner zeigen</translation>
+        <translation>Ordner anzeigen</translation>
     </message>
     <message>
         <source>Loading</source>
@@ -831,7 +831,7 @@
     </message>
     <message>
         <source>The list cannot be shown</source>
-        <translation>Die Liste kann nicht gezeigt werden</translation>
+        <translation>Die Liste kann nicht angezeigt werden</translation>
     </message>
     <message>
         <source>Try again</source>

@@ -434,7 +434,7 @@
     </message>
     <message>
         <source>Try again</source>
-        <translation>נסה שוב</translation>
+        <translation>נסו שוב</translation>
     </message>
     <message>
         <source>The component ended. It is being restarted…</source>
@@ -716,7 +716,7 @@
     </message>
     <message>
         <source>Length</source>
-        <translation>אורך</translation>
+        <translation>משך</translation>
     </message>
     <message>
         <source>Size</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>Try again</source>
-        <translation>נסה שוב</translation>
+        <translation>נסו שוב</translation>
     </message>
     <message>
         <source>Pictures: %1 (%2)</source>

@@ -11,8 +11,6 @@ namespace framework {
 
 namespace {
 
-constexpr int kFiles = 60;
-
 /// How far it has come.
 struct Progress
 {
@@ -59,6 +57,7 @@ struct CDemonstration::State
     CFrameworkCore& core;
     std::function<void()> onReported;
     TStored<Progress> progress;
+    int count;
 
     void Run();
     [[nodiscard]] bool Begin();
@@ -70,9 +69,9 @@ struct CDemonstration::State
 };
 
 CDemonstration::CDemonstration(CFrameworkCore& core, const std::string& folder,
-                               std::function<void()> onReported)
+                               std::function<void()> onReported, int files)
     : m_state(new State{
-          core, std::move(onReported), {folder + "demonstration.json", [] { return Progress(); }, {}}})
+          core, std::move(onReported), {folder + "demonstration.json", [] { return Progress(); }, {}}, files})
 {}
 
 CDemonstration::~CDemonstration() = default;
@@ -94,7 +93,7 @@ void CDemonstration::State::Run()
         AddDevices();
     const Progress before = progress.Get();
     const std::vector<DemonstrationFile> files =
-        PlanDemonstration(core.Resources(), before.begin.count, kFiles);
+        PlanDemonstration(core.Resources(), before.begin.count, count);
     std::string problem;
     int reported = before.reported;
     while (reported < static_cast<int>(files.size()) && problem.empty()) {

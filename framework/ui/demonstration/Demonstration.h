@@ -15,8 +15,9 @@ class CDemonstration
 {
 public:
     /// folder: where the state is kept, ends in "/". onReported is called on a thread of its own after a run
-    /// that reported something.
-    CDemonstration(CFrameworkCore& core, const std::string& folder, std::function<void()> onReported);
+    /// that reported something. files: how many pictures and clips there are in the end.
+    CDemonstration(CFrameworkCore& core, const std::string& folder, std::function<void()> onReported,
+                   int files = 60);
     /// Waits for the run, which ends soon after the core is stopped.
     ~CDemonstration();
 

@@ -32,9 +32,11 @@ using protocol::LocalFileType;
 
 namespace {
 
-constexpr int kWidths[] = {336, 120, 144, 168, 80, 96};
+constexpr int kWidths[] = {336, 120, 144, 168, 80, 120};
 constexpr int kRowHeight = Grid::Huge + Grid::Medium;
-constexpr int kCameraWidth = 280;
+constexpr int kLeastCameraWidth = 144;
+constexpr int kMostCameraWidth = 280;
+constexpr int kCameraStretch = 16; ///< it grows first
 constexpr int kSearchWidth = 200;
 constexpr int kSlowMs = 200; ///< an answer that comes sooner is not worth a flicker
 
@@ -121,7 +123,8 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     search->setMaximumWidth(kSearchWidth);
     m_cameras->setObjectName("cameras");
     m_cameras->setAccessibleName(tr("Camera or group"));
-    m_cameras->setMinimumWidth(kCameraWidth);
+    m_cameras->setMinimumWidth(kLeastCameraWidth);
+    m_cameras->setMaximumWidth(kMostCameraWidth);
     m_span->setObjectName("span");
     m_span->setAccessibleName(tr("Days"));
     m_span->addItems({tr("Today"), tr("Last 7 days"), tr("Last 30 days"), tr("All days")});
@@ -136,7 +139,7 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     auto* row = new QHBoxLayout;
     row->setSpacing(Grid::Medium);
     row->addLayout(kinds);
-    row->addWidget(m_cameras);
+    row->addWidget(m_cameras, kCameraStretch);
     row->addWidget(m_span);
     row->addWidget(search);
     row->addStretch(1);

@@ -44,10 +44,12 @@ protected:
     /// The whole of a run, if there is anything to do.
     void Run()
     {
-        framework::CDemonstration demonstration(*core, Folder(), [this] { ++reports; });
+        framework::CDemonstration demonstration(
+            *core, Folder(), [this] { ++reports; }, kFiles);
         demonstration.Run();
     }
 
+    static constexpr int kFiles = 12;
     static constexpr std::size_t kLost = 6; ///< the first clip is among those before
     protocol::LocalFileQueryResult known;   ///< the latest record
     std::vector<protocol::LocalFileNotify> records;
@@ -64,7 +66,7 @@ TEST_F(Demonstration, GoesOnWhereItEndedAndMakesEachFileOnce)
     for (int again = 0; again < 2; ++again)
         Run();
     EXPECT_EQ(reports, 2);
-    ASSERT_EQ(records.size(), 60u);
+    ASSERT_EQ(records.size(), std::size_t(kFiles));
 
     std::set<std::string> paths;
     int clips = 0;
@@ -80,7 +82,7 @@ TEST_F(Demonstration, GoesOnWhereItEndedAndMakesEachFileOnce)
                   frames * QFileInfo(picture).size() / 2);
     }
     EXPECT_EQ(paths.size(), records.size());
-    EXPECT_EQ(clips, 20);
+    EXPECT_EQ(clips, kFiles / 3);
 }
 
 TEST_F(Demonstration, LeavesADataRootWithDevicesAlone)
