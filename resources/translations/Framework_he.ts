@@ -696,7 +696,7 @@
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
-        <translation>פחות מ‎-1 KiB</translation>
+        <translation>פחות מ־1 KiB</translation>
     </message>
     <message>
         <source>Name</source>

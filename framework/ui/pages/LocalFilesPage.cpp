@@ -38,7 +38,8 @@ constexpr int kLeastCameraWidth = 144;
 constexpr int kMostCameraWidth = 280;
 constexpr int kCameraStretch = 16; ///< it grows first
 constexpr int kSearchWidth = 200;
-constexpr int kSlowMs = 200; ///< an answer that comes sooner is not worth a flicker
+constexpr int kLeastCountWidth = 160; ///< so that nothing moves when it comes and goes
+constexpr int kSlowMs = 200;          ///< an answer that comes sooner is not worth a flicker
 
 /// Nothing else is given to the desktop, which would run programs: a path comes from the catalogue, which any
 /// program of the user can add to.
@@ -131,6 +132,8 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     m_span->setCurrentIndex(int(Span::Week));
     m_count->setObjectName("count");
     m_count->setWordWrap(false);
+    m_count->setMinimumWidth(kLeastCountWidth);
+    m_count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     auto* kinds = new QHBoxLayout;
     kinds->setSpacing(Grid::Tight);
     kinds->addWidget(AddKind(tr("Pictures"), "picture", "pictures", LocalFileType::Picture));
@@ -142,8 +145,7 @@ QHBoxLayout* CLocalFilesPage::MakeChoices()
     row->addWidget(m_cameras, kCameraStretch);
     row->addWidget(m_span);
     row->addWidget(search);
-    row->addStretch(1);
-    row->addWidget(m_count);
+    row->addWidget(m_count, 1);
     connect(m_kinds, &QButtonGroup::idClicked, this, &CLocalFilesPage::Reload);
     connect(m_cameras, &CCameraBox::ChoiceChanged, this, &CLocalFilesPage::Reload);
     connect(m_span, qOverload<int>(&QComboBox::activated), this, &CLocalFilesPage::Reload);
