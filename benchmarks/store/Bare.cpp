@@ -54,7 +54,7 @@ std::string CBare::RunForFirst(const std::string& sql)
 void CBare::InsertMany(const char* sql, int count,
                        const std::function<void(sqlite3_stmt* insert, int row)>& bind)
 {
-    Run("PRAGMA cache_size = -400000"); // KiB: indexes are filled in no order
+    Run("PRAGMA cache_size = -1500000"); // KiB: indexes are filled in no order
     Run("BEGIN");
     sqlite3_stmt* const insert = Prepare(sql, std::string(sql).size());
     for (int row = 0; row < count; ++row) {
