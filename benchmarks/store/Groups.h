@@ -12,4 +12,7 @@ void MeasureAdds(const Kind& kind, bool quick);
 /// few and with many cameras.
 void MeasureLookups(const Kind& kind, bool quick);
 
+/// Saving settings of which one changed, and of which none did.
+void MeasureSettings(const Kind& kind, bool quick);
+
 } // namespace bench

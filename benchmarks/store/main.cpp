@@ -1,5 +1,5 @@
-// Measures the catalogue of local files beside the same statements, with the same commits, on the engine's
-// bare C interface: same library, schema and settings, call by call in turn.
+// Measures the catalogue of local files and the settings beside the same statements, with the same commits,
+// on the engine's bare C interface: same library, schema and settings, call by call in turn.
 
 #include "store/Groups.h"
 
@@ -14,6 +14,7 @@ int main(int argc, char** argv)
     for (const bench::Kind& kind :
          {bench::Kind{"plain", ""}, bench::Kind{"keyed", Base::Encrypt::RandomKeyText()}}) {
         bench::MeasureAdds(kind, quick);
+        bench::MeasureSettings(kind, quick);
         bench::MeasureLookups(kind, quick);
     }
     return 0;
