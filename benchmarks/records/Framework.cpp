@@ -3,6 +3,7 @@
 #include "Base/FileUtil.h"
 #include "LPC_Client/LPC_Client.h"
 #include "lpc/CallSeries.h"
+#include "lpc/Names.h"
 #include "records/Caller.h"
 
 #include <chrono>
@@ -19,7 +20,6 @@ constexpr auto kStartLimit = std::chrono::seconds(60);
 constexpr auto kBetweenTries = std::chrono::milliseconds(100);
 constexpr std::uint32_t kAnswerLimitMs = 10000;
 constexpr int kEndLimitMs = 20000;
-constexpr const char* kStateUrl = "/vantor/v1/internal/video/state";
 
 /// Tries until it works or the time is over.
 template<typename Try>
@@ -35,7 +35,7 @@ void Await(const char* what, Try tryOnce)
 
 } // namespace
 
-CFrameworkRun::CFrameworkRun()
+CFrameworkRun::CFrameworkRun(const std::string& url, const std::string& body)
 {
     std::string error;
     if (!m_framework.Start({Base::FileUtil::GetCurExeDir() + "Vantor.Framework", "--skin", "BlackRedSkin",
@@ -44,10 +44,10 @@ CFrameworkRun::CFrameworkRun()
         Fail("starting the framework: " + error);
     if (!lpcclient::Init("bench", false))
         Fail("setting up the channel");
-    Await("the framework", [] { return lpcclient::ConnectToServer(lpc::kFrameworkServerName); });
-    Await("the component", [this] {
+    Await("the framework", [] { return lpcclient::ConnectToServer(lpctool::kServerName); });
+    Await("the component", [&] {
         std::string answer;
-        return Call(kStateUrl, {}, answer);
+        return Call(url, body, answer);
     });
 }
 
@@ -72,8 +72,7 @@ bool CFrameworkRun::Call(const std::string& url, const std::string& body, std::s
 {
     lpc::Message reply;
     lpc::RequestId id = 0;
-    const lpc::Message request{
-        {{"protocol", "http"}, {"method", body.empty() ? "GET" : "POST"}, {"url", url}}, body};
+    const lpc::Message request{{{"protocol", "http"}, {"method", "POST"}, {"url", url}}, body};
     const bool answered = lpcclient::SendEx(reply, request, id, kAnswerLimitMs);
     answer = answered ? reply.body : std::to_string(lpcclient::GetLPCLastError());
     return answered && lpctool::ComplaintAbout(reply).empty();

@@ -13,8 +13,8 @@ namespace bench {
 class CFrameworkRun
 {
 public:
-    /// Returns when the component answers.
-    CFrameworkRun();
+    /// Returns when the component answers such a request.
+    CFrameworkRun(const std::string& url, const std::string& body);
     /// Ends both in order.
     ~CFrameworkRun();
     CFrameworkRun(const CFrameworkRun&) = delete;

@@ -155,7 +155,7 @@ int main(int argc, char** argv)
 {
     const auto length = std::chrono::seconds(argc > 1 && std::strcmp(argv[1], "--quick") == 0 ? 3 : 10);
     const bench::CFreshRoot root;
-    bench::CFrameworkRun framework;
+    bench::CFrameworkRun framework(kQueryUrl, QueryBody(kPicture, 0, kFirstTime, kNewTime));
     AddFirstPictures();
     const CallSummary alone = QueryUntil(Clock::now() + length);
     Print("query", kOfCamera, alone);
