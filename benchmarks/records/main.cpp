@@ -35,7 +35,15 @@ constexpr int kTarget = 2000;  ///< adds a second
 constexpr long long kFirstTime = 1700000000;
 constexpr long long kNewTime = 1800000000;
 
+constexpr std::chrono::milliseconds kNonstop{0};
+constexpr std::chrono::milliseconds kPaced{10}; ///< of queries
+
 enum Type { kPicture = 0, kVideo = 1 };
+
+Type TypeOf(int adder)
+{
+    return adder % 2 == 0 ? kPicture : kVideo;
+}
 
 std::string CameraOf(int number)
 {
@@ -65,26 +73,30 @@ std::string QueryBody(Type type, int camera, long long begin, long long end)
         CameraOf(camera).c_str(), begin, end);
 }
 
-/// Feeds a client until the time is over.
+/// Feeds a client until the time is over; pace: from one body to the next, or 0 for as fast as they are
+/// taken.
 template<typename Body>
-CallSummary RunUntil(Clock::time_point end, const char* url, Body body)
+CallSummary RunUntil(Clock::time_point end, const char* url, std::chrono::milliseconds pace, Body body)
 {
     CCaller caller(url);
-    for (int number = 0; Clock::now() < end; ++number)
+    auto next = Clock::now();
+    for (int number = 0; Clock::now() < end; ++number) {
         caller.Feed(body(number));
+        std::this_thread::sleep_until(next += pace);
+    }
     return caller.End();
 }
 
-CallSummary QueryUntil(Clock::time_point end)
+CallSummary QueryUntil(Clock::time_point end, std::chrono::milliseconds pace)
 {
-    return RunUntil(end, kQueryUrl,
+    return RunUntil(end, kQueryUrl, pace,
                     [](int number) { return QueryBody(kPicture, number, kFirstTime, kNewTime - 1); });
 }
 
 CallSummary AddUntil(Clock::time_point end, int adder)
 {
-    const Type type = adder % 2 == 0 ? kPicture : kVideo;
-    return RunUntil(end, kStoreUrl,
+    const Type type = TypeOf(adder);
+    return RunUntil(end, kStoreUrl, kNonstop,
                     [&](int number) { return FileBody(type, adder, number, kNewTime + number); });
 }
 
@@ -92,7 +104,7 @@ void AddFirstPictures()
 {
     CCaller caller(kStoreUrl);
     for (int number = 0; number < kCameras * kOfCamera; ++number)
-        caller.Feed(FileBody(kPicture, kAdders, number, kFirstTime + number));
+        caller.Feed(FileBody(kPicture, 2 * kAdders, number, kFirstTime + number));
     caller.End();
 }
 
@@ -123,29 +135,50 @@ void RequireAll(bench::CFrameworkRun& framework, std::size_t acknowledged)
     std::printf("# all %zu acknowledged files are in the catalogue\n", acknowledged);
 }
 
-void Print(const char* name, std::size_t size, const CallSummary& summary)
+void Print(const std::string& name, std::size_t size, const CallSummary& summary)
 {
-    std::printf("records %s %zu %.2f %.2f %.0f\n", name, size, summary.medianUs, summary.p99Us,
+    std::printf("records %s %zu %.2f %.2f %.0f\n", name.c_str(), size, summary.medianUs, summary.p99Us,
                 summary.PerSecond());
     std::fflush(stdout);
 }
 
 /// The rows of all adders; gives what they added.
-std::uint64_t PrintAdds(const std::vector<CallSummary>& adds)
+std::uint64_t PrintAdds(const char* ending, const std::vector<CallSummary>& adds)
 {
     CallSummary all;
-    for (int adder = 0; adder < kAdders; ++adder) {
-        const CallSummary& one = adds[static_cast<std::size_t>(adder)];
-        const bool isPicture = adder % 2 == 0;
-        Print(isPicture ? "add-picture" : "add-video",
-              FileBody(isPicture ? kPicture : kVideo, adder, 0, kNewTime).size(), one);
+    for (std::size_t adder = 0; adder < adds.size(); ++adder) {
+        const CallSummary& one = adds[adder];
+        const Type type = TypeOf(static_cast<int>(adder));
+        const std::string name = std::string(type == kPicture ? "add-picture" : "add-video") + ending;
+        Print(name, FileBody(type, 0, 0, kNewTime).size(), one);
         all.count += one.count;
         all.seconds = std::max(all.seconds, one.seconds);
         all.p99Us = std::max(all.p99Us, one.p99Us);
     }
-    std::printf("# add: %.0f a second of %d clients for %.1f s (target %d); p99 of the slowest %.0f us\n",
-                all.PerSecond(), kAdders, all.seconds, kTarget, all.p99Us);
+    std::printf("# add%s: %.0f a second of %d clients for %.1f s (target %d); p99 of the slowest %.0f us\n",
+                ending, all.PerSecond(), kAdders, all.seconds, kTarget, all.p99Us);
     return all.count;
+}
+
+/// Adds and queries together, for that long; prints the rows and gives what was added. first: the number of
+/// the first adder, each of which has its own paths.
+std::uint64_t MeasureTogether(const char* ending, std::chrono::seconds length, int first,
+                              std::chrono::milliseconds pace, const CallSummary& queriesAlone)
+{
+    const auto end = Clock::now() + length;
+    std::vector<CallSummary> adds(kAdders);
+    std::vector<std::thread> threads;
+    for (int adder = 0; adder < kAdders; ++adder)
+        threads.emplace_back(
+            [&, adder] { adds[static_cast<std::size_t>(adder)] = AddUntil(end, first + adder); });
+    const CallSummary queries = QueryUntil(end, pace);
+    for (std::thread& thread : threads)
+        thread.join();
+    const std::uint64_t added = PrintAdds(ending, adds);
+    Print(std::string("query-beside-adds") + ending, kOfCamera, queries);
+    std::printf("# query-beside-adds%s: median %.2f x, p99 %.2f x that of queries alone\n", ending,
+                queries.medianUs / queriesAlone.medianUs, queries.p99Us / queriesAlone.p99Us);
+    return added;
 }
 
 } // namespace
@@ -157,21 +190,12 @@ int main(int argc, char** argv)
     const bench::CFreshRoot root;
     bench::CFrameworkRun framework(kQueryUrl, QueryBody(kPicture, 0, kFirstTime, kNewTime));
     AddFirstPictures();
-    const CallSummary alone = QueryUntil(Clock::now() + length);
-    Print("query", kOfCamera, alone);
-
-    const auto end = Clock::now() + length;
-    std::vector<CallSummary> adds(kAdders);
-    std::vector<std::thread> threads;
-    for (int adder = 0; adder < kAdders; ++adder)
-        threads.emplace_back([&, adder] { adds[static_cast<std::size_t>(adder)] = AddUntil(end, adder); });
-    const CallSummary beside = QueryUntil(end);
-    for (std::thread& thread : threads)
-        thread.join();
-    const std::uint64_t added = PrintAdds(adds);
-    Print("query-beside-adds", kOfCamera, beside);
-    std::printf("# query-beside-adds: %.2f x query (median), p99 %.2f x\n", beside.medianUs / alone.medianUs,
-                beside.p99Us / alone.p99Us);
+    const CallSummary paced = QueryUntil(Clock::now() + length, kPaced);
+    Print("query", kOfCamera, paced);
+    const CallSummary nonstop = QueryUntil(Clock::now() + length, kNonstop);
+    Print("query-nonstop", kOfCamera, nonstop);
+    const std::uint64_t added = MeasureTogether("", length, 0, kPaced, paced) +
+                                MeasureTogether("-nonstop", length, kAdders, kNonstop, nonstop);
     RequireAll(framework, added + kCameras * kOfCamera);
     return 0;
 }
