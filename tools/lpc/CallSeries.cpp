@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <cstdlib>
 #include <istream>
 #include <ostream>
@@ -22,6 +23,12 @@ long NumberHeader(const lpc::Message& message, const char* name, long otherwise)
 {
     const auto found = message.headers.find(name);
     return found == message.headers.end() ? otherwise : std::strtol(found->second.c_str(), nullptr, 10);
+}
+
+/// parts: in which the unit is divided.
+double Rounded(double value, double parts)
+{
+    return std::round(value * parts) / parts;
 }
 
 } // namespace
@@ -95,9 +102,9 @@ void CCallSeries::ShowSummary(double seconds)
     const JsonValue owner = OwnJson(summary);
     cJSON_AddNumberToObject(summary, "count", static_cast<double>(m_count));
     cJSON_AddNumberToObject(summary, "failures", static_cast<double>(m_failures));
-    cJSON_AddNumberToObject(summary, "seconds", seconds);
-    cJSON_AddNumberToObject(summary, "median_us", Quantile(0.5));
-    cJSON_AddNumberToObject(summary, "p99_us", Quantile(0.99));
+    cJSON_AddNumberToObject(summary, "seconds", Rounded(seconds, 1000));
+    cJSON_AddNumberToObject(summary, "median_us", Rounded(Quantile(0.5), 1));
+    cJSON_AddNumberToObject(summary, "p99_us", Rounded(Quantile(0.99), 1));
     m_out << ToText(*owner) << '\n';
 }
 
