@@ -137,7 +137,7 @@ void RequireAll(bench::CFrameworkRun& framework, std::size_t acknowledged)
 
 void Print(const std::string& name, std::size_t size, const CallSummary& summary)
 {
-    std::printf("records %s %zu %.2f %.2f %.0f\n", name.c_str(), size, summary.medianUs, summary.p99Us,
+    std::printf("records %s %zu %.0f %.0f %.0f\n", name.c_str(), size, summary.medianUs, summary.p99Us,
                 summary.PerSecond());
     std::fflush(stdout);
 }

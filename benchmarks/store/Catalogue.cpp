@@ -50,23 +50,26 @@ void MakeDatabase(const std::string& folder, const std::string& key)
         Fail("cannot make a database in " + folder + ": " + message);
 }
 
-/// Gives an insert's parameters their values, in the order in which they are added.
-class CBinding
+void BindOne(sqlite3_stmt* insert, int at, const std::string& text)
 {
-public:
-    explicit CBinding(sqlite3_stmt* insert) : m_insert(insert) {}
-    CBinding& Add(const std::string& text)
-    {
-        sqlite3_bind_text(m_insert, ++m_at, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
-        return *this;
-    }
-    CBinding& Add(vantor::TimeValue seconds) { return Add(Base::TimeUtil::TimeT2StrDatetime(seconds)); }
-    void Add(std::int32_t number) { sqlite3_bind_int(m_insert, ++m_at, number); }
+    sqlite3_bind_text(insert, at, text.data(), static_cast<int>(text.size()), SQLITE_TRANSIENT);
+}
+void BindOne(sqlite3_stmt* insert, int at, vantor::TimeValue seconds)
+{
+    BindOne(insert, at, Base::TimeUtil::TimeT2StrDatetime(seconds));
+}
+void BindOne(sqlite3_stmt* insert, int at, std::int32_t number)
+{
+    sqlite3_bind_int(insert, at, number);
+}
 
-private:
-    sqlite3_stmt* const m_insert;
-    int m_at = 0;
-};
+/// Gives an insert's parameters their values, in their order.
+template<typename... Values>
+void Bind(sqlite3_stmt* insert, const Values&... values)
+{
+    int at = 0;
+    (BindOne(insert, ++at, values), ...);
+}
 
 } // namespace
 
@@ -161,14 +164,7 @@ void CPictures::Fill(const CStoreFolder& folder, const Kind& kind) const
             "VALUES (?, ?, ?, ?, ?, ?, ?)",
             m_rows, [this](sqlite3_stmt* insert, int row) {
                 const PictureFileRecord r = At(row);
-                CBinding(insert)
-                    .Add(r.ID)
-                    .Add(r.CameraID)
-                    .Add(r.GroupID)
-                    .Add(r.FileName)
-                    .Add(r.FilePath)
-                    .Add(r.OccurTime)
-                    .Add(r.FileSize);
+                Bind(insert, r.ID, r.CameraID, r.GroupID, r.FileName, r.FilePath, r.OccurTime, r.FileSize);
             });
 }
 
@@ -197,17 +193,8 @@ void CClips::Fill(const CStoreFolder& folder, const Kind& kind)
             "BeginTime, EndTime, FileSize) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
             kCameras * kOfCamera, [](sqlite3_stmt* insert, int number) {
                 const VideoFileRecord r = At(number);
-                CBinding(insert)
-                    .Add(r.ID)
-                    .Add(r.CameraID)
-                    .Add(r.GroupID)
-                    .Add(r.FileName)
-                    .Add(r.FilePath)
-                    .Add(r.PicturePath)
-                    .Add(r.OccurTime)
-                    .Add(r.BeginTime)
-                    .Add(r.EndTime)
-                    .Add(r.FileSize);
+                Bind(insert, r.ID, r.CameraID, r.GroupID, r.FileName, r.FilePath, r.PicturePath, r.OccurTime,
+                     r.BeginTime, r.EndTime, r.FileSize);
             });
 }
 
