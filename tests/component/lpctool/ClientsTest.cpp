@@ -3,6 +3,7 @@
 #include "lpc/Names.h"
 #include "lpc/json/Json.h"
 
+#include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,33 @@ TEST_F(Clients, ReachTheComponentThroughTheHost)
     };
     for (const auto& row : rows) {
         const auto call = m_run.Tool(row.arguments);
+        EXPECT_EQ(call->Status(), row.status) << row.output;
+        EXPECT_NE(call->Output().find(row.output), std::string::npos) << call->Output();
+    }
+    Finish();
+}
+
+TEST_F(Clients, SendManyBodiesOverOneConnection)
+{
+    const std::string path = m_run.Root().Path() + "bodies";
+    const struct
+    {
+        const char* bodies;
+        std::vector<std::string> arguments;
+        int status;
+        const char* output;
+    } rows[] = {
+        {"{\"n\": 1}\n\n[2]", {"--url", "/fake/echo"}, 0, "{\"n\":1}\n[2]\n"},
+        {"1\n2\n3\n", {"--url", "/fake/echo", "--quiet"}, 0, "{\"count\":3,\"failures\":0,\"seconds\":"},
+        {"1\n2\n", {"--url", "/fake/other", "--quiet"}, 1, "\"count\":2,\"failures\":2,"},
+        {"1\n{", {"--url", "/fake/echo"}, 2, "1\nvantor-lpc call: --bodies, line 2 is "},
+        {"", {"--url", "/fake/echo", "--body", "1"}, 2, "exclude each other"},
+    };
+    for (const auto& row : rows) {
+        ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(path, row.bodies));
+        std::vector<std::string> arguments{"call", "--bodies", path};
+        arguments.insert(arguments.end(), row.arguments.begin(), row.arguments.end());
+        const auto call = m_run.Tool(arguments);
         EXPECT_EQ(call->Status(), row.status) << row.output;
         EXPECT_NE(call->Output().find(row.output), std::string::npos) << call->Output();
     }
