@@ -44,6 +44,15 @@ public:
         return messages;
     }
 
+    /// How many messages hold the text.
+    std::size_t Count(const std::string& text) const
+    {
+        const auto lines = Lines();
+        return static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), [&](const Line& line) {
+            return line.message.find(text) != std::string::npos;
+        }));
+    }
+
     bool Has(const std::string& message) const
     {
         const auto lines = Lines();

@@ -308,12 +308,7 @@ TEST(ASearchForSecrets, FindsThemInEveryForm)
     const std::string key = "00112233445566778899aabbccddeeff0f1e2d3c4b5a69788796a5b4c3d2e1f0";
     const std::string bytes = FromHex(key).value();
     const std::vector<Secret> secrets{{"password", "sekret-word"}, {"key", key, true}};
-    const struct
-    {
-        const char* what;
-        std::string content;
-        std::string found;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
         {"nothing", "no sekret, no word", ""},
         {"as it is", "a sekret-word!", "password"},
         {"base64", "x" + Base64("sekret-word"), "password"},
@@ -327,8 +322,8 @@ TEST(ASearchForSecrets, FindsThemInEveryForm)
         {"the key in base64", Base64(bytes), "key"},
         {"a quarter", key.substr(0, 16), ""},
     };
-    for (const auto& row : rows) {
-        const auto findings = FindSecrets(secrets, "file", row.content);
-        EXPECT_EQ(findings.empty() ? "" : findings[0].what, row.found) << row.what;
+    for (const auto& [what, content, found] : rows) {
+        const auto findings = FindSecrets(secrets, "file", content);
+        EXPECT_EQ(findings.empty() ? "" : findings[0].what, found) << what;
     }
 }

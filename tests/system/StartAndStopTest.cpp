@@ -250,22 +250,18 @@ TEST_F(ASecondStart, EndsWithZeroAlsoWhenCrashReportsCannotBeSetUp)
 // What a process that starts without the framework's settings, or with fewer of them, makes of them.
 TEST(TheStartParameters, FallBackWhereTheyAreMissing)
 {
-    const struct
-    {
-        const char* arguments;
-        const char* line;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
         {"1 2 ''", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
         {"1 2 'GreyRedSkin 34'", "InitSysParameter:list-GreyRedSkin 34,skin-GreyRedSkin,lan-34,vers-0"},
         {"1 2 'BlueSkin x 7  9 9 9'", "InitSysParameter:list-BlueSkin x 7  9 9 9,skin-BlueSkin,lan-0,vers-7"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [arguments, line] : rows) {
         ComponentRun run;
-        const std::string command = run.Program() + " " + row.arguments;
+        const std::string command = run.Program() + " " + arguments;
         auto component = std::async(std::launch::async, [&] { return run.Shell(command); });
         EXPECT_TRUE(run.WaitForLog("APP Init Success", 20)) << command;
-        EXPECT_THAT(run.LogMessages(), Contains(row.line));
+        EXPECT_THAT(run.LogMessages(), Contains(line));
         run.Terminate();
         EXPECT_EQ(component.get(), 0) << command;
     }
@@ -299,19 +295,15 @@ TEST(TheComponent, RepairsDamagedLayoutFiles)
 
 TEST(ThePages, SpeakTheLanguageOfTheStartParameters)
 {
-    const struct
-    {
-        const char* language;
-        const char* line;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"1", "Made the page [MainView], titled [Main View]."},
         {"3", "Made the page [MainView], titled [Hauptansicht]."},
     };
-    for (const auto& row : rows) {
+    for (const auto& [language, line] : rows) {
         ComponentRun run;
-        EXPECT_EQ(run.PlayFile("window-handles.jsonl", std::string("--language ") + row.language), 0)
+        EXPECT_EQ(run.PlayFile("window-handles.jsonl", std::string("--language ") + language), 0)
             << run.Output();
-        EXPECT_THAT(run.LogMessages(), Contains(row.line));
+        EXPECT_THAT(run.LogMessages(), Contains(line));
     }
 }
 

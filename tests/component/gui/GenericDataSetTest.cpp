@@ -66,11 +66,7 @@ TEST(GenericDataSet, GivesElementsAttributesAndTexts)
 
 TEST(GenericDataSet, TakesWhatIsJustWithinTheLimits)
 {
-    const struct
-    {
-        const char* name;
-        QByteArray content;
-    } rows[] = {
+    const std::pair<const char*, QByteArray> rows[] = {
         {"the smallest", "<Config/>"},
         {"the deepest", Nested(CGenericDataSet::kMaxDepth)},
         {"the most elements", Many(CGenericDataSet::kMaxElements)},
@@ -79,21 +75,16 @@ TEST(GenericDataSet, TakesWhatIsJustWithinTheLimits)
         {"sixteen bits a letter", QByteArray("\xFF\xFE<\0C\0/\0>\0", 10)},
         {"Latin-1", "<?xml version='1.0' encoding='ISO-8859-1'?><C>\xE4</C>"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, content] : rows) {
         CGenericDataSet set;
-        EXPECT_TRUE(set.loadContent(row.content, row.name)) << row.name;
-        EXPECT_FALSE(set.root().name.empty()) << row.name;
+        EXPECT_TRUE(set.loadContent(content, name)) << name;
+        EXPECT_FALSE(set.root().name.empty()) << name;
     }
 }
 
 TEST(GenericDataSet, RefusesBadContentWithOneLineAndKeepsNothing)
 {
-    const struct
-    {
-        const char* name;
-        QByteArray content;
-        const char* reason;
-    } rows[] = {
+    const std::tuple<const char*, QByteArray, const char*> rows[] = {
         {"nothing", "", "empty"},
         {"blanks", "  \n ", "line"},
         {"no mark-up", "Config", "line 1"},
@@ -117,18 +108,17 @@ TEST(GenericDataSet, RefusesBadContentWithOneLineAndKeepsNothing)
         {"too many elements", Many(CGenericDataSet::kMaxElements + 1), "elements"},
         {"too large", Comment(CGenericDataSet::kMaxBytes + 1), "larger"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, content, reason] : rows) {
         CGenericDataSet set;
         ASSERT_TRUE(set.loadContent("<Config><Page/></Config>", "before"));
         CapturedLog log;
-        EXPECT_FALSE(set.loadContent(row.content, row.name)) << row.name;
-        EXPECT_TRUE(set.root().name.empty()) << row.name;
-        EXPECT_TRUE(set.root().children.empty()) << row.name;
+        EXPECT_FALSE(set.loadContent(content, name)) << name;
+        EXPECT_TRUE(set.root().name.empty()) << name;
+        EXPECT_TRUE(set.root().children.empty()) << name;
         const auto lines = log.Lines();
-        ASSERT_EQ(lines.size(), 1U) << row.name;
-        EXPECT_NE(lines[0].message.find(row.name), std::string::npos) << lines[0].message;
-        EXPECT_NE(lines[0].message.find(row.reason), std::string::npos)
-            << row.name << ": " << lines[0].message;
+        ASSERT_EQ(lines.size(), 1U) << name;
+        EXPECT_NE(lines[0].message.find(name), std::string::npos) << lines[0].message;
+        EXPECT_NE(lines[0].message.find(reason), std::string::npos) << name << ": " << lines[0].message;
     }
 }
 

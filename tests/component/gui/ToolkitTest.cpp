@@ -38,11 +38,7 @@ QByteArray ReadAll(const QString& path)
 
 TEST(Toolkit, EveryLanguageHasAnInstalledFontWithItsLetters)
 {
-    const struct
-    {
-        int language;
-        QString letters;
-    } rows[] = {
+    const std::pair<int, QString> rows[] = {
         {English, "Aaz09%"},
         {Chinese, QString::fromUtf8("设置录像Az0")},
         {German, QString::fromUtf8("ÄöüßAz0")},
@@ -51,16 +47,16 @@ TEST(Toolkit, EveryLanguageHasAnInstalledFontWithItsLetters)
     };
     ASSERT_EQ(std::size(rows), allLanguages().size());
     const QStringList installed = QFontDatabase().families();
-    for (const auto& row : rows) {
-        const FontInfo info = getFontInfoByLanguage(row.language);
-        EXPECT_GE(info.pixelSize, 12) << row.language;
+    for (const auto& [language, letters] : rows) {
+        const FontInfo info = getFontInfoByLanguage(language);
+        EXPECT_GE(info.pixelSize, 12) << language;
         const auto family = std::find_if(info.families.begin(), info.families.end(),
                                          [&](const QString& name) { return installed.contains(name); });
-        ASSERT_NE(family, info.families.end()) << "no font for " << languageTag(row.language).toStdString();
+        ASSERT_NE(family, info.families.end()) << "no font for " << languageTag(language).toStdString();
         QFont font(*family);
         font.setPixelSize(info.pixelSize);
         const QRawFont raw = QRawFont::fromFont(font);
-        for (const QChar letter : row.letters)
+        for (const QChar letter : letters)
             EXPECT_TRUE(raw.supportsCharacter(letter)) << family->toStdString() << " " << letter.unicode();
     }
 }
@@ -88,11 +84,7 @@ TEST(Toolkit, FillsMarkersOfStyleSheets)
 {
     const StyleParameters parameters = {
         {"text", "#fff"}, {"a-b_2", "x"}, {"nested", "@text@"}, {"empty", ""}};
-    const struct
-    {
-        const char* sheet;
-        const char* filled;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", ""},
         {"QLabel { color: red; }", "QLabel { color: red; }"},
         {"color: @text@;", "color: #fff;"},
@@ -105,8 +97,8 @@ TEST(Toolkit, FillsMarkersOfStyleSheets)
         {"@none@ @text@", "@none@ #fff"},
     };
     CStyleSheetFiller filler;
-    for (const auto& row : rows)
-        EXPECT_EQ(filler.Fill(row.sheet, parameters).toStdString(), row.filled);
+    for (const auto& [sheet, filled] : rows)
+        EXPECT_EQ(filler.Fill(sheet, parameters).toStdString(), filled);
 }
 
 TEST(Toolkit, WarnsOfAnUnknownMarkerOnce)

@@ -17,8 +17,8 @@
 #include <QPointer>
 
 #include <atomic>
-#include <cstdlib>
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <set>
 #include <thread>
@@ -186,19 +186,14 @@ TEST(LocalLog, ALoggerMayEndWhileOthersWrite)
 
 TEST(SystemStatus, TheShareOfAProcessorComesFromTwoReadings)
 {
-    const struct
-    {
-        ProcessUsage before;
-        ProcessUsage after;
-        double percent;
-    } rows[] = {
+    const std::tuple<ProcessUsage, ProcessUsage, double> rows[] = {
         {{1000, 500, 0}, {2000, 1000, 0}, 50},
         {{1000, 500, 0}, {2000, 2500, 0}, 200},
         {{1000, 500, 0}, {1000, 600, 0}, 0},
         {{2000, 500, 0}, {1000, 600, 0}, 0},
     };
-    for (const auto& row : rows)
-        EXPECT_DOUBLE_EQ(CpuPercent(row.before, row.after), row.percent);
+    for (const auto& [before, after, percent] : rows)
+        EXPECT_DOUBLE_EQ(CpuPercent(before, after), percent);
 }
 
 TEST(SystemStatus, ReadingsFollowWhatTheProcessUses)

@@ -39,12 +39,7 @@ protected:
 
 TEST_F(Clients, ReachTheComponentThroughTheHost)
 {
-    const struct
-    {
-        std::vector<std::string> arguments;
-        int status;
-        const char* output;
-    } rows[] = {
+    const std::tuple<std::vector<std::string>, int, const char*> rows[] = {
         {{"call", "--url", "/fake/echo", "--method", "PUT", "--body", R"({"a":[1]})"},
          0,
          "{\n\t\"a\":\t[1]\n}\n"},
@@ -54,10 +49,10 @@ TEST_F(Clients, ReachTheComponentThroughTheHost)
         {{"call", "--method", "getWndHandle"}, 1, "the answer reports status 404"},
         {{"call", "--url", "/fake/silent", "--timeout", "100"}, 1, "error 1007"},
     };
-    for (const auto& row : rows) {
-        const auto call = m_run.Tool(row.arguments);
-        EXPECT_EQ(call->Status(), row.status) << row.output;
-        EXPECT_NE(call->Output().find(row.output), std::string::npos) << call->Output();
+    for (const auto& [arguments, status, output] : rows) {
+        const auto call = m_run.Tool(arguments);
+        EXPECT_EQ(call->Status(), status) << output;
+        EXPECT_NE(call->Output().find(output), std::string::npos) << call->Output();
     }
     Finish();
 }

@@ -22,11 +22,7 @@ CAnswers::Answer Text(const std::string& body)
 TEST(Answers, HaveADefaultForEveryRouteOfAFramework)
 {
     const TestDataRoot root;
-    const struct
-    {
-        const char* url;
-        const char* member;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"/vantor/v1/internal/framework/register", "response"},
         {"/vantor/v1/internal/framework/components", "componentList"},
         {"/vantor/v1/internal/framework/system/filepath", "filepath"},
@@ -44,12 +40,12 @@ TEST(Answers, HaveADefaultForEveryRouteOfAFramework)
         {"/vantor/v1/deviceManagement/batchTimeSynchronization", "timeSyncResultList"},
         {"/vantor/v1/deviceManagement/wipers", "wiperControlResultList"},
     };
-    for (const auto& row : rows) {
-        const lpc::Message answer = CAnswers().Find(Request(row.url)).message;
-        EXPECT_EQ(answer.headers.at("status"), "200") << row.url;
-        EXPECT_EQ(answer.headers.at("Content-Type"), kJsonContentType) << row.url;
+    for (const auto& [url, member] : rows) {
+        const lpc::Message answer = CAnswers().Find(Request(url)).message;
+        EXPECT_EQ(answer.headers.at("status"), "200") << url;
+        EXPECT_EQ(answer.headers.at("Content-Type"), kJsonContentType) << url;
         const JsonValue body = ParseJson(answer.body);
-        EXPECT_TRUE(Member(body.get(), row.member)) << row.url << " " << answer.body;
+        EXPECT_TRUE(Member(body.get(), member)) << url << " " << answer.body;
         EXPECT_EQ(answer.body.find('$'), std::string::npos) << answer.body;
     }
 }

@@ -35,11 +35,7 @@ TEST(Options, TakeEverythingBehindTwoDashes)
 
 TEST(Options, ComplainAboutWhatTheyDoNotKnow)
 {
-    const struct
-    {
-        Words arguments;
-        const char* complaint;
-    } rows[] = {
+    const std::pair<Words, const char*> rows[] = {
         {{"--other"}, "unknown argument --other"},
         {{"word"}, "unknown argument word"},
         {{"--flag", "word"}, "unknown argument word"},
@@ -49,10 +45,10 @@ TEST(Options, ComplainAboutWhatTheyDoNotKnow)
         {{"--name", "a", "b"}, "unknown argument b"},
         {{"--name", "a", "--name", "b"}, "--name is given twice"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [arguments, complaint] : rows) {
         std::string error;
-        EXPECT_FALSE(COptions::Parse(row.arguments, kSpecs, error));
-        EXPECT_EQ(error, row.complaint);
+        EXPECT_FALSE(COptions::Parse(arguments, kSpecs, error));
+        EXPECT_EQ(error, complaint);
     }
 }
 
@@ -69,11 +65,7 @@ TEST(Options, CheckNumbers)
 
 TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
 {
-    const struct
-    {
-        Words arguments;
-        const char* complaint;
-    } rows[] = {
+    const std::pair<Words, const char*> rows[] = {
         {{}, "vantor-lpc drives"},
         {{"dance"}, "unknown command dance"},
         {{"host", "--spwan", "p"}, "unknown argument --spwan"},
@@ -86,30 +78,27 @@ TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
         {{"notify", "--method", "m", "--protokol", "x"}, "unknown argument --protokol"},
         {{"watch", "--count", "0"}, "--count must be"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [arguments, complaint] : rows) {
         std::istringstream in;
         std::ostringstream out;
         std::ostringstream err;
-        EXPECT_EQ(RunTool(row.arguments, in, out, err), kWrongUse) << row.complaint;
-        EXPECT_NE(err.str().find(row.complaint), std::string::npos) << err.str();
+        EXPECT_EQ(RunTool(arguments, in, out, err), kWrongUse) << complaint;
+        EXPECT_NE(err.str().find(complaint), std::string::npos) << err.str();
         EXPECT_EQ(out.str(), "");
     }
 }
 
 TEST(TheTool, ReportsAFaultOfTheScriptBeforeAnythingStarts)
 {
-    const struct
-    {
-        const char* script;
-        const char* complaint;
-    } rows[] = {{"\n{\"sleep_ms\": 0}", "-:2: \"sleep_ms\" must be"},
-                {"# a\n\n{\"expect_exit\": 0}", "-:3: needs a program started with --spawn"}};
-    for (const auto& row : rows) {
-        std::istringstream in(row.script);
+    const std::pair<const char*, const char*> rows[] = {
+        {"\n{\"sleep_ms\": 0}", "-:2: \"sleep_ms\" must be"},
+        {"# a\n\n{\"expect_exit\": 0}", "-:3: needs a program started with --spawn"}};
+    for (const auto& [script, complaint] : rows) {
+        std::istringstream in(script);
         std::ostringstream out;
         std::ostringstream err;
         EXPECT_EQ(RunTool({"host", "--script", "-"}, in, out, err), kWrongUse);
-        EXPECT_NE(err.str().find(row.complaint), std::string::npos) << err.str();
+        EXPECT_NE(err.str().find(complaint), std::string::npos) << err.str();
         EXPECT_EQ(out.str(), "");
     }
 }

@@ -25,12 +25,7 @@ TEST(ScriptFolder, GivesTheStepsInOrder)
 
 TEST(ScriptFolder, RefusesAFolderWhoseNumbersDoNotRunFromOne)
 {
-    const struct
-    {
-        const char* what;
-        std::vector<std::string> files;
-        const char* named;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<std::string>, const char*> rows[] = {
         {"no script", {}, "no script"},
         {"a gap", {"0001_a.sql", "0003_c.sql"}, "0003_c.sql"},
         {"a number twice", {"0001_a.sql", "0002_b.sql", "0002_c.sql"}, "0002_c.sql"},
@@ -40,13 +35,13 @@ TEST(ScriptFolder, RefusesAFolderWhoseNumbersDoNotRunFromOne)
         {"three digits", {"001_a.sql"}, "001_a.sql"},
         {"five digits", {"00001_a.sql"}, "00001_a.sql"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, files, named] : rows) {
         const TestDataRoot root;
-        for (const std::string& file : row.files)
+        for (const std::string& file : files)
             std::ofstream(root.Path() + file) << "SELECT 1;";
         std::string message;
-        EXPECT_FALSE(ReadScripts(root.Path(), message)) << row.what;
-        EXPECT_NE(message.find(row.named), std::string::npos) << row.what << ": " << message;
+        EXPECT_FALSE(ReadScripts(root.Path(), message)) << what;
+        EXPECT_NE(message.find(named), std::string::npos) << what << ": " << message;
     }
 }
 

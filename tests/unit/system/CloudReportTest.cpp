@@ -17,28 +17,22 @@ TEST(CloudP2P, SaysOnceWhyThereIsNoCloud)
 {
     TestDataRoot data;
     const std::string file = data.Path() + "cloud.json";
-    struct Row
-    {
-        bool configured;
-        Base::LogLevel level;
-        std::string line;
-    };
-    const Row rows[] = {
+    const std::tuple<bool, Base::LogLevel, std::string> rows[] = {
         {false, Base::LogLevel::Info,
          "Cloud service: none is configured, reports and peer-to-peer connections are off."},
         {true, Base::LogLevel::Warn,
          "Cloud service: [" + file + "] is not used, this edition has no cloud client."},
     };
-    for (const Row& row : rows) {
-        if (row.configured)
+    for (const auto& [configured, level, line] : rows) {
+        if (configured)
             std::ofstream(file) << "{}";
         CCloudP2PManager cloud;
         CapturedLog log;
-        EXPECT_EQ(cloud.loadConfig(data.Path()), row.configured);
-        EXPECT_EQ(cloud.loadConfig(data.Path()), row.configured);
+        EXPECT_EQ(cloud.loadConfig(data.Path()), configured);
+        EXPECT_EQ(cloud.loadConfig(data.Path()), configured);
         ASSERT_EQ(log.Lines().size(), 1u);
-        EXPECT_EQ(log.Lines().front().level, row.level);
-        EXPECT_EQ(log.Lines().front().message, row.line);
+        EXPECT_EQ(log.Lines().front().level, level);
+        EXPECT_EQ(log.Lines().front().message, line);
     }
 }
 

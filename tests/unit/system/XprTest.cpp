@@ -78,12 +78,7 @@ TEST_F(XprFile, ModeDecidesWhatTheFileMayBeBefore)
 
 TEST_F(XprFile, WhatCannotBeOpenedGivesNoFileAndTheReason)
 {
-    struct Row
-    {
-        const char* name;
-        int flags, mode, error;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, int, int, int> rows[] = {
         {"missing", 1, 0x1000, ENOENT},
         {"folder", 1, 0x1000, EISDIR},
         {"pipe", 1, 0x1000, EINVAL},
@@ -95,11 +90,11 @@ TEST_F(XprFile, WhatCannotBeOpenedGivesNoFileAndTheReason)
         {"old", XPR_OPEN_READ, 0, EINVAL},
         {"old", XPR_OPEN_READ, 0x3000, EINVAL},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.name << " flags " << row.flags << " mode " << row.mode);
+    for (const auto& [name, flags, mode, error] : rows) {
+        SCOPED_TRACE(testing::Message() << name << " flags " << flags << " mode " << mode);
         Base::Error::SetLastError(0);
-        EXPECT_EQ(Open(row.name, row.flags, row.mode), nullptr);
-        EXPECT_EQ(Base::Error::GetLastError(), row.error);
+        EXPECT_EQ(Open(name, flags, mode), nullptr);
+        EXPECT_EQ(Base::Error::GetLastError(), error);
     }
     EXPECT_EQ(XPR_OpenFile(nullptr, 1, 0x1000), nullptr);
     EXPECT_EQ(Get(m_data.Path() + "old"), "old");
