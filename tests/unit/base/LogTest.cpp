@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <fstream>
 #include <future>
 #include <thread>
 
@@ -22,14 +23,12 @@ namespace {
 std::string FileLog(const std::string& folder)
 {
     const std::string properties = folder + "log.properties";
-    Base::FileUtil::WriteFileAtomically(properties,
-                                        "log4j.rootLogger=INFO, F\n"
-                                        "log4j.appender.F=org.apache.log4j.FileAppender\n"
-                                        "log4j.appender.F.File=" +
-                                            folder +
-                                            "out.log\n"
-                                            "log4j.appender.F.layout=org.apache.log4j.PatternLayout\n"
-                                            "log4j.appender.F.layout.ConversionPattern=%p|%c|%F|%m%n\n");
+    std::ofstream(properties) << "log4j.rootLogger=INFO, F\n"
+                                 "log4j.appender.F=org.apache.log4j.FileAppender\n"
+                                 "log4j.appender.F.layout=org.apache.log4j.PatternLayout\n"
+                                 "log4j.appender.F.layout.ConversionPattern=%p|%c|%F|%m%n\n"
+                                 "log4j.appender.F.File="
+                              << folder << "out.log\n";
     return properties;
 }
 
@@ -100,39 +99,32 @@ TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
     EXPECT_NE(testing::internal::GetCapturedStderr().find("ERROR root seen all the same"), std::string::npos);
 }
 
-struct BadSettings
-{
-    const char* name;
-    const char* text;
-    const char* reason;
-};
-
 /// One line says so, and the installed settings hold.
 TEST(TheLog, FollowsTheInstalledSettingsWhenTheUsersGiveNone)
 {
-    const BadSettings rows[] = {
-        {"empty", "", "it sets up no appender for the root logger"},
-        {"noise", "\1\xff=\n\n=\xfe\\", "it sets up no appender for the root logger"},
-        {"unknown class", "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.NoAppender\n",
-         "it sets up no appender for the root logger"},
+    constexpr const char* kNone = "it sets up no appender for the root logger";
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"empty", "", kNone},
+        {"noise", "\1\xff=\n\n=\xfe\\", kNone},
+        {"unknown class", "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.NoAppender\n", kNone},
         {"no such place",
          "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.FileAppender\n"
          "log4j.appender.F.layout=org.apache.log4j.SimpleLayout\nlog4j.appender.F.File=/proc/no/file\n",
          "the file [/proc/no/file] cannot be written"},
     };
-    for (const BadSettings& row : rows) {
+    for (const auto& [name, settings, reason] : rows) {
         TestDataRoot root;
         const std::string bad = root.Path() + "bad.properties";
-        Base::FileUtil::WriteFileAtomically(bad, row.text);
+        Base::FileUtil::WriteFileAtomically(bad, settings);
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(Base::CLog::Instance().InitLog(bad, FileLog(root.Path()))) << row.name;
+        EXPECT_FALSE(Base::CLog::Instance().InitLog(bad, FileLog(root.Path()))) << name;
         BASE_ERROR("seen all the same");
         Base::CLog::Instance().UninitLog();
         EXPECT_NE(testing::internal::GetCapturedStderr().find("Log: [" + bad +
-                                                              "] cannot be followed: " + row.reason + ".\n"),
+                                                              "] cannot be followed: " + reason + ".\n"),
                   std::string::npos)
-            << row.name;
-        EXPECT_NE(Content(root.Path() + "out.log").find("seen all the same"), std::string::npos) << row.name;
+            << name;
+        EXPECT_NE(Content(root.Path() + "out.log").find("seen all the same"), std::string::npos) << name;
     }
 }
 
