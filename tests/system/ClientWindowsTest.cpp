@@ -155,20 +155,6 @@ TEST_P(Client, TakesClicksAndKeysWhereTheyAreMeant)
     client.ExpectText(Gallery(page).Of("galleryNameEdit"), page, "guest");
 }
 
-// The last is a move alone: of this the server tells the page nothing.
-TEST_P(Client, OpensPopupsBesideTheirWidgetsWhereverItsWindowIs)
-{
-    client.Start(kLook);
-    const Window page = client.OpenTab(kGallery);
-    for (const Area& place :
-         {Area{40, 60, 1440, 1320}, {310, 90, 1300, 1400}, {5, 30, 1100, 1250}, {700, 120, 1100, 1250}}) {
-        Place(page, place);
-        const GalleryModel gallery = Gallery(page);
-        for (const char* widget : {"galleryMenuButton", "galleryCombo"})
-            ExpectPopupBeside(gallery.Of(widget));
-    }
-}
-
 TEST_P(Client, KeepsAPageWhileItsTabIsBehindOrClosed)
 {
     client.Start(kLook);
@@ -207,6 +193,7 @@ TEST_P(Client, BringsTheTabsBackWhenTheComponentDies)
     client.AwaitSeen(page);
     EXPECT_NE(client.component.ProcessId(), first);
     ExpectClicksCount(Gallery(page));
+    EXPECT_THAT(client.component.MissingInOrder({"APP Init Success", "APP Init Success"}), IsEmpty());
     const Window main = client.AwaitEmbedded(kMain, 2);
     client.Click("tab:" + kMain);
     client.AwaitSeen(main);

@@ -2,39 +2,23 @@
 
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
+#include "support/WaitUntil.h"
 
 #include <signal.h>
 #include <sys/wait.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 namespace {
-
-constexpr auto kLookAgain = std::chrono::milliseconds(20);
 
 std::string Content(const std::string& path)
 {
     std::string text;
     Base::FileUtil::ReadFile(path, text, 64 * 1024 * 1024);
     return text;
-}
-
-/// Asks again and again until the condition holds or the time is over.
-template<typename Condition>
-bool WaitUntil(Condition condition, int seconds)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end)
-            return false;
-        std::this_thread::sleep_for(kLookAgain);
-    }
-    return true;
 }
 
 } // namespace
@@ -114,7 +98,7 @@ std::vector<std::string> ComponentRun::MissingInOrder(const std::vector<std::str
 
 bool ComponentRun::WaitForLog(const std::string& message, int seconds) const
 {
-    return WaitUntil([&] { return MissingInOrder({message}).empty(); }, seconds);
+    return WaitUntil([&] { return MissingInOrder({message}).empty(); }, std::chrono::seconds(seconds));
 }
 
 int ComponentRun::ProcessId() const
@@ -138,7 +122,7 @@ void ComponentRun::Terminate() const
 
 bool ComponentRun::WaitUntilEnded(int seconds) const
 {
-    return WaitUntil([&] { return ProcessId() == 0; }, seconds);
+    return WaitUntil([&] { return ProcessId() == 0; }, std::chrono::seconds(seconds));
 }
 
 std::string ComponentRun::Output() const

@@ -9,6 +9,12 @@
 class ComponentRun
 {
 public:
+    /// Lines of scripts: the component is up, and it ends in order.
+    static constexpr const char* kUntilReady =
+        "{\"expect_notify\": {\"method\": \"initFinish\"}, \"within_ms\": 20000}\n";
+    static constexpr const char* kQuit = "{\"notify\": {\"method\": \"componentUninit\"}}\n"
+                                         "{\"expect_exit\": 0, \"within_ms\": 15000}\n";
+
     ComponentRun();
 
     /// Plays a script with vantor-lpc host, which starts the component; the exit code. The text is written to

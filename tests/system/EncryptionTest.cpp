@@ -7,8 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <functional>
-#include <map>
 
 using testing::Contains;
 using testing::HasSubstr;
@@ -16,12 +14,7 @@ using testing::Not;
 
 namespace {
 
-const std::string kStartAndEnd = R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})"
-                                 "\n"
-                                 R"({"notify": {"method": "componentUninit"}})"
-                                 "\n"
-                                 R"({"expect_exit": 0, "within_ms": 15000})"
-                                 "\n";
+const std::string kStartAndEnd = std::string(ComponentRun::kUntilReady) + ComponentRun::kQuit;
 
 /// The content of every file below the folder.
 std::string EverythingWritten(const std::string& folder)
@@ -60,54 +53,6 @@ TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndEncryptedFromTh
     EXPECT_THAT(run.LogMessages(), Not(Contains(HasSubstr("is not exist."))));
     EXPECT_FALSE(IsPlain(run.DataPath() + "VideoSystem"));
     EXPECT_THAT(EverythingWritten(run.DataPath()), Not(HasSubstr(setup.databaseKey)));
-}
-
-/// The files of the database, by name, as they are.
-std::map<std::string, std::string> Files(const ComponentRun& run)
-{
-    std::map<std::string, std::string> files;
-    for (const char* suffix : {"", "-wal"})
-        Base::FileUtil::ReadFile(run.DataPath() + "VideoSystem" + suffix, files[suffix]);
-    return files;
-}
-
-TEST(TheComponentsDatabase, IsLeftAsItIsWhenTheSetupDoesNotFit)
-{
-    ComponentRun run;
-    using comm_method::CDataEncryptionConfig;
-    const std::string setupFile = run.Path() + "Framework.C/DESetup.xml";
-    const std::string keyFile = run.Path() + "Framework.C/DESetup.key";
-    const auto setup = CDataEncryptionConfig::Generate();
-    ASSERT_TRUE(CDataEncryptionConfig(setupFile).Write(setup));
-    ASSERT_EQ(run.Play(kStartAndEnd), 0) << run.Output();
-    const auto before = Files(run);
-    auto other = setup;
-    other.databaseKey = Base::Encrypt::RandomKeyText();
-    const struct
-    {
-        std::string line;
-        std::function<bool()> spoil;
-    } rows[] = {
-        {"Failed to read xml file [" + setupFile + "].",
-         [&] { return Base::FileUtil::WriteFileAtomically(setupFile, "<DESetup"); }},
-        {"Failed to checkAndUpdateDB. [msg-VideoSystem: file is encrypted or is not a database].",
-         [&] { return CDataEncryptionConfig(setupFile).Write(other); }},
-        {"Faild to decryption config file [" + setupFile + "].",
-         [&] { return Base::FileUtil::WriteFileAtomically(keyFile, std::string(64, '0')); }},
-        {"Faild to decryption config file [" + setupFile + "].",
-         [&] { return std::filesystem::remove(keyFile); }},
-        {"Failed to checkAndUpdateDB. [msg-VideoSystem: the file is encrypted or damaged, and there is no "
-         "key].",
-         [&] { return std::filesystem::remove(setupFile); }},
-    };
-    for (const auto& row : rows) {
-        ASSERT_TRUE(row.spoil()) << row.line;
-        std::filesystem::remove(run.DataPath() + "log/Video.C.log");
-        ASSERT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << row.line << run.Output();
-        EXPECT_THAT(run.LogMessages(), Contains(row.line));
-        EXPECT_THAT(run.LogMessages(), Contains("InitDatabase Failed."));
-        EXPECT_EQ(Files(run), before) << row.line;
-    }
 }
 
 } // namespace

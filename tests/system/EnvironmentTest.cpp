@@ -93,6 +93,7 @@ const Fault kFaults[] = {
      kWorks, "log.properties] cannot be followed: the file [/proc/none/"},
     {"NoScreen", kAlone, kNoScreen, kFailed, "FATAL [Vantor.Video.C] root"},
     {"NoScreenForTheFramework", kFramework, kNoScreen, kCannotRun, "FATAL [Vantor.Framewor] root"},
+    {"NoScreenForTheHelp", kFramework, "unset DISPLAY; set -- \"$@\" --help", kWorks, "--skin <NAME>"},
     {"FewOpenFiles", kHosted, "ulimit -n 32", kWorks, "APP Init Success"},
     {"SmallFiles", kAlone, "ulimit -f 8", kFailed, "Log: lines are lost from here on"},
 };
@@ -103,9 +104,7 @@ protected:
     std::string Hosted()
     {
         const std::string script = m_run.Path() + "script";
-        std::ofstream(script) << R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})" << '\n'
-                              << R"({"notify": {"method": "componentUninit"}})" << '\n'
-                              << R"({"expect_exit": 0, "within_ms": 15000})" << '\n';
+        std::ofstream(script) << ComponentRun::kUntilReady << ComponentRun::kQuit;
         return m_run.HostCommand(script);
     }
 

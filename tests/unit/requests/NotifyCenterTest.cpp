@@ -1,4 +1,3 @@
-#include "ClientCommonLogical/ConfigMgr.h"
 #include "ClientCommonLogical/NotifyCenterManager.h"
 #include "support/CapturedLog.h"
 
@@ -71,25 +70,16 @@ TEST_F(NotifyCenter, LogsWhatNobodyHandles)
               (Texts{"Nobody handles the notification [A].", "Nobody handles the notification []."}));
 }
 
-TEST_F(NotifyCenter, CallsNoHandlerWhoseOwnerIsGone)
+TEST_F(NotifyCenter, LetsGoUncalledOfTheHandlerOfAnOwnerThatIsGone)
 {
+    const auto held = std::make_shared<int>(0);
     auto owner = std::make_unique<Base::details::CWeakPtrBase>();
-    center.RegisterHandler("a", owner->Ref(), Seeing("gone"));
+    center.RegisterHandler("a", owner->Ref(), [this, held](const auto&) { seen.push_back("gone"); });
     center.RegisterHandler("a", anchor.Ref(), Seeing("here"));
     owner.reset();
     center.addNotify(NotifyOf("a", "1"));
     loop.Stop();
     EXPECT_EQ(seen, Texts{"here:1"});
-}
-
-TEST_F(NotifyCenter, LetsGoOfTheHandlerOfAnOwnerThatIsGone)
-{
-    const auto held = std::make_shared<int>(0);
-    auto owner = std::make_unique<Base::details::CWeakPtrBase>();
-    center.RegisterHandler("a", owner->Ref(), [held](const auto&) {});
-    owner.reset();
-    center.addNotify(NotifyOf("a", "1"));
-    loop.Stop();
     EXPECT_EQ(held.use_count(), 1);
 }
 
@@ -156,22 +146,6 @@ TEST_F(NotifyCenter, TakesRegistrationsWhileItDelivers)
     center.addNotify(NotifyOf("a", "1"));
     loop.Stop();
     EXPECT_EQ(seen, Texts{"last:1"});
-}
-
-TEST(ConfigMgr, KeepsDefaultsUntilItIsInitialised)
-{
-    clientcommon::CConfigMgr config;
-    EXPECT_EQ(config.params().skinType, "BlackRedSkin");
-    clientcommon::ConfigParams params;
-    params.skinType = "BlueSkin";
-    params.language = 13;
-    params.versionType = 2;
-    params.extra = 3;
-    config.init(params);
-    EXPECT_EQ(config.params().skinType, "BlueSkin");
-    EXPECT_EQ(config.params().language, 13);
-    EXPECT_EQ(config.params().versionType, 2);
-    EXPECT_EQ(config.params().extra, 3);
 }
 
 } // namespace

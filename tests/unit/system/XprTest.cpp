@@ -119,21 +119,19 @@ TEST_F(XprFile, ReadsToTheEndAndThenNothing)
 
 TEST_F(XprFile, SizeAndTimeAreRightAlsoBeyondFourGiB)
 {
-    struct Row
-    {
-        std::int64_t size, modified;
-    };
     constexpr std::int64_t kGiB = std::int64_t{1} << 30;
-    for (const Row& row : {Row{0, 0}, Row{3, 1700000000}, Row{4 * kGiB, 1}, Row{5 * kGiB + 7, 4102444800}}) {
-        fs::resize_file(m_data.Path() + "old", static_cast<std::uintmax_t>(row.size));
-        const timespec times[] = {{row.modified, 0}, {row.modified, 0}};
+    const std::pair<std::int64_t, std::int64_t> rows[] = {
+        {0, 0}, {3, 1700000000}, {4 * kGiB, 1}, {5 * kGiB + 7, 4102444800}};
+    for (const auto& [size, modified] : rows) {
+        fs::resize_file(m_data.Path() + "old", static_cast<std::uintmax_t>(size));
+        const timespec times[] = {{modified, 0}, {modified, 0}};
         ASSERT_EQ(::utimensat(AT_FDCWD, (m_data.Path() + "old").c_str(), times, 0), 0);
         const XPR_FileHandle file = Open("old", 1, 0x1000);
         ASSERT_NE(file, nullptr);
         XPR_STAT stat{-1, -1};
         EXPECT_TRUE(XPR_FileStat(file, &stat));
-        EXPECT_EQ(stat.size, row.size);
-        EXPECT_EQ(stat.modified, row.modified);
+        EXPECT_EQ(stat.size, size);
+        EXPECT_EQ(stat.modified, modified);
         EXPECT_TRUE(XPR_CloseFile(file));
     }
 }
