@@ -63,56 +63,53 @@ TEST(Options, CheckNumbers)
     }
 }
 
-TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
+/// The tool's exit code, and what it wrote to its output and error output.
+std::tuple<int, std::string, std::string> RunWith(const Words& arguments, const char* input = "")
 {
-    const std::pair<Words, const char*> rows[] = {
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = RunTool(arguments, in, out, err);
+    return {code, out.str(), err.str()};
+}
+
+TEST(TheTool, RefusesAWrongCommandLineOrScriptWithExitCode2BeforeAnythingStarts)
+{
+    const struct
+    {
+        Words arguments;
+        const char* complaint;
+        const char* input = "";
+    } rows[] = {
         {{}, "vantor-lpc drives"},
         {{"dance"}, "unknown command dance"},
         {{"host", "--spwan", "p"}, "unknown argument --spwan"},
         {{"host", "--language", "x"}, "--language must be"},
         {{"host", "--skin", "Red Skin"}, "--skin cannot hold a blank"},
         {{"host", "--script", "/nowhere/s.jsonl"}, "/nowhere/s.jsonl: cannot be read"},
+        {{"host", "--script", "-"}, "-:2: \"sleep_ms\" must be", "\n{\"sleep_ms\": 0}"},
+        {{"host", "--script", "-"}, "-:3: needs a program started", "# a\n\n{\"expect_exit\": 0}"},
         {{"call"}, "--url or --method is needed"},
         {{"call", "--url", "/u", "--body", "{"}, "--body is not valid JSON at column 2"},
         {{"call", "--url", "/u", "--timeout", "0"}, "--timeout must be"},
         {{"notify", "--method", "m", "--protokol", "x"}, "unknown argument --protokol"},
         {{"watch", "--count", "0"}, "--count must be"},
     };
-    for (const auto& [arguments, complaint] : rows) {
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool(arguments, in, out, err), kWrongUse) << complaint;
-        EXPECT_NE(err.str().find(complaint), std::string::npos) << err.str();
-        EXPECT_EQ(out.str(), "");
-    }
-}
-
-TEST(TheTool, ReportsAFaultOfTheScriptBeforeAnythingStarts)
-{
-    const std::pair<const char*, const char*> rows[] = {
-        {"\n{\"sleep_ms\": 0}", "-:2: \"sleep_ms\" must be"},
-        {"# a\n\n{\"expect_exit\": 0}", "-:3: needs a program started with --spawn"}};
-    for (const auto& [script, complaint] : rows) {
-        std::istringstream in(script);
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool({"host", "--script", "-"}, in, out, err), kWrongUse);
-        EXPECT_NE(err.str().find(complaint), std::string::npos) << err.str();
-        EXPECT_EQ(out.str(), "");
+    for (const auto& row : rows) {
+        const auto [code, output, complaint] = RunWith(row.arguments, row.input);
+        EXPECT_EQ(code, kWrongUse) << row.complaint;
+        EXPECT_NE(complaint.find(row.complaint), std::string::npos) << complaint;
+        EXPECT_EQ(output, "");
     }
 }
 
 TEST(TheTool, HasHelpForEveryCommand)
 {
-    for (const Words& arguments : {Words{"--help"}, Words{"host", "--help"}, Words{"call", "--help"},
-                                   Words{"notify", "--help"}, Words{"watch", "--help"}}) {
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool(arguments, in, out, err), kGood);
-        const std::string wanted = arguments.size() == 1 ? "vantor-lpc drives" : "vantor-lpc " + arguments[0];
-        EXPECT_EQ(out.str().rfind(wanted, 0), 0u) << out.str();
+    for (const std::string& command : {"", "host", "call", "notify", "watch"}) {
+        const auto [code, output, complaint] =
+            RunWith(command.empty() ? Words{"--help"} : Words{command, "--help"});
+        EXPECT_EQ(code, kGood) << complaint;
+        EXPECT_EQ(output.rfind("vantor-lpc " + (command.empty() ? "drives" : command), 0), 0u) << output;
     }
 }
 
