@@ -44,6 +44,9 @@ public:
         return messages;
     }
 
+    std::vector<std::string> Errors() const { return Messages(Base::LogLevel::Error); }
+    std::vector<std::string> Warnings() const { return Messages(Base::LogLevel::Warn); }
+
     /// How many messages hold the text.
     std::size_t Count(const std::string& text) const
     {

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+struct xcb_connection_t;
 
 /// A user's hands and eyes on one display: presses the real pointer and keyboard of the X server, and sees
 /// where windows are. Lengths are device pixels of the screen.
@@ -40,6 +41,8 @@ public:
 
     explicit PointerAndKeys(const std::string& display);
     ~PointerAndKeys();
+    PointerAndKeys(const PointerAndKeys&) = delete;
+    PointerAndKeys& operator=(const PointerAndKeys&) = delete;
 
     void MoveTo(int x, int y);
     /// Returns when the window manager has passed the click on, too: keys that follow come after it.
@@ -87,6 +90,6 @@ private:
     std::uint32_t Atom(const char* name) const;
     bool IsButtonDown() const;
 
-    struct State;
-    std::unique_ptr<State> m_state;
+    xcb_connection_t* const m_connection;
+    Window m_root = 0;
 };

@@ -4,7 +4,6 @@
 #include "system/GalleryModel.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <filesystem>
@@ -325,17 +324,6 @@ TEST_F(BareClient, WearsEachSkinInBothPrograms)
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "success to load VantorGUIToolKitBlackRedSkin."),
               4);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "success to load ClientCommSkin."), 4);
-}
-
-TEST_F(BareClient, IsDarkInASkinThatIsNotThere)
-{
-    const std::string folder = client.component.Path() + "Framework.C/";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder + "settings.json") << R"({"skin":"PinkSkin","language":1,"chosen":true})";
-    client.Start({"--component",
-                  Script("exec " + client.component.Program() + " \"$1\" \"$2\" \"PinkSkin 1 0 0 0 0\"")});
-    ExpectSkin("BlackRedSkin");
-    EXPECT_THAT(client.component.MissingInOrder({"fail to load VantorGUIToolKitBlackRedSkin."}), IsEmpty());
 }
 
 TEST_F(BareClient, StartsWithoutSkinsStyleAndTranslations)

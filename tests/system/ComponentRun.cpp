@@ -2,6 +2,7 @@
 
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
+#include "support/FileLog.h"
 #include "support/WaitUntil.h"
 
 #include <signal.h>
@@ -27,12 +28,7 @@ ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir()), m_program(
 {
     // The log holds the message alone, so that it can be compared word for word.
     std::filesystem::create_directories(DataPath());
-    std::ofstream(DataPath() + "log.properties")
-        << "log4j.rootLogger=DEBUG, file\n"
-           "log4j.appender.file=org.apache.log4j.FileAppender\n"
-           "log4j.appender.file.File=${VANTOR_LOG_DIR}/Video.C.log\n"
-           "log4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
-           "log4j.appender.file.layout.ConversionPattern=%m%n\n";
+    WriteLogSettings(DataPath() + "log.properties", "${VANTOR_LOG_DIR}/Video.C.log");
     if (!std::getenv("DISPLAY"))
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }

@@ -4,7 +4,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <filesystem>
 

@@ -2,7 +2,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <fstream>
 
@@ -86,9 +85,6 @@ const Fault kFaults[] = {
      "Failed to copy maintain/CustomWidgetLayout.xml."},
     {"LogSettingsOfNoise", kHosted, "head -c 3000 /dev/urandom >$LOG", kWorks,
      "log.properties] cannot be followed: it sets up no appender for the root logger."},
-    {"EmptyLogSettings", kHosted, ": >$LOG", kWorks, "log.properties] cannot be followed: "},
-    {"LogSettingsWithAnUnknownClass", kHosted, "sed s/RollingFile/Nonsense/ $INSTALLED >$LOG", kWorks,
-     "log.properties] cannot be followed: "},
     {"LogSettingsWithAFileThatCannotBe", kHosted, "sed s,{VANTOR_LOG_DIR},{NONE}/proc/none, $INSTALLED >$LOG",
      kWorks, "log.properties] cannot be followed: the file [/proc/none/"},
     {"NoScreen", kAlone, kNoScreen, kFailed, "FATAL [Vantor.Video.C] root"},

@@ -7,12 +7,12 @@
 #include "ChildProcess/ChildProcess.h"
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "component/framework/CoreWorld.h"
+#include "support/FileLog.h"
 #include "support/WaitUntil.h"
 #include "system/ComponentRun.h"
 #include "system/SecretSearch.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -50,14 +50,7 @@ protected:
         fs::create_directories(run.DataPath() + "dump");
         std::ofstream(run.DataPath() + "dump/full-dump") << "";
         fs::create_directories(Folder());
-        std::ofstream(Folder() + "log.properties")
-            << "log4j.rootLogger=DEBUG, file\n"
-               "log4j.appender.file=org.apache.log4j.FileAppender\n"
-               "log4j.appender.file.File="
-            << Folder()
-            << "log/Framework.C.log\n"
-               "log4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
-               "log4j.appender.file.layout.ConversionPattern=%p %m%n\n";
+        WriteLogSettings(Folder() + "log.properties", Folder() + "log/Framework.C.log", "%p %m%n");
     }
 
     std::string Folder() const { return run.Path() + "Framework.C/"; }

@@ -2,7 +2,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <signal.h>
 

@@ -71,9 +71,8 @@ protected:
 TEST_F(TheLook, TellsOfEveryPackageThatIsMissing)
 {
     video::CApplicationLook(kit, "BlueSkin", 1).LoadSkin();
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
-              (std::vector<std::string>{"fail to load VantorGUIToolKitBlackRedSkin.",
-                                        "Failed to load ClientCommSkin."}));
+    EXPECT_EQ(log.Errors(), (std::vector<std::string>{"fail to load VantorGUIToolKitBlackRedSkin.",
+                                                      "Failed to load ClientCommSkin."}));
     EXPECT_EQ(qtLog.Lines(), (std::vector<std::string>{QtLine("VantorGUIToolKitBlueSkin.rcc", " failed"),
                                                        QtLine("ClientCommon.rcc", " failed"),
                                                        QtLine("Video.C.rcc", " failed")}));

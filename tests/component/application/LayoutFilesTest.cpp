@@ -70,7 +70,7 @@ TEST(TheLayoutFiles, AreMadeAnewWhenTheyAreBroken)
         folders.Check();
         EXPECT_EQ(Content(folders.custom), "<Config/>") << broken;
         EXPECT_EQ(Content(folders.layout), Content(folders.original)) << broken;
-        EXPECT_TRUE(folders.log.Messages(Base::LogLevel::Error).empty()) << broken;
+        EXPECT_TRUE(folders.log.Errors().empty()) << broken;
     }
 }
 
@@ -89,7 +89,7 @@ TEST(ARepairThatFails, IsLogged)
     fs::create_directories(folders.custom + "/in the way");
     fs::remove(folders.original);
     folders.Check();
-    EXPECT_EQ(folders.log.Messages(Base::LogLevel::Error),
+    EXPECT_EQ(folders.log.Errors(),
               (std::vector<std::string>{"Failed to open maintain/CustomWidgetLayout.xml for write.",
                                         "Failed to copy maintain/CustomWidgetLayout.xml."}));
 }

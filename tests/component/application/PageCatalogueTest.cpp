@@ -7,7 +7,6 @@
 #include "WndIdManager.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QLabel>
 

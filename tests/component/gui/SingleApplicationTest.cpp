@@ -124,20 +124,6 @@ TEST(SingleApplication, APrimaryThatStandsStillIsNotRobbed)
     EXPECT_EQ(first.ExitCode(), 7);
 }
 
-TEST(SingleApplication, DataRootsDoNotMeet)
-{
-    TestDataRoot oneRoot;
-    Instance one;
-    ASSERT_EQ(one.GoAndRole(), "primary");
-    TestDataRoot otherRoot;
-    Instance other;
-    EXPECT_EQ(other.GoAndRole(), "primary");
-    for (Instance* instance : {&one, &other}) {
-        instance->Go();
-        instance->ExitCode();
-    }
-}
-
 TEST(SingleApplication, OfTenStartsAtOnceExactlyOneIsPrimaryAlsoAfterAKill)
 {
     TestDataRoot root;

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
 #include <QLabel>
@@ -109,7 +108,7 @@ TEST(Toolkit, WarnsOfAnUnknownMarkerOnce)
     kit.handleQssByInputParams("@none@");
     const std::vector<std::string> expected = {"Unknown style sheet parameter [none].",
                                                "Unknown style sheet parameter [other]."};
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn), expected);
+    EXPECT_EQ(log.Warnings(), expected);
 }
 
 TEST(Toolkit, StyleSheetsFollowSkinLanguageAndDirection)
@@ -187,7 +186,7 @@ TEST(Toolkit, ABrokenSkinPackageIsRefusedWithOneLine)
         CToolkit kit;
         CapturedLog log;
         EXPECT_FALSE(kit.loadSkinPackage(path)) << name;
-        EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 1U) << name;
+        EXPECT_EQ(log.Warnings().size(), 1U) << name;
         EXPECT_TRUE(kit.skinPackages().isEmpty()) << name;
     }
 }
@@ -229,7 +228,7 @@ TEST(Toolkit, ShowsDatesAndTimesAsTold)
     CapturedLog log;
     EXPECT_FALSE(kit.initDateFormat("nonsense"));
     EXPECT_FALSE(kit.initTimeFormat(QString(100'000, 'H')));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 2U);
+    EXPECT_EQ(log.Warnings().size(), 2U);
     EXPECT_LT(log.Lines()[1].message.size(), 200U);
     EXPECT_EQ(kit.dateTimeText(moment), "9.3.24 5:05 PM");
 }

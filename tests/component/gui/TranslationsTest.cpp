@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 
 using namespace VantorGUIToolkit;
@@ -54,7 +53,7 @@ TEST(Translations, AMissingLanguageIsToldAndShownInEnglish)
     ASSERT_TRUE(kit.loadTranslations(kDir, German));
     CapturedLog log;
     EXPECT_FALSE(kit.loadTranslations(kDir, Hebrew));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 1U);
+    EXPECT_EQ(log.Warnings().size(), 1U);
     EXPECT_EQ(Shown("SavingPathOfVideoFiles"), "Video folder");
 }
 

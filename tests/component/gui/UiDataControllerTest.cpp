@@ -19,7 +19,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <set>
 #include <thread>
 
 using namespace UiDataController;
@@ -126,7 +125,7 @@ TEST(HighDPI, ThePolicyHoldsBeforeTheApplicationAndIsRefusedAfterwards)
               Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     CapturedLog log;
     EXPECT_FALSE(CHighDPIMgr::doHighDPI(0, nullptr));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 1U);
+    EXPECT_EQ(log.Errors().size(), 1U);
 }
 
 TEST(LocalLog, LinesGoToTheLoggerThatIsSetWhichMayEndWhileOthersWrite)
@@ -259,7 +258,7 @@ TEST(DeviceUserIDs, MakesTheLogFolderOrTellsThatItCannot)
     CapturedLog log;
     EXPECT_FALSE(ids.init("/proc/none/log"));
     EXPECT_FALSE(ids.init(""));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 2U);
+    EXPECT_EQ(log.Errors().size(), 2U);
     EXPECT_TRUE(ids.add("a", 1)) << "handles are kept all the same";
 }
 

@@ -70,17 +70,6 @@ TEST_F(Exchange, RequestsOfTheServerAreAnsweredByReplyFromAnyThread)
     }
 }
 
-TEST_F(Exchange, NotificationsArriveInOrderOnOneThread)
-{
-    StartedServer server;
-    const Client client;
-    CollectNumbers();
-    constexpr int kCount = 5000;
-    for (int i = 0; i < kCount; ++i)
-        ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), Numbered(i)));
-    EXPECT_EQ(Numbers(kCount), received.WaitFor(kCount));
-}
-
 /// Notifications in a burst leave together, and still before what is sent after them.
 TEST_F(Exchange, BurstsKeepTheirOrderAmongCallsAndLongNotifications)
 {

@@ -5,12 +5,8 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 
 using namespace VantorGUIToolkit;
 
@@ -121,25 +117,3 @@ INSTANTIATE_TEST_SUITE_P(SkinsAndLanguages, Gallery,
                                          std::tuple("BlueSkin", Chinese), std::tuple("BlueSkin", Hebrew),
                                          std::tuple("NeutralSkin", English),
                                          std::tuple("NeutralSkin", Arabic)));
-
-TEST(GalleryPage, ItsWidgetsWork)
-{
-    CGalleryPage page;
-    page.show();
-    auto* button = page.findChild<QPushButton*>("galleryButton");
-    button->click();
-    button->click();
-    EXPECT_EQ(page.findChild<QLabel*>("galleryClicks")->text(), "Clicks: 2");
-    EXPECT_GE(page.findChild<QComboBox*>("galleryCombo")->count(), 32);
-    QMenu* menu = page.findChild<QPushButton*>("galleryMenuButton")->menu();
-    ASSERT_TRUE(menu);
-    menu->actions().first()->trigger();
-    EXPECT_EQ(page.findChild<QLabel*>("galleryChoice")->text(), "Add");
-    auto* check = page.findChild<QPushButton*>("galleryCheckButton");
-    auto* address = page.findChild<QLineEdit*>("galleryAddressEdit");
-    check->click();
-    EXPECT_TRUE(address->property("invalid").toBool());
-    address->setText("192.0.2.7");
-    check->click();
-    EXPECT_FALSE(address->property("invalid").toBool());
-}

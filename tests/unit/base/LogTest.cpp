@@ -2,6 +2,7 @@
 #include "Base/FileUtil.h"
 #include "Base/ProcessUtil.h"
 #include "support/CapturedLog.h"
+#include "support/FileLog.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <fstream>
 #include <future>
 #include <thread>
 
@@ -23,12 +23,7 @@ namespace {
 std::string FileLog(const std::string& folder)
 {
     const std::string properties = folder + "log.properties";
-    std::ofstream(properties) << "log4j.rootLogger=INFO, F\n"
-                                 "log4j.appender.F=org.apache.log4j.FileAppender\n"
-                                 "log4j.appender.F.layout=org.apache.log4j.PatternLayout\n"
-                                 "log4j.appender.F.layout.ConversionPattern=%p|%c|%F|%m%n\n"
-                                 "log4j.appender.F.File="
-                              << folder << "out.log\n";
+    WriteLogSettings(properties, folder + "out.log", "%p|%c|%F|%m%n", "INFO");
     return properties;
 }
 

@@ -2,7 +2,6 @@
 #include "framework/core/NewestOnly.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <map>
 #include <optional>

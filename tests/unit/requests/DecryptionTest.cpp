@@ -59,7 +59,7 @@ TEST_F(DeviceCredentials, AreBothEmptiedWhenOneDoesNotOpen)
         EXPECT_FALSE(decryptDeviceResponse(device));
         EXPECT_EQ(device.userName + device.password, "");
         EXPECT_EQ(device.guid, "d");
-        EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+        EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
     }
 }
 
@@ -70,7 +70,7 @@ TEST_F(DeviceCredentials, DoNotOpenWithoutParameters)
     const CapturedLog log;
     EXPECT_FALSE(decryptDeviceResponse(device));
     EXPECT_EQ(device.userName + device.password, "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+    EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
 }
 
 TEST_F(DeviceCredentials, OfAListOpenEachForItself)
@@ -83,7 +83,7 @@ TEST_F(DeviceCredentials, OfAListOpenEachForItself)
     EXPECT_EQ(list.devices[0].userName, "");
     EXPECT_EQ(list.devices[1].password, "secret");
     EXPECT_EQ(list.devices[2].password, "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+    EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
 }
 
 } // namespace

@@ -182,7 +182,7 @@ TEST(Answer, IsGoodOrReportedOnce)
         const CapturedLog log;
         RspInfos answer;
         EXPECT_EQ(channel.Client().request(answer, ParamsFor("/a"), true), lastError == 0);
-        EXPECT_EQ(log.Messages(Base::LogLevel::Error), lines);
+        EXPECT_EQ(log.Errors(), lines);
         EXPECT_EQ(log.Lines().size(), lines.size());
         EXPECT_EQ(Base::Error::GetLastError(), lastError);
         EXPECT_EQ(answer.body, body);

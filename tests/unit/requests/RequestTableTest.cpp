@@ -187,8 +187,7 @@ TEST_P(EveryRequest, FailsWithItsOwnTextWhenTheTransportFails)
     FakeTransport transport({}, false);
     const CapturedLog log;
     EXPECT_FALSE(GetParam().request(transport));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
-              GetParam().failureText ? Lines{GetParam().failureText} : Lines{});
+    EXPECT_EQ(log.Errors(), GetParam().failureText ? Lines{GetParam().failureText} : Lines{});
 }
 
 TEST_P(EveryRequest, FailsWhenTheAnswerIsOfAnotherForm)
@@ -207,7 +206,7 @@ TEST(EveryQuery, FailsWithOneLineWhenTheAnswerIsEmpty)
     DateTimeFormatData format;
     const CapturedLog log;
     EXPECT_FALSE(commlayer::CGetDateTimeFormat::request(format, transport));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
+    EXPECT_EQ(log.Errors(),
               Lines{"Failed to request [url-/vantor/v1/internal/framework/system/dateTimeFormat]. The answer "
                     "is empty."});
 }
@@ -229,7 +228,7 @@ TEST(EveryCommand, FailsWithTheErrorNumberOfTheCommonResponse)
     EXPECT_EQ(result.result.errorCode, 11);
     EXPECT_EQ(result.result.errorModuleCode, 22);
     EXPECT_EQ(Base::Error::GetLastError(), 11);
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
+    EXPECT_EQ(log.Errors(),
               (Lines{"Failed to request [url-/vantor/v1/deviceManagement/devices/d/alarmOutputs/o/controls]. "
                      "[error-11-22].",
                      "Failed to LPCSendData. msg:[ requestAlarmControl ]"}));

@@ -31,5 +31,5 @@ TEST(FormatStatement, RefusesAStatementThatIsOneByteTooLongWithOneLine)
 {
     const CapturedLog log;
     EXPECT_EQ(FormatStatement<8>("%s=%d", "abcde", 12), "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 1u);
+    EXPECT_EQ(log.Errors().size(), 1u);
 }

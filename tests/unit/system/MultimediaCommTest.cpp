@@ -2,7 +2,6 @@
 #include "support/CapturedLog.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <future>
 #include <set>
