@@ -83,11 +83,6 @@ bool PointerAndKeys::IsButtonDown() const
     return pointer && (pointer->mask & XCB_KEY_BUT_MASK_BUTTON_1) != 0;
 }
 
-void PointerAndKeys::Press(Key key)
-{
-    PressKeysym(key);
-}
-
 void PointerAndKeys::PressWith(Key modifier, std::uint32_t key)
 {
     Send(XCB_KEY_PRESS, KeyCode(modifier));
@@ -276,4 +271,22 @@ bool PointerAndKeys::HasWindowManager() const
     xcb_destroy_window(m_connection, window);
     xcb_flush(m_connection);
     return framed;
+}
+
+std::string Text(const std::optional<PointerAndKeys::Area>& area)
+{
+    return area ? std::to_string(area->x) + "," + std::to_string(area->y) + " " +
+                      std::to_string(area->width) + "x" + std::to_string(area->height)
+                : "nowhere";
+}
+
+bool IsBeside(const std::optional<PointerAndKeys::Area>& popup, const PointerAndKeys::Area& widget,
+              bool rightToLeft)
+{
+    constexpr int kFrame = 8;
+    if (!popup)
+        return false;
+    const int apart = rightToLeft ? popup->x + popup->width - widget.x - widget.width : popup->x - widget.x;
+    return std::abs(apart) <= kFrame && popup->y <= widget.y + widget.height + kFrame &&
+           popup->y + popup->height >= widget.y - kFrame;
 }

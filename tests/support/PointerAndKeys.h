@@ -47,7 +47,7 @@ public:
     void MoveTo(int x, int y);
     /// Returns when the window manager has passed the click on, too: keys that follow come after it.
     void Click(int x, int y);
-    void Press(Key key);
+    void Press(Key key) { PressKeysym(key); }
     /// key: a Key, or the number of a letter.
     void PressWith(Key modifier, std::uint32_t key);
     /// Letters, digits and spaces of the US keyboard; capitals are not.
@@ -93,3 +93,11 @@ private:
     xcb_connection_t* const m_connection;
     Window m_root = 0;
 };
+
+/// For a test's explanations.
+std::string Text(const std::optional<PointerAndKeys::Area>& area);
+
+/// A popup opens over or directly below its widget, the edges at which lines start together; a frame may
+/// stick out.
+bool IsBeside(const std::optional<PointerAndKeys::Area>& popup, const PointerAndKeys::Area& widget,
+              bool rightToLeft = false);

@@ -23,25 +23,6 @@ const QString kGallery = QStringLiteral("ToolkitGallery");
 const QString kMain = QStringLiteral("MainView");
 const QStringList kLook = {"--skin", "BlackRedSkin", "--language", "1"};
 
-std::string Text(const std::optional<Area>& area)
-{
-    return area ? std::to_string(area->x) + "," + std::to_string(area->y) + " " +
-                      std::to_string(area->width) + "x" + std::to_string(area->height)
-                : "nowhere";
-}
-
-/// A popup opens over or directly below its widget, the edges at which lines start together; a frame may
-/// stick out.
-bool IsBeside(const std::optional<Area>& popup, const Area& widget, bool rightToLeft)
-{
-    constexpr int kFrame = 8;
-    if (!popup)
-        return false;
-    const int apart = rightToLeft ? popup->x + popup->width - widget.x - widget.width : popup->x - widget.x;
-    return std::abs(apart) <= kFrame && popup->y <= widget.y + widget.height + kFrame &&
-           popup->y + popup->height >= widget.y - kFrame;
-}
-
 /// The client with the widget gallery, a page of the component, in a tab.
 class ClientTest
 {

@@ -3,7 +3,6 @@
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
 #include "support/FileLog.h"
-#include "support/WaitUntil.h"
 
 #include <signal.h>
 #include <sys/wait.h>
@@ -12,17 +11,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-
-namespace {
-
-std::string Content(const std::string& path)
-{
-    std::string text;
-    Base::FileUtil::ReadFile(path, text, 64 * 1024 * 1024);
-    return text;
-}
-
-} // namespace
 
 ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir()), m_program(m_bin + "Vantor.Video.C")
 {
@@ -62,11 +50,6 @@ int ComponentRun::Shell(const std::string& command) const
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-std::string ComponentRun::Component() const
-{
-    return Program() + " 1 2 'BlackRedSkin 1 0 0 0 0'";
-}
-
 std::string ComponentRun::HostCommand(const std::string& scriptPath, const std::string& options) const
 {
     return m_bin + "vantor-lpc host " + options + " --script " + scriptPath + " --spawn " + Program();
@@ -74,7 +57,7 @@ std::string ComponentRun::HostCommand(const std::string& scriptPath, const std::
 
 std::vector<std::string> ComponentRun::LogMessages() const
 {
-    return Base::StringUtil::Split(Content(DataPath() + "log/Video.C.log"), '\n');
+    return Base::StringUtil::Split(FileContent(DataPath() + "log/Video.C.log"), '\n');
 }
 
 std::vector<std::string> ComponentRun::MissingInOrder(const std::vector<std::string>& wanted) const
@@ -103,7 +86,7 @@ int ComponentRun::ProcessId() const
         std::error_code ignored;
         if (std::filesystem::read_symlink(process.path() / "exe", ignored) != Program())
             continue;
-        if (Content(process.path() / "environ")
+        if (FileContent(process.path() / "environ")
                 .find("VANTOR_USER_DATA=" + Path().substr(0, Path().size() - 1)) != std::string::npos)
             return std::stoi(process.path().filename());
     }
@@ -114,14 +97,4 @@ void ComponentRun::Terminate() const
 {
     if (const int process = ProcessId())
         ::kill(process, SIGTERM);
-}
-
-bool ComponentRun::WaitUntilEnded(int seconds) const
-{
-    return WaitUntil([&] { return ProcessId() == 0; }, std::chrono::seconds(seconds));
-}
-
-std::string ComponentRun::Output() const
-{
-    return Content(Path() + "output");
 }

@@ -23,11 +23,6 @@ struct Fault
     const char* sentence;
 };
 
-void PrintTo(const Fault& fault, std::ostream* out)
-{
-    *out << fault.name;
-}
-
 constexpr auto kAlone = Program::Component;
 constexpr auto kCopy = Program::ComponentOfACopy;
 constexpr auto kHosted = Program::ComponentUnderAHost;

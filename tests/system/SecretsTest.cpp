@@ -7,6 +7,7 @@
 #include "ChildProcess/ChildProcess.h"
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "component/framework/CoreWorld.h"
+#include "support/FileContent.h"
 #include "support/FileLog.h"
 #include "support/WaitUntil.h"
 #include "system/ComponentRun.h"
@@ -56,13 +57,6 @@ protected:
     std::string Folder() const { return run.Path() + "Framework.C/"; }
     std::string SetupFile() const { return Folder() + "DESetup.xml"; }
     std::string KeyFile() const { return Folder() + "DESetup.key"; }
-
-    std::string Content(const std::string& file) const
-    {
-        std::string content;
-        EXPECT_TRUE(Base::FileUtil::ReadFile(file, content)) << file;
-        return content;
-    }
 
     /// Keeps what every user of the machine can read of the process, and what its own user can.
     void LookAt(long long process)
@@ -176,7 +170,7 @@ void Secrets::WorkAndCrash()
         framework::CFrameworkCore core(events, {Folder(), {}, {}});
         ASSERT_TRUE(core.Start(error)) << error;
         setup = CDataEncryptionConfig(SetupFile()).Read().value();
-        sealingKey = Content(KeyFile());
+        sealingKey = FileContent(KeyFile());
         Enter(core);
         ReceiveAsTheComponent();
     }
@@ -249,12 +243,12 @@ void Secrets::RunTheFramework(int exitCode)
         << error;
     if (exitCode == 0) {
         EXPECT_TRUE(WaitUntil([&] { return TimesReady() > before; }, std::chrono::seconds(40)))
-            << Content(output);
+            << FileContent(output);
         LookAt(framework.Id());
         LookAt(run.ProcessId());
         framework.Signal(SIGTERM);
     }
-    EXPECT_EQ(framework.WaitForExit(20000).value_or(-1000), exitCode) << Content(output);
+    EXPECT_EQ(framework.WaitForExit(20000).value_or(-1000), exitCode) << FileContent(output);
 }
 
 std::vector<Secret> Secrets::All() const
@@ -278,7 +272,7 @@ TEST_F(Secrets, AreNowhereInWhatARunLeaves)
     ASSERT_NO_FATAL_FAILURE(WorkAndCrash());
     ASSERT_NO_FATAL_FAILURE(CrashWhileStarting());
     ASSERT_NO_FATAL_FAILURE(RunTheFramework(0));
-    const std::string good = Content(SetupFile());
+    const std::string good = FileContent(SetupFile());
     ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(SetupFile(), good.substr(0, good.size() / 2)));
     ASSERT_NO_FATAL_FAILURE(RunTheFramework(1));
     EXPECT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();

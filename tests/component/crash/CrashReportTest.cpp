@@ -28,11 +28,6 @@ struct CrashRow
     const char* thread = "crash_child";
 };
 
-void PrintTo(const CrashRow& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
 const std::string kNoMemory = "SIGSEGV (11), code 1, no memory at the address";
 const std::string kNoMemoryAtNull = kNoMemory + "\naddress: 0x0000000000000000";
 const std::string kNotPermitted = "SIGSEGV (11), code 2, access not permitted at the address";
@@ -211,7 +206,7 @@ protected:
     void PretendAnotherBuild()
     {
         const fs::path report = Reports().at(0);
-        const std::string changed = std::regex_replace(Get(report), std::regex(" [0-9a-f]{40} /"),
+        const std::string changed = std::regex_replace(FileContent(report), std::regex(" [0-9a-f]{40} /"),
                                                        " 0000000000000000000000000000000000000000 /");
         std::ofstream(report) << changed;
     }
@@ -252,7 +247,7 @@ TEST_F(ResolvedReport, ThatWasCutSaysSo)
 {
     Crash({"null-write"});
     const fs::path report = Reports().at(0);
-    fs::resize_file(report, Get(report).find("\nmodules:\n"));
+    fs::resize_file(report, FileContent(report).find("\nmodules:\n"));
     EXPECT_THAT(Resolve(), ContainsRegex("#0 [^\n]*WriteToNull.*the report was cut\n"));
     EXPECT_EQ(exitCode, 1);
 }

@@ -1,10 +1,9 @@
 #include "VantorGUIToolkit/GenericDataSet.h"
 #include "support/CapturedLog.h"
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
-
-#include <QFile>
 
 #include <set>
 
@@ -28,13 +27,6 @@ QByteArray Comment(std::size_t bytes)
     const QByteArray frame = "<r><!---->"
                              "</r>";
     return "<r><!--" + QByteArray(static_cast<int>(bytes) - frame.size(), 'x') + "--></r>";
-}
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
 }
 
 } // namespace
@@ -133,7 +125,7 @@ TEST(GenericDataSet, RefusesPathsThatAreNoFile)
 
 TEST(GenericDataSet, EveryCutOfTheDefaultLayoutIsRefused)
 {
-    const QByteArray layout = ReadAll(DEFAULT_WIDGET_LAYOUT).trimmed();
+    const QByteArray layout = QByteArray::fromStdString(FileContent(DEFAULT_WIDGET_LAYOUT)).trimmed();
     CGenericDataSet set;
     for (int size = 0; size < layout.size(); size += 7)
         EXPECT_FALSE(set.loadContent(layout.left(size), "cut")) << size;

@@ -2,6 +2,7 @@
 #include "Base/FileUtil.h"
 #include "Base/ProcessUtil.h"
 #include "support/CapturedLog.h"
+#include "support/FileContent.h"
 #include "support/FileLog.h"
 #include "support/TestDataRoot.h"
 
@@ -27,13 +28,6 @@ std::string FileLog(const std::string& folder)
     return properties;
 }
 
-std::string Content(const std::string& path)
-{
-    std::string text;
-    Base::FileUtil::ReadFile(path, text);
-    return text;
-}
-
 TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
 {
     TestDataRoot root;
@@ -46,7 +40,7 @@ TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
     BASE_ERROR("lost after");
     Base::CLog::Instance().UninitLog();
 
-    const std::string text = Content(root.Path() + "out.log");
+    const std::string text = FileContent(root.Path() + "out.log");
     EXPECT_NE(text.find("FATAL|root|"), std::string::npos) << text;
     EXPECT_NE(text.find("LogTest.cpp|[x] is not exist."), std::string::npos) << text;
     EXPECT_NE(text.find("ERROR|VideoLogger|"), std::string::npos) << text;
@@ -82,7 +76,7 @@ TEST(ClosingTheLog, WaitsForALineThatAnotherThreadIsWriting)
     helper.join();
     writer.join();
     Base::SetLogObserver(nullptr);
-    EXPECT_NE(Content(root.Path() + "out.log").find("|slow"), std::string::npos);
+    EXPECT_NE(FileContent(root.Path() + "out.log").find("|slow"), std::string::npos);
 }
 
 TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
@@ -119,7 +113,7 @@ TEST(TheLog, FollowsTheInstalledSettingsWhenTheUsersGiveNone)
                                                               "] cannot be followed: " + reason + ".\n"),
                   std::string::npos)
             << name;
-        EXPECT_NE(Content(root.Path() + "out.log").find("seen all the same"), std::string::npos) << name;
+        EXPECT_NE(FileContent(root.Path() + "out.log").find("seen all the same"), std::string::npos) << name;
     }
 }
 
@@ -178,7 +172,7 @@ TEST(TheLog, SaysHowManyLinesCouldNotBeWritten)
     EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
     BASE_INFO("after");
     Base::CLog::Instance().UninitLog();
-    const std::string text = Content(root.Path() + "out.log");
+    const std::string text = FileContent(root.Path() + "out.log");
     EXPECT_EQ(text.find("|lost"), std::string::npos) << text;
     EXPECT_NE(text.find("|Here 1000 lines are missing that could not be written.\nINFO|"), std::string::npos)
         << text;

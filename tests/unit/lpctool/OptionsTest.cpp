@@ -15,7 +15,7 @@ const std::vector<OptionSpec> kSpecs = {{"--flag", OptionSpec::Kind::Flag},
                                         {"--name", OptionSpec::Kind::Value},
                                         {"--run", OptionSpec::Kind::Words}};
 
-TEST(Options, TakeTheirWords)
+TEST(Options, TakeTheirWordsAndEverythingBehindTwoDashes)
 {
     std::string error;
     const auto options = COptions::Parse({"--run", "p", "-x", "", "--name", "n", "--flag"}, kSpecs, error);
@@ -23,14 +23,9 @@ TEST(Options, TakeTheirWords)
     EXPECT_EQ(options->Words("--run"), (Words{"p", "-x", ""}));
     EXPECT_EQ(options->Value("--name"), "n");
     EXPECT_TRUE(options->Has("--flag"));
-}
-
-TEST(Options, TakeEverythingBehindTwoDashes)
-{
-    std::string error;
-    const auto options = COptions::Parse({"--flag", "--run", "--", "p", "--flag", "--other"}, kSpecs, error);
-    ASSERT_TRUE(options) << error;
-    EXPECT_EQ(options->Words("--run"), (Words{"p", "--flag", "--other"}));
+    const auto behind = COptions::Parse({"--flag", "--run", "--", "p", "--flag", "--other"}, kSpecs, error);
+    ASSERT_TRUE(behind) << error;
+    EXPECT_EQ(behind->Words("--run"), (Words{"p", "--flag", "--other"}));
 }
 
 TEST(Options, ComplainAboutWhatTheyDoNotKnow)

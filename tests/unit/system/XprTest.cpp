@@ -1,6 +1,7 @@
 #include "Base/Error.h"
 #include "XPR/XPR_File.h"
 #include "XPR/XPR_Mutex.h"
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -22,12 +23,6 @@ namespace fs = std::filesystem;
 void Put(const std::string& path, const std::string& content)
 {
     std::ofstream(path, std::ios::binary) << content;
-}
-
-std::string Get(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class XprFile : public testing::Test
@@ -72,7 +67,7 @@ TEST_F(XprFile, ModeDecidesWhatTheFileMayBeBefore)
             continue;
         EXPECT_EQ(XPR_WriteFile(file, "+", 1), 1);
         EXPECT_TRUE(XPR_CloseFile(file));
-        EXPECT_EQ(Get(m_data.Path() + row.name), row.after);
+        EXPECT_EQ(FileContent(m_data.Path() + row.name), row.after);
     }
 }
 
@@ -97,7 +92,7 @@ TEST_F(XprFile, WhatCannotBeOpenedGivesNoFileAndTheReason)
         EXPECT_EQ(Base::Error::GetLastError(), error);
     }
     EXPECT_EQ(XPR_OpenFile(nullptr, 1, 0x1000), nullptr);
-    EXPECT_EQ(Get(m_data.Path() + "old"), "old");
+    EXPECT_EQ(FileContent(m_data.Path() + "old"), "old");
 }
 
 TEST_F(XprFile, ReadsToTheEndAndThenNothing)
