@@ -84,7 +84,8 @@ const Fault kFaults[] = {
      kWorks, "log.properties] cannot be followed: the file [/proc/none/"},
     {"NoScreen", kAlone, kNoScreen, kFailed, "FATAL [Vantor.Video.C] root"},
     {"NoScreenForTheFramework", kFramework, kNoScreen, kCannotRun, "FATAL [Vantor.Framewor] root"},
-    {"NoScreenForTheHelp", kFramework, "unset DISPLAY; set -- \"$@\" --help", kWorks, "--skin <NAME>"},
+    {"NoScreenForTheHelp", kFramework, "unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; set -- \"$@\" --help",
+     kWorks, "--skin <NAME>"},
     {"FewOpenFiles", kHosted, "ulimit -n 32", kWorks, "APP Init Success"},
     {"SmallFiles", kAlone, "ulimit -f 8", kFailed, "Log: lines are lost from here on"},
 };

@@ -87,7 +87,7 @@ const std::tuple<const char*, const char*, const char*> kFaults[] = {
     {"no object to invoke", R"({"invoke": "m", "reply": {}})", "\"invoke\" must be an object"},
     {"a negative time", R"({"sleep_ms": -1})", "\"sleep_ms\" must be a whole number from 1 to 3600000"},
     {"a time of 0", R"({"expect_exit": 0, "within_ms": 0})", "\"within_ms\" must be"},
-    {"half a millisecond", R"({"sleep_ms": 0.5})", "must be a whole number"},
+    {"half a millisecond", R"({"sleep_ms": 1.5})", "must be a whole number"},
     {"more than an hour", R"({"sleep_ms": 3600001})", "must be a whole number"},
     {"a time as text", R"({"sleep_ms": "5"})", "must be a whole number"},
     {"an unknown signal", R"({"kill": "SIGNOTHING"})", "unknown signal \"SIGNOTHING\""},
