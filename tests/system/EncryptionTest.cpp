@@ -22,7 +22,7 @@ bool IsPlain(const std::string& database)
     return content.rfind("SQLite format 3", 0) == 0;
 }
 
-TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndEncryptedFromThenOn)
+TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndOpensByThatKeyAloneFromThenOn)
 {
     ComponentRun run;
     const std::string setupFile = run.Path() + "Framework.C/DESetup.xml";
@@ -39,6 +39,18 @@ TEST(TheComponentsDatabase, IsPlainUntilTheFrameworkSetsAKeyUpAndEncryptedFromTh
     EXPECT_THAT(run.LogMessages(), Contains("Database [VideoSystem] is encrypted from here on."));
     EXPECT_THAT(run.LogMessages(), Not(Contains(HasSubstr("is not exist."))));
     EXPECT_FALSE(IsPlain(run.DataPath() + "VideoSystem"));
+
+    auto other = setup;
+    other.databaseKey = Base::Encrypt::RandomKeyText();
+    const std::string failed = "Failed to checkAndUpdateDB. [msg-VideoSystem: ";
+    const std::string refused = R"({"expect_exit": 255, "within_ms": 20000})";
+    ASSERT_TRUE(comm_method::CDataEncryptionConfig(setupFile).Write(other));
+    ASSERT_EQ(run.Play(refused), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(), Contains(failed + "file is encrypted or is not a database]."));
+    ASSERT_TRUE(std::filesystem::remove(setupFile));
+    ASSERT_EQ(run.Play(refused), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(),
+                Contains(failed + "the file is encrypted or damaged, and there is no key]."));
 }
 
 } // namespace
