@@ -226,14 +226,4 @@ TEST_F(Loss, WithoutDescriptorsEveryStartFailsWithTheReason)
     const Client client;
 }
 
-TEST_F(Loss, ServersOfAnotherDataRootAreNotMet)
-{
-    ASSERT_EQ(lpc::kNoError, server.Start());
-    setenv("VANTOR_USER_DATA", (root.Path() + "other").c_str(), 1);
-    ASSERT_TRUE(lpcclient::Init("client", false));
-    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
-    EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
-    EXPECT_TRUE(lpcclient::Uninit());
-}
-
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "LPC_Wire/Limits.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace {
 
@@ -55,7 +55,7 @@ TEST(FrameReader, TakesTheMostAndRefusesWhatBothEndsRefuse)
     EXPECT_EQ(Fault::None, ReadAll(LongBody(lpc::kMaxBody / lpc::kMaxFrameBody)).fault);
     EXPECT_EQ(Fault::None, ReadAll(BegunBodies(lpc::kMaxPartialBodies)).fault);
     for (const FaultRow& row : FaultRows())
-        EXPECT_STREQ(row.line, lpc::FaultText(ReadAll(row.bytes).fault));
+        EXPECT_THAT(lpc::FaultText(ReadAll(row.bytes).fault), testing::StartsWith(row.line));
 }
 
 TEST(FrameReader, HeadersAreUtf8)

@@ -83,14 +83,4 @@ TEST_F(LogProperties, FullFileRollsOverAndFewOldOnesAreKept)
     EXPECT_EQ(files, 5u);
 }
 
-TEST_F(LogProperties, OnlyTheUserMayReadTheLog)
-{
-    BASE_INFO("one line");
-    Written();
-    struct stat found
-    {};
-    ASSERT_EQ(::stat((m_paths.logPath() + "Video.C.log").c_str(), &found), 0);
-    EXPECT_EQ(found.st_mode & 0777, 0600u);
-}
-
 } // namespace

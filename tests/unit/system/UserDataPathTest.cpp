@@ -1,5 +1,4 @@
 #include "CommonMethodLib/UserDataPath.h"
-#include "CommonMethodLib/EventUploadMgr.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -122,17 +121,6 @@ TEST_F(UserDataPath, WhatCannotBeUsedIsRefusedWithOneLineAndLogsToStandardError)
         EXPECT_EQ(testing::internal::GetCapturedStderr(), line);
         EXPECT_EQ(paths.logPropertiesPath(), "");
     }
-}
-
-TEST_F(UserDataPath, FullDumpIsWantedOnlyWhileItsMarkerLiesInTheDumpFolder)
-{
-    ASSERT_TRUE(m_paths.init("/opt/", "Video.C", -1, -1));
-    auto& upload = comm_methodlib::CEventUploadMgr::Instance();
-    EXPECT_FALSE(upload.isCreateCrashDump(m_paths.dumpPath()));
-    Touch(m_paths.dumpPath() + "full-dump");
-    EXPECT_TRUE(upload.isCreateCrashDump(m_paths.dumpPath()));
-    fs::remove(m_paths.dumpPath() + "full-dump");
-    EXPECT_FALSE(upload.isCreateCrashDump(m_paths.dumpPath()));
 }
 
 } // namespace
