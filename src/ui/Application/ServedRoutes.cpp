@@ -5,6 +5,9 @@
 #include "SignalTransmit.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
+#include "logical/Local/LocalFileRoutes.h"
+#include "logical/System/SystemConfigRoutes.h"
+#include "logical/System/VideoSystemManager.h"
 
 namespace video {
 
@@ -37,6 +40,19 @@ void ServeState(CLPCClientPackage& link)
     });
 }
 
+/// The routes whose handlers work on the stores, which may still be on their way when a request comes.
+void ServeStores(CLPCClientPackage& link)
+{
+    CRouteTable& http = link.Dispatcher().Http();
+    const AnswerCall answer = [&link](const lpcclient::LPCCallBackData& call, const RouteAnswer& content) {
+        return link.Answer(call, content);
+    };
+    ServeLocalFiles(
+        http, []() -> vantor::ILocalFile& { return CVideoSystemManager::Instance().LocalFile(); }, answer);
+    ServeSystemConfigs(
+        http, []() -> CSystemConfig& { return CVideoSystemManager::Instance().SystemConfig(); }, answer);
+}
+
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)
 {
     link.Dispatcher().SetWebsocketSinks(
@@ -55,6 +71,7 @@ void ServeAllRoutes(CLPCClientPackage& link, CSignalTransmit& transmitter)
         link.Dispatcher().Http().Declare(url);
     transmitter.ServeMethods(link.Dispatcher().Methods());
     ServeLinkMethods(link);
+    ServeStores(link);
     ServeWebsocket(link, transmitter);
 
     std::vector<std::string> urls = link.Dispatcher().Http().Names();
