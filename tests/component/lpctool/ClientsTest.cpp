@@ -40,12 +40,7 @@ protected:
 
 TEST_F(Clients, ReachTheComponentThroughTheHost)
 {
-    const struct
-    {
-        std::vector<std::string> arguments;
-        int status;
-        const char* output;
-    } rows[] = {
+    const std::tuple<std::vector<std::string>, int, const char*> rows[] = {
         {{"call", "--url", "/fake/echo", "--method", "PUT", "--body", R"({"a":[1]})"},
          0,
          "{\n\t\"a\":\t[1]\n}\n"},
@@ -55,10 +50,10 @@ TEST_F(Clients, ReachTheComponentThroughTheHost)
         {{"call", "--method", "getWndHandle"}, 1, "the answer reports status 404"},
         {{"call", "--url", "/fake/silent", "--timeout", "100"}, 1, "error 1007"},
     };
-    for (const auto& row : rows) {
-        const auto call = m_run.Tool(row.arguments);
-        EXPECT_EQ(call->Status(), row.status) << row.output;
-        EXPECT_NE(call->Output().find(row.output), std::string::npos) << call->Output();
+    for (const auto& [arguments, status, output] : rows) {
+        const auto call = m_run.Tool(arguments);
+        EXPECT_EQ(call->Status(), status) << output;
+        EXPECT_TRUE(call->Says(output)) << call->Output();
     }
     Finish();
 }
@@ -98,7 +93,7 @@ TEST_F(Clients, SeeTheTrafficWithoutSecrets)
         m_run.Tool({"call", "--url", "/fake/echo", "--body", R"({"device":{"password":"clear"}})"});
     EXPECT_EQ(call->Status(), 0) << call->Output();
     EXPECT_EQ(watch->Status(), 0) << watch->Output();
-    EXPECT_EQ(watch->Output().find("clear"), std::string::npos) << watch->Output();
+    EXPECT_FALSE(watch->Says("clear")) << watch->Output();
 
     std::string path;
     for (const std::string& text : Base::StringUtil::Split(watch->Output(), '\n')) {
@@ -121,7 +116,7 @@ TEST_F(Clients, StopWatchingWhenTheHostEnds)
     ASSERT_TRUE(watch->WaitForOutput("watching")) << watch->Output();
     Finish();
     EXPECT_EQ(watch->Status(), 0) << watch->Output();
-    EXPECT_NE(watch->Output().find(R"("token":"***")"), std::string::npos) << watch->Output();
+    EXPECT_TRUE(watch->Says(R"("token":"***")")) << watch->Output();
 }
 
 TEST(AHostWithoutScript, ServesUntilItIsInterrupted)
@@ -130,10 +125,14 @@ TEST(AHostWithoutScript, ServesUntilItIsInterrupted)
     setenv("FAKE_COMPONENT_WAY", "", 1);
     const auto host = run.Tool({"host", "--spawn", FAKE_COMPONENT});
     ASSERT_TRUE(host->WaitForOutput("serving")) << host->Output();
-    EXPECT_TRUE(WaitUntil([&] { return run.Tool({"call", "--url", "/fake/echo"})->Status() == 0; }));
+    EXPECT_TRUE(WaitUntil(
+        [&] {
+            return run.Tool({"call", "--url", "/fake/echo"})->Status() == 0;
+        },
+        std::chrono::seconds(30)));
     host->Process().Signal(SIGTERM);
     EXPECT_EQ(host->Status(), 0) << host->Output();
-    EXPECT_NE(host->Output().find("end the component"), std::string::npos) << host->Output();
+    EXPECT_TRUE(host->Says("end the component")) << host->Output();
 }
 
 TEST(ClientsAlone, SayThatThereIsNoFramework)
@@ -142,8 +141,7 @@ TEST(ClientsAlone, SayThatThereIsNoFramework)
     for (const char* command : {"call", "notify"}) {
         const auto client = run.Tool({command, "--url", "/u"});
         EXPECT_EQ(client->Status(), 1);
-        EXPECT_NE(client->Output().find("there is no such server (error 1003)"), std::string::npos)
-            << client->Output();
+        EXPECT_TRUE(client->Says("there is no such server (error 1003)")) << client->Output();
     }
     EXPECT_EQ(run.Tool({"watch"})->Status(), 1);
 }
@@ -155,7 +153,7 @@ TEST(ClientsAlone, LearnThatTheComponentIsNotThere)
     ASSERT_TRUE(run.Host().WaitForOutput("listening"));
     const auto call = run.Tool({"call", "--url", "/fake/echo"});
     EXPECT_EQ(call->Status(), 1);
-    EXPECT_NE(call->Output().find("status 503 and error 1005"), std::string::npos) << call->Output();
+    EXPECT_TRUE(call->Says("status 503 and error 1005")) << call->Output();
 }
 
 } // namespace
