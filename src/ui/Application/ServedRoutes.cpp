@@ -5,6 +5,9 @@
 #include "SignalTransmit.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
+#include "logical/Local/DatabaseSession/VideoSystemDB.h"
+#include "logical/Local/LocalFile.h"
+#include "logical/Local/LocalFileRoutes.h"
 
 namespace video {
 
@@ -37,6 +40,13 @@ void ServeState(CLPCClientPackage& link)
     });
 }
 
+/// Made by the first call; it lives as long as the process, as the database does.
+vantor::ILocalFile& LocalFiles()
+{
+    static CLocalFile* const files = new CLocalFile(VideoSystemDB::Instance());
+    return *files;
+}
+
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)
 {
     link.Dispatcher().SetWebsocketSinks(
@@ -55,6 +65,9 @@ void ServeAllRoutes(CLPCClientPackage& link, CSignalTransmit& transmitter)
         link.Dispatcher().Http().Declare(url);
     transmitter.ServeMethods(link.Dispatcher().Methods());
     ServeLinkMethods(link);
+    ServeLocalFiles(
+        link.Dispatcher().Http(), LocalFiles,
+        [&link](const auto& call, const RouteAnswer& answer) { return link.Answer(call, answer); });
     ServeWebsocket(link, transmitter);
 
     std::vector<std::string> urls = link.Dispatcher().Http().Names();

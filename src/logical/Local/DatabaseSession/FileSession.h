@@ -1,0 +1,147 @@
+#pragma once
+
+#include "VideoInterfaces/LocalFileRecords.h"
+#include "logical/Local/DatabaseSession/BaseDBConn.h"
+#include "logical/Local/DatabaseSession/Columns.h"
+
+#include <string>
+#include <vector>
+
+namespace video {
+
+/// The condition on a list of cameras, which an empty list makes one that nothing fulfils.
+std::string CameraClause(const std::vector<std::string>& cameraIds);
+
+/// The condition on the time of a record, from begin to end, both included.
+std::string SpanClause(vantor::TimeValue begin, vantor::TimeValue end);
+
+/// The list in parts, each short enough for a statement with the camera clause, which the engine limits to a
+/// depth of 1,000; at least one part. A camera that stands in the list again is left out.
+std::vector<std::vector<std::string>> CameraParts(const std::vector<std::string>& cameraIds);
+
+/// The name and columns of a record's table, and the text and buffer size of its insert.
+template<typename Record>
+struct FileTable;
+
+/// What the tables of pictures and of clips have in common. Any thread; each call is one statement.
+///
+/// Every text of a statement is quoted. One that does not fit its buffer is never executed and fails: texts
+/// that together are longer than some 800 bytes cannot be inserted, and records whose path is longer than 450
+/// cannot be looked up by it.
+template<typename Record>
+class FileSession
+{
+public:
+    explicit FileSession(CBaseDBConn& connection) : m_connection(connection) {}
+
+    bool Insert(const Record& record) { return m_connection.Execute(InsertText(record)); }
+    bool DeleteById(const std::string& id) { return m_connection.Execute(DeleteByIdText(id)); }
+
+    /// Finds the record, which is empty when there is none. False when the statement failed.
+    bool GetById(const std::string& id, Record& record) { return ReadFirst(ByIdText(id), record); }
+    bool GetByPath(const std::string& filePath, Record& record)
+    {
+        return ReadFirst(ByPathText(filePath), record);
+    }
+
+    /// The records that occurred from begin to end, both included. Always true; none after a failure.
+    bool QueryCamera(const std::string& cameraId, vantor::TimeValue begin, vantor::TimeValue end,
+                     std::vector<Record>& records)
+    {
+        records.clear();
+        Append(CameraSpanText(cameraId, begin, end), records);
+        return true;
+    }
+    bool QueryGroup(const std::string& groupId, vantor::TimeValue begin, vantor::TimeValue end,
+                    std::vector<Record>& records)
+    {
+        records.clear();
+        Append(GroupSpanText(groupId, begin, end), records);
+        return true;
+    }
+
+    /// All records of the cameras, of which there may be any number. Always true; none after a failure.
+    bool QueryCameras(const std::vector<std::string>& cameraIds, std::vector<Record>& records)
+    {
+        records.clear();
+        for (const auto& part : CameraParts(cameraIds)) {
+            if (!Append(CamerasText(part), records)) {
+                records.clear();
+                break;
+            }
+        }
+        return true;
+    }
+
+    /// Brackets several writes; see CBaseDBConn.
+    bool Begin() { return m_connection.Begin(); }
+    bool Commit() { return m_connection.Commit(); }
+
+    // The statements. Those of a fixed size are empty when the values do not fit.
+
+    static std::string InsertText(const Record& record)
+    {
+        return FormatRow<Table::kInsertSize>(Table::kInsert, record, Table::kColumns);
+    }
+    static std::string DeleteByIdText(const std::string& id)
+    {
+        return Sqlite3DO::FormatStatement<500>("DELETE FROM %s WHERE ID = '%s'", Table::kName,
+                                               Sqlite3DO::Quoted(id).c_str());
+    }
+    static std::string ByIdText(const std::string& id)
+    {
+        return Sqlite3DO::FormatStatement<500>("SELECT * FROM %s WHERE ID = '%s' ", Table::kName,
+                                               Sqlite3DO::Quoted(id).c_str());
+    }
+    static std::string ByPathText(const std::string& filePath)
+    {
+        return Sqlite3DO::FormatStatement<500>("SELECT * FROM %s WHERE FilePath = '%s' ", Table::kName,
+                                               Sqlite3DO::Quoted(filePath).c_str());
+    }
+    static std::string CamerasText(const std::vector<std::string>& cameraIds)
+    {
+        return Select() + CameraClause(cameraIds);
+    }
+    static std::string CameraSpanText(const std::string& cameraId, vantor::TimeValue begin,
+                                      vantor::TimeValue end)
+    {
+        return CamerasText({cameraId}) + SpanClause(begin, end);
+    }
+    static std::string GroupSpanText(const std::string& groupId, vantor::TimeValue begin,
+                                     vantor::TimeValue end)
+    {
+        return Select() + "GroupID = '" + Sqlite3DO::Quoted(groupId) + "'" + SpanClause(begin, end);
+    }
+
+protected:
+    using Table = FileTable<Record>;
+
+    CBaseDBConn& m_connection;
+
+private:
+    static std::string Select() { return std::string("SELECT * FROM ") + Table::kName + " WHERE "; }
+
+    bool ReadFirst(const std::string& sql, Record& record)
+    {
+        record = Record();
+        Sqlite3DO::CSQLite3Recordset rows;
+        if (!m_connection.Execute(sql, rows))
+            return false;
+        if (rows.Next())
+            ReadRow(rows, Table::kColumns, record);
+        return true;
+    }
+
+    bool Append(const std::string& sql, std::vector<Record>& records)
+    {
+        Sqlite3DO::CSQLite3Recordset rows;
+        if (!m_connection.Execute(sql, rows))
+            return false;
+        records.reserve(records.size() + rows.RowCount());
+        while (rows.Next())
+            ReadRow(rows, Table::kColumns, records.emplace_back());
+        return true;
+    }
+};
+
+} // namespace video
