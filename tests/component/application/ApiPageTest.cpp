@@ -338,10 +338,12 @@ TEST(TheApiPage, HasExamplesThatItsMessagesReadAndWrite)
 
 TEST(TheApiPage, HasAnExampleOfEveryRouteAndMethod)
 {
-    for (const ApiPage::Section& section : Page().sections) {
-        const Names served = Chapter(section.chapter).served;
-        const bool isServed = std::count(served.begin(), served.end(), section.name) != 0;
-        EXPECT_EQ(isServed && section.examples.empty(), false) << section.name;
+    for (const char* title : {"Routes", "Methods"}) {
+        const Names served = Chapter(title).served;
+        for (const ApiPage::Section& section : Page().sections)
+            if (section.chapter == title && std::count(served.begin(), served.end(), section.name) != 0) {
+                EXPECT_FALSE(section.examples.empty()) << section.name;
+            }
     }
 }
 
