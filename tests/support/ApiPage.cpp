@@ -69,7 +69,7 @@ private:
     void BeginBlock(const std::string& line)
     {
         const std::smatch match =
-            MatchOf(line, "```(json( (request|answer|unanswered|notification)( ([A-Z]+))?)?)?");
+            MatchOf(line, "```(json( (request|answer|unanswered|notification)( ([A-Z]+|[0-9]+))?)?)?");
         m_inBlock = true;
         m_isExample = match[3].matched;
         if (m_isExample)

@@ -22,12 +22,12 @@ struct ApiPage
         std::vector<Row> rows;
     };
 
-    /// A block ```json kind [method]. The kinds: request, answer (of the request above it), unanswered,
+    /// A block ```json kind [detail]. The kinds: request, answer (of the request above it), unanswered,
     /// notification.
     struct Example
     {
         std::string kind;
-        std::string method; ///< the header of that name
+        std::string detail; ///< the header "method" of a request, "status" of an answer
         std::string body;
         int line = 0;
     };

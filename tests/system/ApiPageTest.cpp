@@ -19,8 +19,9 @@ public:
     explicit PageScript(const ApiPage& page)
     {
         for (const ApiPage::Section& section : page.sections)
-            for (const ApiPage::Example& example : section.examples)
-                Add(section, example);
+            if (section.chapter != "How to read it")
+                for (const ApiPage::Example& example : section.examples)
+                    Add(section, example);
         for (const ApiPage::Section& section : page.sections)
             for (const std::string& name : section.listed)
                 AddReceivedOnly(section, name);
@@ -33,11 +34,12 @@ public:
 
 private:
     /// Values that differ from run to run: the first one met stands for all of that text.
-    static std::string Varying(const std::string& body)
+    static std::string Varying(std::string body)
     {
         static const std::regex guid("\"([0-9a-f]{8})(-[0-9a-f]{4}){3}-[0-9a-f]{12}\"");
-        static const std::regex number("\"(wndId|runningSeconds|messagesTaken|messagesUnderWay)\":[0-9]+");
-        return std::regex_replace(std::regex_replace(body, guid, "\"$$g$1\""), number, "\"$1\":\"*\"");
+        static const std::regex value("\"(wndId|runningSeconds|messages\\w+|\\w+SaveFolder)\":[^,}]+");
+        body = std::regex_replace(body, guid, "\"$$g$1\"");
+        return std::regex_replace(body, value, "\"$1\":\"*\"");
     }
 
     static std::string Message(const std::string& headers, const std::string& body)
@@ -59,12 +61,12 @@ private:
     void Add(const ApiPage::Section& section, const ApiPage::Example& example)
     {
         if (example.kind == "answer")
-            return End(", \"reply\": " + Varying(example.body));
+            return End(Demand(example));
         static const std::regex methodOf(R"~(\{"method":"(\w+)".*)~");
         std::smatch method;
         const bool isListed = !section.listed.empty() && std::regex_match(example.body, method, methodOf);
         const std::string name = isListed ? method[1].str() : section.name;
-        const std::string message = Message(Address(section, name, example.method), example.body);
+        const std::string message = Message(Address(section, name, example.detail), example.body);
         if (isListed)
             m_receivedOnly.insert(name);
         if (name == "componentUninit" || name == "clientDisconnected")
@@ -75,6 +77,12 @@ private:
             m_lines += R"({"invoke": )" + message;
         if (example.kind == "unanswered")
             End(R"(, "no_reply_ms": 200)");
+    }
+
+    static std::string Demand(const ApiPage::Example& answer)
+    {
+        const std::string status = answer.detail.empty() ? "" : R"("status": ")" + answer.detail + '"';
+        return ", \"reply\": " + Varying(answer.body) + ", \"reply_headers\": {" + status + "}";
     }
 
     /// Ends the line of a request.

@@ -8,12 +8,15 @@
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/System/CurrentUser.h"
+#include "logical/System/DatabaseSession/VideoSystemConfigStruct.h"
 #include "ui/Application/ServedRoutes.h"
 #include "ui/System/SystemconfigUIManager.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <memory>
 #include <set>
 
@@ -24,6 +27,10 @@ using testing::UnorderedElementsAreArray;
 namespace {
 
 using Names = std::vector<std::string>;
+using Paths = std::set<std::string>;
+
+/// What holds for all messages.
+constexpr const char* kCommonChapter = "How to read it";
 
 const ApiPage& Page()
 {
@@ -139,6 +146,35 @@ std::string KindOf()
         return (std::is_signed_v<M> ? "int" : "uint") + std::to_string(8 * sizeof(M));
 }
 
+std::string SettingKind(const video::SettingField<bool>&)
+{
+    return "flag";
+}
+
+/// "1, 6 to 45 or 100"
+std::string SettingKind(const video::SettingField<std::int32_t>& field)
+{
+    Names spans;
+    for (const auto [least, greatest] : field.take)
+        spans.push_back(std::to_string(least) +
+                        (least == greatest ? std::string() : " to " + std::to_string(greatest)));
+    spans.erase(std::unique(spans.begin(), spans.end()), spans.end());
+    std::string kind = spans.front();
+    for (std::size_t i = 1; i < spans.size(); ++i)
+        kind += (i + 1 == spans.size() ? " or " : ", ") + spans[i];
+    return kind;
+}
+
+/// The rows of the settings, none of which needs to be there.
+void AddSettings(Names& rows)
+{
+    video::ForEachSetting([&](const auto& field) {
+        rows.push_back(std::string(field.name) + ", " + SettingKind(field) + ", no");
+    });
+    for (const char* folder : {"videoSaveFolder", "captureSaveFolder"})
+        rows.push_back(std::string(folder) + ", text, no");
+}
+
 template<typename T>
 void AddRows(const std::string& prefix, Names& rows);
 
@@ -146,7 +182,9 @@ void AddRows(const std::string& prefix, Names& rows);
 template<typename M>
 void AddInnerRows(const std::string& key, Names& rows)
 {
-    if constexpr (IsOptional<M>::value)
+    if constexpr (std::is_same_v<M, NamedValues>)
+        AddSettings(rows);
+    else if constexpr (IsOptional<M>::value)
         AddInnerRows<typename M::value_type>(key, rows);
     else if constexpr (IsList<M>::value)
         AddInnerRows<typename M::value_type>(key + "[]", rows);
@@ -227,6 +265,28 @@ std::set<const MessageInfo*> DescribedMessages()
     return described;
 }
 
+/// The keys in a message's rows.
+Paths KeysOf(const MessageInfo& message)
+{
+    Paths keys;
+    for (const std::string& row : message.rows)
+        keys.insert(row.substr(0, row.find(", ")));
+    return keys;
+}
+
+/// The messages that an example of the section can be: those of its tables and the common ones, or of any
+/// table where it has none.
+std::set<const MessageInfo*> Candidates(const ApiPage::Section& section, const ApiPage::Example& example)
+{
+    std::set<const MessageInfo*> candidates;
+    for (const ApiPage::Section& other : Page().sections)
+        if (section.fields.empty() || other.name == section.name || other.chapter == kCommonChapter)
+            for (const ApiPage::Fields& fields : other.fields)
+                if (fields.role != (example.kind == "answer" ? "Data" : "Answer"))
+                    candidates.insert(MessageOf(fields));
+    return candidates;
+}
+
 TEST(TheApiPage, ShowsTheFieldsOfItsMessages)
 {
     for (const ApiPage::Section& section : Page().sections)
@@ -254,23 +314,28 @@ TEST(TheApiPage, ShowsEveryMessageOfTheMethods)
 
 // ---- the examples -----------------------------------------------------------------------------------------
 
-/// The texts of all members' paths in an item, such as ".data.type"; those of a list's elements as "[]".
-void AddPaths(const cJSON* item, const std::string& path, std::set<std::string>& paths)
+/// Adds the paths of all members within an item, in the tables' form.
+void AddPaths(const cJSON* item, const std::string& path, Paths& paths)
 {
-    paths.insert(path);
-    for (const cJSON* child = item->child; child; child = child->next)
-        AddPaths(child, path + (cJSON_IsArray(item) ? "[]" : "." + std::string(child->string)), paths);
+    for (const cJSON* child = item->child; child; child = child->next) {
+        const std::string key = child->string ? child->string : "";
+        const std::string inner = cJSON_IsArray(item) ? path + "[]" : path.empty() ? key : path + "." + key;
+        if (!cJSON_IsArray(item))
+            paths.insert(inner);
+        AddPaths(child, inner, paths);
+    }
 }
 
-std::set<std::string> PathsOf(const std::string& text)
+/// The paths that an example's message has.
+Paths PathsIn(const MessageInfo& message, const std::string& body)
 {
     std::string error;
-    const json::Tree tree = json::ParseText(text, error);
-    std::set<std::string> paths;
-    if (tree)
-        AddPaths(tree.get(), "", paths);
-    else
-        ADD_FAILURE() << error << ": " << text;
+    const json::Tree tree = json::ParseText(body, error);
+    const char* const key = message.isMethod ? "data" : message.key.c_str();
+    const cJSON* const item = *key ? json::Member(tree.get(), key) : tree.get();
+    Paths paths;
+    if (item)
+        AddPaths(item, "", paths);
     return paths;
 }
 
@@ -285,55 +350,41 @@ std::optional<std::string> ReadAndWrite(const MessageInfo& message, const std::s
     return isRead ? std::optional(WriteLPCStr(*read)) : std::nullopt;
 }
 
-/// Whether an example is the message: it is read, has no member that the message does not have and, as an
-/// answer, is to the letter what the message writes.
+/// Whether an example is of the message: it is read and, as an answer, to the letter what the message writes.
 bool Fits(const MessageInfo* message, const ApiPage::Example& example)
 {
     const auto written = message ? ReadAndWrite(*message, example.body) : std::nullopt;
-    if (!written || example.kind == "answer")
-        return written == example.body;
-    const auto known = PathsOf(*written);
-    const auto used = PathsOf(example.body);
-    return std::includes(known.begin(), known.end(), used.begin(), used.end());
-}
-
-/// The messages that an example of the section can be: those of its tables, or of any table where it has
-/// none.
-std::set<const MessageInfo*> Candidates(const ApiPage::Section& section, const ApiPage::Example& example)
-{
-    if (section.fields.empty())
-        return DescribedMessages();
-    std::set<const MessageInfo*> candidates;
-    for (const ApiPage::Fields& fields : section.fields)
-        if ((fields.role == "Answer") == (example.kind == "answer"))
-            candidates.insert(MessageOf(fields));
-    return candidates;
+    return written && (example.kind != "answer" || *written == example.body);
 }
 
 /// Examples that are no message with fields: a route whose body does not matter, a method without data, and
 /// what the component gives no answer to.
 bool HasNoFields(const ApiPage::Section& section, const ApiPage::Example& example)
 {
-    return example.kind == "unanswered" || example.body == "{}" || example.body == WriteLPCStr(section.name);
+    return example.kind == "unanswered" || example.body.empty() || example.body == "{}" ||
+           example.body == WriteLPCStr(section.name);
 }
 
 TEST(TheApiPage, HasExamplesThatItsMessagesReadAndWrite)
 {
-    std::set<const MessageInfo*> shown;
+    std::map<const MessageInfo*, Paths> shown;
     for (const ApiPage::Section& section : Page().sections) {
         for (const ApiPage::Example& example : section.examples) {
-            int fitting = HasNoFields(section, example) ? 1 : 0;
-            for (const MessageInfo* message : Candidates(section, example)) {
-                if (!HasNoFields(section, example) && Fits(message, example)) {
-                    ++fitting;
-                    shown.insert(message);
-                }
-            }
-            EXPECT_EQ(fitting, 1) << section.name << ", line " << example.line << ": " << example.body;
+            if (HasNoFields(section, example))
+                continue;
+            const auto candidates = Candidates(section, example);
+            const auto fitting = std::find_if(candidates.begin(), candidates.end(),
+                                              [&](const auto* message) { return Fits(message, example); });
+            if (fitting == candidates.end())
+                ADD_FAILURE() << section.name << ", line " << example.line << ": " << example.body;
+            else
+                shown[*fitting].merge(PathsIn(**fitting, example.body));
         }
     }
     for (const MessageInfo* message : DescribedMessages())
-        EXPECT_EQ(shown.count(message), 1U) << "no example of \"" << (message ? message->key : "?") << '"';
+        if (message) {
+            EXPECT_EQ(shown[message], KeysOf(*message)) << "the examples of \"" << message->key << '"';
+        }
 }
 
 TEST(TheApiPage, HasAnExampleOfEveryRouteAndMethod)
