@@ -19,15 +19,17 @@ struct MessageList
 {};
 
 /// Every message that has a list of fields; the tests of the whole family run over it.
-using AllMessages = MessageList<
-    AlarmInputInfoData, AlarmOutputControlData, AlarmOutputInfoData, AlarmRegisterData, AppTabRemovedData,
-    BroadCastNotify, BroadCastNotifyResult, CommonResponseData, ComponentListData, ComponentRegisterInfo,
-    ComponentStateData, DateTimeFormatData, DefaultFilePathData, DeviceChannelListData, DeviceList,
-    DeviceResponseData, DeviceResponseListData, FileNotifyResult, FrameResizeData, FrameworkMoveData,
-    GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
-    GetWndHandleResponseData, GroupListData, LoadComponentsRequestData, LoadComponentsResponseData, LocalFile,
-    LocalFileNotify, LocalFileQuery, LocalFileQueryResult, LocalFileResult, MainViewState,
-    ModifyGroupCondition, ShowWndRequestData, SwitchUserStopWorkingData, SwitchUserUpdateFrameData,
-    TabSwitchData, TimeSyncResultListData, WebSocketNotifyData, WiperControlData, WiperControlResultListData>;
+using AllMessages =
+    MessageList<AlarmInputInfoData, AlarmOutputControlData, AlarmOutputInfoData, AlarmRegisterData,
+                AppTabRemovedData, BroadCastNotify, BroadCastNotifyResult, CommonResponseData,
+                ComponentListData, ComponentRegisterInfo, ComponentStateData, DateTimeFormatData,
+                DefaultFilePathData, DeviceChannelListData, DeviceList, DeviceResponseData,
+                DeviceResponseListData, FileNotifyResult, FrameResizeData, FrameworkMoveData,
+                GetAuxiliaryScreenAppRequestData, GetAuxiliaryScreenAppResponseData, GetWndHandleRequestData,
+                GetWndHandleResponseData, GroupListData, LoadComponentsRequestData,
+                LoadComponentsResponseData, LocalFile, LocalFileNotify, LocalFileQuery, LocalFileQueryResult,
+                LocalFileResult, MainViewState, ModifyGroupCondition, ShowWndRequestData,
+                SwitchUserStopWorkingData, SwitchUserUpdateFrameData, SystemConfigsData, TabSwitchData,
+                TimeSyncResultListData, WebSocketNotifyData, WiperControlData, WiperControlResultListData>;
 
 } // namespace protocol

@@ -7,6 +7,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <new>
 #include <string_view>
 
 namespace protocol::json {
@@ -80,6 +81,28 @@ bool ReadSeconds(const cJSON* item, std::int64_t& value, ReadError& error)
         return Refuse(error, "expected a time");
     value = *seconds;
     return true;
+}
+
+bool ReadNamedValues(const cJSON* item, NamedValues& values, ReadError& error)
+{
+    if (!cJSON_IsObject(item))
+        return Refuse(error, "expected an object");
+    for (const cJSON* child = item->child; child; child = child->next) {
+        if (!values.try_emplace(child->string, RawJSON{PrintExact(child)}).second) {
+            Refuse(error, "stands there twice");
+            return RefuseUnder(child->string, error);
+        }
+    }
+    return true;
+}
+
+Tree NewNamedValues(const NamedValues& values)
+{
+    Tree object = NewObject();
+    for (const auto& [name, value] : values)
+        if (!cJSON_AddItemToObject(object.get(), name.c_str(), NewRaw(value.text).release()))
+            throw std::bad_alloc();
+    return object;
 }
 
 bool ReadInteger(const cJSON* item, long long least, long long greatest, long long& value, ReadError& error)

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <iterator>
 #include <limits>
+#include <map>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -13,7 +14,7 @@
 #include <vector>
 
 /// The kinds of field: text, bool, integers, double, enumerations, Seconds, RawJSON, std::optional,
-/// std::vector, and structures that have a list of fields themselves.
+/// std::vector, NamedValues, and structures that have a list of fields themselves.
 namespace protocol {
 
 /// A time in seconds since 1970. Written as a number; read from a number or from a date-time text of
@@ -36,6 +37,9 @@ inline bool operator==(const RawJSON& left, const RawJSON& right)
 {
     return left.text == right.text;
 }
+
+/// An object whose members' names a later reader knows; each name, in its exact letters, stands there once.
+using NamedValues = std::map<std::string, RawJSON>;
 
 /// An enumeration whose JSON is its number, from first to last. Declared beside the enumeration, to be found
 /// by its type:
@@ -68,6 +72,8 @@ bool ReadText(const cJSON* item, std::string& value, ReadError& error);
 bool ReadBool(const cJSON* item, bool& value, ReadError& error);
 bool ReadDouble(const cJSON* item, double& value, ReadError& error);
 bool ReadSeconds(const cJSON* item, std::int64_t& value, ReadError& error);
+bool ReadNamedValues(const cJSON* item, NamedValues& values, ReadError& error);
+Tree NewNamedValues(const NamedValues& values);
 
 /// A number without fraction, or a decimal text, from least to greatest. A number beyond 2^53 - 1 is refused,
 /// since it may have been rounded on its way.
@@ -236,6 +242,16 @@ struct Kind<std::vector<T>>
             Append(array.get(), Kind<T>::Write(value));
         return array;
     }
+};
+
+template<>
+struct Kind<NamedValues>
+{
+    static bool Read(const cJSON* item, NamedValues& values, ReadError& error)
+    {
+        return ReadNamedValues(item, values, error);
+    }
+    static Tree Write(const NamedValues& values) { return NewNamedValues(values); }
 };
 
 template<typename T>

@@ -1,19 +1,91 @@
 #include "logical/System/VideoSystemManager.h"
 
 #include "Base/Singleton.h"
-#include "logical/Local/DatabaseSession/VideoSystemDB.h"
+#include "logical/Local/LocalDataManagerDelegate.h"
+#include "logical/Local/LocalDataPath.h"
+#include "logical/Local/LocalFile.h"
+
+#include <stdexcept>
+#include <utility>
 
 namespace video {
+
+struct CVideoSystemManager::Stores
+{
+    explicit Stores(const Parts& parts)
+        : path(parts.foldersFile, parts.defaults), files(parts.connection),
+          config(parts.connection, path, parts.notifications, parts.defaults, parts.announce),
+          toolbar(parts.connection, parts.notifications, parts.announce), delegate(files, path, config)
+    {
+        config.Load();
+        toolbar.Load();
+    }
+
+    CLocalDataPath path;
+    CLocalFile files;
+    CSystemConfig config;
+    CToolbarConfig toolbar;
+    CLocalDataManagerDelegate delegate;
+};
 
 CVideoSystemManager& CVideoSystemManager::Instance()
 {
     return Base::CSingleton<CVideoSystemManager>::Instance();
 }
 
-void CVideoSystemManager::Init()
+CVideoSystemManager::CVideoSystemManager(std::chrono::milliseconds waitLimit) : m_waitLimit(waitLimit) {}
+
+CVideoSystemManager::~CVideoSystemManager() = default;
+
+void CVideoSystemManager::Init(const Parts& parts)
 {
-    VideoSystemDB::Instance();
-    m_ready = true;
+    auto stores = std::make_unique<Stores>(parts);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (!m_stores)
+        m_stores = std::move(stores);
+    m_done.notify_all();
+}
+
+void CVideoSystemManager::UnInit()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_ended = true;
+    m_done.notify_all();
+}
+
+CVideoSystemManager::Stores* CVideoSystemManager::Wait()
+{
+    std::unique_lock<std::mutex> lock(m_mutex);
+    m_done.wait_for(lock, m_waitLimit, [this] { return m_stores || m_ended; });
+    return m_stores.get();
+}
+
+CVideoSystemManager::Stores& CVideoSystemManager::Required()
+{
+    if (Stores* const stores = Wait())
+        return *stores;
+    throw std::runtime_error("the stores are not open");
+}
+
+vantor::ILocalFile& CVideoSystemManager::LocalFile()
+{
+    return Required().files;
+}
+
+CSystemConfig& CVideoSystemManager::SystemConfig()
+{
+    return Required().config;
+}
+
+CToolbarConfig& CVideoSystemManager::ToolbarConfig()
+{
+    return Required().toolbar;
+}
+
+vantor::ILocalDataManager* CVideoSystemManager::LocalDataManager()
+{
+    Stores* const stores = Wait();
+    return stores ? &stores->delegate : nullptr;
 }
 
 } // namespace video

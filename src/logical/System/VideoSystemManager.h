@@ -1,28 +1,64 @@
 #pragma once
 
 #include "Base/Noncopyable.h"
+#include "VideoInterfaces/ILocalDataManager.h"
+#include "logical/System/SystemConfig.h"
+#include "logical/System/ToolbarConfig.h"
 
-#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <string>
 
 namespace video {
 
-/// The component's stores as a whole: opened at start-up, ready until shut-down. Any thread.
+/// The component's stores as a whole: made and loaded at start-up, there until the process ends. Any thread.
+///
+/// Whoever asks for one before Init is done waits for it, up to a limit. Where there is none, as after a
+/// start that failed, the functions that return a reference throw std::runtime_error.
 class CVideoSystemManager : Base::CNoncopyable
 {
 public:
+    /// What the stores work with; it lives as long as the process.
+    struct Parts
+    {
+        CBaseDBConn& connection;
+        Base::CMessageLoop& notifications; ///< calls the observers
+        vantor::SaveFolders defaults;      ///< until the user chooses others
+        std::string foldersFile;           ///< keeps the chosen ones; in the local code page
+        std::function<void()> announce;    ///< tells the framework that settings changed
+    };
+
     static CVideoSystemManager& Instance();
 
-    /// Start-up on a worker thread, after the databases were checked: opens the component database, so that
-    /// the first request does not wait for it.
-    void Init();
+    explicit CVideoSystemManager(std::chrono::milliseconds waitLimit = std::chrono::seconds(30));
+    ~CVideoSystemManager();
 
-    /// May be called again.
-    void UnInit() { m_ready = false; }
+    /// Start-up on a worker thread, after the databases were checked.
+    void Init(const Parts& parts);
 
-    bool IsReady() const { return m_ready; }
+    /// Nobody waits any more. What was made stays, for those who still hold it. May be called again.
+    void UnInit();
+
+    vantor::ILocalFile& LocalFile();
+    CSystemConfig& SystemConfig();
+    CToolbarConfig& ToolbarConfig();
+    /// For the logical libraries; null where there are no stores.
+    vantor::ILocalDataManager* LocalDataManager();
 
 private:
-    std::atomic<bool> m_ready{false};
+    struct Stores;
+
+    Stores* Wait();
+    Stores& Required();
+
+    const std::chrono::milliseconds m_waitLimit;
+    std::mutex m_mutex; ///< of what follows
+    std::condition_variable m_done;
+    bool m_ended = false;
+    std::unique_ptr<Stores> m_stores;
 };
 
 } // namespace video

@@ -108,8 +108,9 @@ bool CVantorApplication::InitLogical()
 {
     std::future<void> multimedia = StartMultimediaComm();
     std::future<void> cloud = StartCloudP2PManager();
-    PreviewLogical::CPreviewLogical::Instance().init(nullptr, nullptr);
-    PlaybackLogical::CPlaybackLogical::Instance().init(nullptr, nullptr);
+    vantor::ILocalDataManager* const localData = CVideoSystemManager::Instance().LocalDataManager();
+    PreviewLogical::CPreviewLogical::Instance().init(nullptr, localData);
+    PlaybackLogical::CPlaybackLogical::Instance().init(nullptr, localData);
     multimedia.wait();
     cloud.wait();
     CLPCClientPackage::Instance().Init();

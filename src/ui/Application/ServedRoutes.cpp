@@ -5,9 +5,9 @@
 #include "SignalTransmit.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
-#include "logical/Local/DatabaseSession/VideoSystemDB.h"
-#include "logical/Local/LocalFile.h"
 #include "logical/Local/LocalFileRoutes.h"
+#include "logical/System/SystemConfigRoutes.h"
+#include "logical/System/VideoSystemManager.h"
 
 namespace video {
 
@@ -40,11 +40,17 @@ void ServeState(CLPCClientPackage& link)
     });
 }
 
-/// Made by the first call; it lives as long as the process, as the database does.
-vantor::ILocalFile& LocalFiles()
+/// The routes whose handlers work on the stores, which may still be on their way when a request comes.
+void ServeStores(CLPCClientPackage& link)
 {
-    static CLocalFile* const files = new CLocalFile(VideoSystemDB::Instance());
-    return *files;
+    CRouteTable& http = link.Dispatcher().Http();
+    const AnswerCall answer = [&link](const lpcclient::LPCCallBackData& call, const RouteAnswer& content) {
+        return link.Answer(call, content);
+    };
+    ServeLocalFiles(
+        http, []() -> vantor::ILocalFile& { return CVideoSystemManager::Instance().LocalFile(); }, answer);
+    ServeSystemConfigs(
+        http, []() -> CSystemConfig& { return CVideoSystemManager::Instance().SystemConfig(); }, answer);
 }
 
 void ServeWebsocket(CLPCClientPackage& link, CSignalTransmit& transmitter)
@@ -65,9 +71,7 @@ void ServeAllRoutes(CLPCClientPackage& link, CSignalTransmit& transmitter)
         link.Dispatcher().Http().Declare(url);
     transmitter.ServeMethods(link.Dispatcher().Methods());
     ServeLinkMethods(link);
-    ServeLocalFiles(
-        link.Dispatcher().Http(), LocalFiles,
-        [&link](const auto& call, const RouteAnswer& answer) { return link.Answer(call, answer); });
+    ServeStores(link);
     ServeWebsocket(link, transmitter);
 
     std::vector<std::string> urls = link.Dispatcher().Http().Names();

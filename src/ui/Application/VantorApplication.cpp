@@ -3,6 +3,8 @@
 #include "Base/AsyncTask.h"
 #include "Base/FileUtil.h"
 #include "Base/Log.h"
+#include "Base/MessageLoop.h"
+#include "Base/Singleton.h"
 #include "Base/StringUtil.h"
 #include "ClientCommonLogical/ConfigMgr.h"
 #include "CloudP2PReport/ReportManager.h"
@@ -14,6 +16,8 @@
 #include "UiDataController/RemoteConfigController.h"
 #include "VantorGUIToolkit/Toolkit.h"
 #include "WndIdManager.h"
+#include "logical/Communication/LPCClientPackage.h"
+#include "logical/Local/DatabaseSession/VideoSystemDB.h"
 #include "logical/System/VideoSystemManager.h"
 #include "ui/Application/LayoutFiles.h"
 #include "ui/Application/VantorApplicationManager.h"
@@ -42,6 +46,17 @@ std::vector<std::string> ToTexts(const QStringList& list)
     for (const QString& each : list)
         texts.push_back(each.toStdString());
     return texts;
+}
+
+/// Opens the component database, so that the first request does not wait for it.
+CVideoSystemManager::Parts SystemManagerParts()
+{
+    const auto& paths = comm_methodlib::CUserDataPath::Instance();
+    return {VideoSystemDB::Instance(),
+            Base::CSingleton<Base::CMessageLoopForNotify>::Instance(),
+            {Base::LocalToUTF8(paths.videoPath()), Base::LocalToUTF8(paths.capturePath())},
+            paths.componentPath() + "SaveFolders.json",
+            [] { CLPCClientPackage::Instance().NotifyMethod("videoParamChanged"); }};
 }
 
 void InitConfiguration(const QStringList& fields)
@@ -172,7 +187,7 @@ void CVantorApplication::StartWinIDAndSystemManager()
     m_fInitWinIDAndSystemManager = Base::RunAsync("windows", [] {
                                        CWndIdManager::Instance().Init();
                                        BASE_INFO("CWndIdManager init end");
-                                       CVideoSystemManager::Instance().Init();
+                                       CVideoSystemManager::Instance().Init(SystemManagerParts());
                                        BASE_INFO("CVideoSystemManager init end");
                                    }).share();
     CWndIdManager::Instance().SetReadyWait([ready = m_fInitWinIDAndSystemManager] { ready.wait(); });

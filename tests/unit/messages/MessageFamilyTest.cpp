@@ -197,7 +197,7 @@ TEST_P(EveryMessage, RefusesAWrongOrMissingFieldByItsName)
 {
     const MessageInfo& info = GetParam();
     if (info.IsWhole())
-        return ExpectRefused(info, json::NewObject(), info.empty()->Key());
+        return ExpectRefused(info, json::NewText("neither list nor object"), info.empty()->Key());
     for (const FieldInfo& field : info.fields) {
         if (!field.wrong.empty())
             ExpectRefused(info, SampleWith(info, field.key, field.wrong), field.key);

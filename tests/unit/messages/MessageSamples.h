@@ -35,6 +35,11 @@ private:
     {
         value.text = "{\"any\":[" + std::to_string(Next()) + ",0.1]}";
     }
+    void FillValue(protocol::NamedValues& values)
+    {
+        Fill(values["name"]);
+        Fill(values["Name \""]);
+    }
     void FillValue(std::int64_t& value) { value = 9007199254740991 - Next(); }
     template<typename T>
     std::enable_if_t<std::is_integral_v<T>> FillValue(T& value)

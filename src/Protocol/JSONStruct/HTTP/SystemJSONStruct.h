@@ -36,6 +36,16 @@ struct DefaultFilePathData : CMessage<DefaultFilePathData, IInboundData>
     }
 };
 
+/// The component's settings by their names, all or some of them: what they are called and which values they
+/// take is told by the list of their fields, VideoSystemConfigStruct.
+struct SystemConfigsData : CMessage<SystemConfigsData, IInboundData>
+{
+    static constexpr const char* kKey = "systemConfigs";
+    NamedValues settings;
+
+    static constexpr auto Fields() { return Whole(&SystemConfigsData::settings); }
+};
+
 /// Asks the framework to give an embedded window another size.
 struct FrameResizeData : CMessage<FrameResizeData, IInboundData>
 {
