@@ -350,11 +350,15 @@ std::optional<std::string> ReadAndWrite(const MessageInfo& message, const std::s
     return isRead ? std::optional(WriteLPCStr(*read)) : std::nullopt;
 }
 
-/// Whether an example is of the message: it is read and, as an answer, to the letter what the message writes.
+/// Whether an example is of the message: it is read and, as an answer, to the letter what the message writes
+/// (all the settings, where it is they that answer).
 bool Fits(const MessageInfo* message, const ApiPage::Example& example)
 {
     const auto written = message ? ReadAndWrite(*message, example.body) : std::nullopt;
-    return written && (example.kind != "answer" || *written == example.body);
+    if (!written || example.kind != "answer")
+        return written.has_value();
+    const bool isSettings = message->key == SystemConfigsData::kKey;
+    return *written == example.body && (!isSettings || PathsIn(*message, example.body) == KeysOf(*message));
 }
 
 /// Examples that are no message with fields: a route whose body does not matter, a method without data, and
