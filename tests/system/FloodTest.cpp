@@ -71,6 +71,7 @@ std::vector<lpc::Message> Kinds()
             {websocket, "{\"type\":\"\xFF\"}"},
             {websocket, ""},
             {http("/vantor/v1/internal/video/locaFile"), "[1,"},
+            {http("/vantor/v1/internal/video/BroadCastOperator"), "[1,"},
             {http("/" + std::string(2000, 'u')), "{}"}};
 }
 
@@ -157,7 +158,7 @@ TEST_F(AComponent, BearsAFloodOfMovesAndBadMessages)
     for (const char* beginning :
          {"Failed to cJSON_Parse( [no JSON, password=***", "Failed to cJSON_Parse( [[[[[[",
           "Failed to cJSON_GetObjectItem([data]).", "Failed to read message [showWnd]. Key: [type].",
-          "There is no window [www", "[/vantor/v1/internal/video/locaFile] is not served."})
+          "There is no window [www", "[/vantor/v1/internal/video/BroadCastOperator] is not served."})
         EXPECT_THAT(lines, Contains(StartsWith(beginning)));
 
     const long memory = PeakKiB();

@@ -27,8 +27,12 @@ using std::chrono::milliseconds;
 
 const QString kGallery = QStringLiteral("ToolkitGallery");
 /// What a run that was not killed does not leave: each under a name of its own that the next run uses again.
-const std::set<std::string> kByKillsOnly = {"Framework.C/notices.jsonl", "Video.C/VideoSystem-shm",
-                                            "Video.C/VideoSystem-wal", "vantor-#", "vantor/#"};
+const std::set<std::string> kByKillsOnly = {"Framework.C/notices.jsonl",
+                                            "Video.C/VideoSystem-shm",
+                                            "Video.C/VideoSystem-wal",
+                                            "Video.C/VideoSystem.backup-1",
+                                            "vantor-#",
+                                            "vantor/#"};
 constexpr milliseconds kEndsByItself{10000};
 constexpr int kFillerRows = 2000;
 

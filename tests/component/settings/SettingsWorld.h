@@ -1,114 +1,98 @@
 #pragma once
 
-#include "logical/Local/DatabaseSession/BaseDBConn.h"
+#include "component/store/RecordsWorld.h"
 #include "logical/System/SystemConfig.h"
-#include "store/StoreWorld.h"
-#include "support/CapturedLog.h"
-#include "support/TestDataRoot.h"
 
+#include <atomic>
 #include <future>
-#include <mutex>
-#include <string>
-#include <vector>
 
-/// What happened, in its order, as words. Any thread.
-class Happenings
+/// Settings on a real table, and what they tell others.
+namespace settings {
+
+struct Database
 {
-public:
-    void Add(std::string word)
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_words.push_back(std::move(word));
-    }
-    /// What happened since the last call, joined by blanks.
-    std::string Take()
-    {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        std::string text;
-        for (const std::string& word : m_words)
-            text += (text.empty() ? "" : " ") + word;
-        m_words.clear();
-        return text;
-    }
+    TestDataRoot root;
+    const std::string failure = store::BringUpToDate(root.Path());
+    video::CBaseDBConn connection{root.Path(), "VideoSystem"};
 
-private:
-    std::mutex m_mutex;
-    std::vector<std::string> m_words;
+    Database() { EXPECT_EQ(failure, ""); }
+
+    std::string Ask(const std::string& sql) const
+    {
+        return store::Query(root.Path() + "VideoSystem", "", sql);
+    }
+    void Run(const std::string& sql) { EXPECT_TRUE(connection.Execute(sql)) << sql; }
+    /// Makes every statement of the kind ("DELETE", "INSERT") on the table fail.
+    void Refuse(const std::string& kind, const std::string& table)
+    {
+        Run("CREATE TRIGGER Refused BEFORE " + kind + " ON " + table +
+            " BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    }
 };
 
-class KeptFolders : public vantor::ILocalDataPath
+struct KeptFolders : vantor::ILocalDataPath
 {
-public:
-    vantor::SaveFolders Folders() const override { return m_folders; }
-    void SetFolders(const vantor::SaveFolders& folders) override { m_folders = folders; }
+    vantor::SaveFolders Folders() const override { return folders; }
+    void SetFolders(const vantor::SaveFolders& value) override { folders = value; }
 
-private:
-    vantor::SaveFolders m_folders{"/chosen/video", "/chosen/capture"};
+    vantor::SaveFolders folders{"/chosen/video", "/chosen/capture"};
 };
 
-class SettingsObserver : public vantor::IVideoSystemConfigObserver
+/// Notes the types of the notifications that it hears, joined by blanks.
+template<typename Interface>
+class Listener : public Interface
 {
 public:
-    explicit SettingsObserver(Happenings& happenings) : m_happenings(happenings) {}
-    void OnVideoSystemConfigChanged(const Param& param) override
+    std::string heard; ///< after Deliver
+
+protected:
+    void Note(std::int32_t type) { heard += (heard.empty() ? "" : " ") + std::to_string(type); }
+};
+
+/// Waits until the loop has called the observers of what was posted before.
+inline void Deliver(Base::CMessageLoop& loop)
+{
+    std::promise<void> done;
+    loop.PostTask([&] { done.set_value(); });
+    ASSERT_EQ(done.get_future().wait_for(std::chrono::seconds(10)), std::future_status::ready);
+}
+
+struct World : Database
+{
+    struct Observer : Listener<vantor::IVideoSystemConfigObserver>
     {
-        m_happenings.Add("type " + std::to_string(param.type));
-    }
+        void OnVideoSystemConfigChanged(const Param& param) override
+        {
+            Note(param.type);
+            ++count;
+        }
+        std::atomic<int> count{0};
+    };
 
-private:
-    Happenings& m_happenings;
-};
-
-/// A database with the component's tables as the schema script makes them.
-class SettingsDatabase
-{
-public:
-    SettingsDatabase()
-    {
-        const std::string script = std::string(VANTOR_SOURCE_DIR) + "/maintain/VideoSystem/0001_create_tables.sql";
-        store::Write(Path(), "", store::ReadAll(script));
-    }
-
-    std::string Path() const { return m_root.Path() + "VideoSystem"; }
-    void Run(const std::string& script) { store::Write(Path(), "", script); }
-    std::string Query(const std::string& sql) const { return store::Query(Path(), "", sql); }
-
-private:
-    TestDataRoot m_root;
-
-public:
-    video::CBaseDBConn connection{m_root.Path(), "VideoSystem"};
-};
-
-/// The settings in front of a real table. The loop is stopped by Told, so that its order can be compared.
-struct SettingsWorld : SettingsDatabase
-{
-    Happenings happenings;
+    Observer observer; ///< outlives those who call it
     KeptFolders folders;
     Base::CMessageLoop loop{"notify"};
-    /// How many rows with the value the table held when the change was announced.
-    std::string announcedQuery = "SELECT count(*) FROM VideoSystemConfigTable";
+    std::atomic<int> sent{0};
+    std::string scaleWhenSent; ///< what the table held when the change was announced
     video::CSystemConfig config{connection, folders, loop, {"/default/video", "/default/capture"}, [this] {
-                                    happenings.Add("sent with rows " + Query(announcedQuery));
+                                    ++sent;
+                                    scaleWhenSent = Ask("SELECT DisplayScale FROM VideoSystemConfigTable");
                                 }};
-    SettingsObserver observer{happenings};
-
-    SettingsWorld()
+    World()
     {
         config.Load();
         config.AddObserver(&observer);
     }
-
-    /// Waits until what was posted before has been delivered.
-    void Deliver()
-    {
-        std::promise<void> done;
-        loop.PostTask([&] { done.set_value(); });
-        ASSERT_EQ(done.get_future().wait_for(std::chrono::seconds(10)), std::future_status::ready);
-    }
-    std::string Happened()
-    {
-        Deliver();
-        return happenings.Take();
-    }
 };
+
+/// A value that the field takes and that is not its default.
+template<typename M>
+M OtherValue(const video::SettingField<M>& field)
+{
+    if constexpr (std::is_same_v<M, bool>)
+        return !field.byDefault;
+    else
+        return field.byDefault == field.take[0].greatest ? field.take[0].least : field.take[0].greatest;
+}
+
+} // namespace settings

@@ -90,8 +90,6 @@ TEST_F(LocalFileRoutes, ListPicturesAndClipsByCameraAndByGroup)
         {R"("type":0,"contition":0,"guid":"c","timeBegin":9,"timeEnd":9)", picture},
         {R"("type":1,"contition":0,"guid":"c","timeBegin":"1970-01-01 00:00:09","timeEnd":9)", clip},
         {R"("type":1,"contition":1,"guid":"g","timeBegin":0,"timeEnd":99)", clip},
-        {R"("type":0,"contition":1,"guid":"g","timeBegin":0,"timeEnd":99)", ""},
-        {R"("type":1,"contition":0,"guid":"c","timeBegin":10,"timeEnd":99)", ""},
         {R"("type":1,"contition":0,"guid":"x') OR ('1' = '1","timeBegin":0,"timeEnd":99)", ""},
         {R"("type":1,"contition":1,"guid":"x' OR '1' = '1","timeBegin":0,"timeEnd":99)", ""},
     };
@@ -140,22 +138,14 @@ TEST_F(LocalFileRoutes, DropBadBodiesAfterOneLine)
 
 TEST_F(LocalFileRoutes, TakeNoTextForAStatement)
 {
-    const std::string injection = "'), ('2','2','2','2','2','2','2','2','2',2); DROP VIEW VideoFile; --";
+    const std::string text = "'), ('2','2','2','2','2','2','2','2','2',2); DROP VIEW VideoFile; --";
     for (const char* field : {"cameraGuid", "groupGuid", "fileName", "videoFilePath", "picFilePath"}) {
-        for (const std::string& file : {kClip, kPicture}) {
-            std::string body = file;
-            const std::string name = std::string("\"") + field + "\":\"";
-            const auto at = body.find(name);
-            if (at == std::string::npos)
-                continue;
-            body.insert(at + name.size(), injection);
-            connection.Execute("DELETE FROM VideoFile");
-            connection.Execute("DELETE FROM PictureFile");
-            EXPECT_EQ(Call(kLocalFile, "{\"localFile\":" + body + "}").size(),
-                      std::string(R"({"fileNotifyResult":{"guid":""}})").size() + 36)
-                << body;
-            EXPECT_EQ(Ask("SELECT (SELECT count(*) FROM VideoFile) + (SELECT count(*) FROM PictureFile)"),
-                      "1");
-        }
+        std::string body = kClip;
+        const std::string name = std::string("\"") + field + "\":\"";
+        body.insert(body.find(name) + name.size(), text);
+        EXPECT_EQ(Call(kLocalFile, "{\"localFile\":" + body + "}"),
+                  R"({"fileNotifyResult":{"guid":")" + Clips() + "\"}}");
+        EXPECT_EQ(Ask("SELECT count(*) FROM VideoFile"), "1") << body;
+        connection.Execute("DELETE FROM VideoFile");
     }
 }

@@ -25,9 +25,9 @@ struct FileTable;
 
 /// What the tables of pictures and of clips have in common. Any thread; each call is one statement.
 ///
-/// Every text of a statement is quoted. One that does not fit its buffer is never executed and fails: texts
-/// that together are longer than some 800 bytes cannot be inserted, and records whose path is longer than 450
-/// cannot be looked up by it.
+/// Every text of a statement is quoted. A statement that does not fit its buffer is never executed and fails:
+/// a record whose texts are longer than some 700 bytes together is not inserted, and one whose path is longer
+/// than some 450 is not found by it; every "'" counts twice.
 template<typename Record>
 class FileSession
 {
