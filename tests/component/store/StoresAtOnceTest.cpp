@@ -30,7 +30,7 @@ public:
 };
 
 /// The catalogue and the settings on one connection, as in the component.
-class TheStores : public testing::Test
+class StoresAtOnce : public testing::Test
 {
 protected:
     /// Runs it on a thread of its own, kTurns times.
@@ -65,7 +65,7 @@ private:
     std::vector<std::future<void>> m_threads;
 };
 
-TEST_F(TheStores, ServeAddsSavesAndQueriesAtOnce)
+TEST_F(StoresAtOnce, KeepAddsSavesAndQueriesApart)
 {
     ASSERT_EQ(catalogue.failure, "");
     settings.Load();
