@@ -298,7 +298,7 @@ TEST_F(ALink, TellsThatAnAnswerIsTooLongInsteadOfSendingIt)
     EXPECT_EQ(answer.headers["url"], "/rows");
     EXPECT_EQ(answer.body,
               R"({"response":{"result":{"errorCode":1008,"errorModuleCode":0},"message":)"
-              R"("The answer has 67108865 bytes; at most 67108864 can be sent. Ask for less."}})");
+              R"("The answer is longer than the 67108864 bytes that can be sent. Ask for less."}})");
     EXPECT_LT(moreBytes, kCopyBytes) << "more than one copy of the answer was made";
 
     rows.body.pop_back();
