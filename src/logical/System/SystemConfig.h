@@ -31,7 +31,8 @@ public:
     static constexpr std::size_t kFolderBytes = 260;
 
     /// Everything must outlive the object; notifications is the loop on which observers are called. announce
-    /// tells the framework that settings changed; it is called by the thread that changed them.
+    /// tells the framework that settings changed; it is called by the thread that changed them, so by several
+    /// at once.
     CSystemConfig(CBaseDBConn& connection, vantor::ILocalDataPath& path, Base::CMessageLoop& notifications,
                   vantor::SaveFolders defaults, std::function<void()> announce);
 

@@ -1,7 +1,6 @@
 #include "logical/System/VideoSystemManager.h"
 
 #include "Base/Singleton.h"
-#include "logical/Local/LocalDataManagerDelegate.h"
 #include "logical/Local/LocalDataPath.h"
 #include "logical/Local/LocalFile.h"
 
@@ -15,7 +14,7 @@ struct CVideoSystemManager::Stores
     explicit Stores(const Parts& parts)
         : path(parts.foldersFile, parts.defaults), files(parts.connection),
           config(parts.connection, path, parts.notifications, parts.defaults, parts.announce),
-          toolbar(parts.connection, parts.notifications, parts.announce), delegate(files, path, config)
+          toolbar(parts.connection, parts.notifications, parts.announce)
     {
         config.Load();
         toolbar.Load();
@@ -25,7 +24,6 @@ struct CVideoSystemManager::Stores
     CLocalFile files;
     CSystemConfig config;
     CToolbarConfig toolbar;
-    CLocalDataManagerDelegate delegate;
 };
 
 CVideoSystemManager& CVideoSystemManager::Instance()
@@ -33,7 +31,11 @@ CVideoSystemManager& CVideoSystemManager::Instance()
     return Base::CSingleton<CVideoSystemManager>::Instance();
 }
 
-CVideoSystemManager::CVideoSystemManager(std::chrono::milliseconds waitLimit) : m_waitLimit(waitLimit) {}
+CVideoSystemManager::CVideoSystemManager(std::chrono::milliseconds waitLimit)
+    : m_waitLimit(waitLimit), m_delegate([this]() -> vantor::ILocalFile& { return LocalFile(); },
+                                         [this]() -> vantor::ILocalDataPath& { return LocalDataPath(); },
+                                         [this]() -> vantor::IVideoSystemConfig& { return SystemConfig(); })
+{}
 
 CVideoSystemManager::~CVideoSystemManager() = default;
 
@@ -53,39 +55,33 @@ void CVideoSystemManager::UnInit()
     m_done.notify_all();
 }
 
-CVideoSystemManager::Stores* CVideoSystemManager::Wait()
+CVideoSystemManager::Stores& CVideoSystemManager::Wait()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     m_done.wait_for(lock, m_waitLimit, [this] { return m_stores || m_ended; });
-    return m_stores.get();
-}
-
-CVideoSystemManager::Stores& CVideoSystemManager::Required()
-{
-    if (Stores* const stores = Wait())
-        return *stores;
-    throw std::runtime_error("the stores are not open");
+    if (!m_stores)
+        throw std::runtime_error("the stores are not open");
+    return *m_stores;
 }
 
 vantor::ILocalFile& CVideoSystemManager::LocalFile()
 {
-    return Required().files;
+    return Wait().files;
+}
+
+vantor::ILocalDataPath& CVideoSystemManager::LocalDataPath()
+{
+    return Wait().path;
 }
 
 CSystemConfig& CVideoSystemManager::SystemConfig()
 {
-    return Required().config;
+    return Wait().config;
 }
 
 CToolbarConfig& CVideoSystemManager::ToolbarConfig()
 {
-    return Required().toolbar;
-}
-
-vantor::ILocalDataManager* CVideoSystemManager::LocalDataManager()
-{
-    Stores* const stores = Wait();
-    return stores ? &stores->delegate : nullptr;
+    return Wait().toolbar;
 }
 
 } // namespace video

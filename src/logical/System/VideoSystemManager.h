@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Base/Noncopyable.h"
-#include "VideoInterfaces/ILocalDataManager.h"
+#include "logical/Local/LocalDataManagerDelegate.h"
 #include "logical/System/SystemConfig.h"
 #include "logical/System/ToolbarConfig.h"
 
@@ -16,8 +16,8 @@ namespace video {
 
 /// The component's stores as a whole: made and loaded at start-up, there until the process ends. Any thread.
 ///
-/// Whoever asks for one before Init is done waits for it, up to a limit. Where there is none, as after a
-/// start that failed, the functions that return a reference throw std::runtime_error.
+/// Whoever asks for one before Init is done waits for it, up to a limit; std::runtime_error where there is
+/// none, as after a start that failed.
 class CVideoSystemManager : Base::CNoncopyable
 {
 public:
@@ -43,22 +43,25 @@ public:
     void UnInit();
 
     vantor::ILocalFile& LocalFile();
+    vantor::ILocalDataPath& LocalDataPath();
     CSystemConfig& SystemConfig();
     CToolbarConfig& ToolbarConfig();
-    /// For the logical libraries; null where there are no stores.
-    vantor::ILocalDataManager* LocalDataManager();
+
+    /// For the logical libraries. This function does not wait; what it gives does.
+    vantor::ILocalDataManager& LocalDataManager() { return m_delegate; }
 
 private:
     struct Stores;
 
-    Stores* Wait();
-    Stores& Required();
+    Stores& Wait();
 
     const std::chrono::milliseconds m_waitLimit;
     std::mutex m_mutex; ///< of what follows
     std::condition_variable m_done;
     bool m_ended = false;
     std::unique_ptr<Stores> m_stores;
+
+    CLocalDataManagerDelegate m_delegate;
 };
 
 } // namespace video

@@ -108,9 +108,9 @@ bool CVantorApplication::InitLogical()
 {
     std::future<void> multimedia = StartMultimediaComm();
     std::future<void> cloud = StartCloudP2PManager();
-    vantor::ILocalDataManager* const localData = CVideoSystemManager::Instance().LocalDataManager();
-    PreviewLogical::CPreviewLogical::Instance().init(nullptr, localData);
-    PlaybackLogical::CPlaybackLogical::Instance().init(nullptr, localData);
+    vantor::ILocalDataManager& localData = CVideoSystemManager::Instance().LocalDataManager();
+    PreviewLogical::CPreviewLogical::Instance().init(nullptr, &localData);
+    PlaybackLogical::CPlaybackLogical::Instance().init(nullptr, &localData);
     multimedia.wait();
     cloud.wait();
     CLPCClientPackage::Instance().Init();

@@ -5,6 +5,7 @@
 
 #include <atomic>
 #include <future>
+#include <mutex>
 
 /// Settings on a real table, and what they tell others.
 namespace settings {
@@ -73,11 +74,14 @@ struct World : Database
     KeptFolders folders;
     Base::CMessageLoop loop{"notify"};
     std::atomic<int> sent{0};
+    std::mutex lastSent;
     std::string scaleWhenSent; ///< what the table held when the change was announced
     video::CSystemConfig config{connection, folders, loop, {"/default/video", "/default/capture"}, [this] {
-                                    ++sent;
+                                    const std::lock_guard<std::mutex> lock(lastSent);
                                     scaleWhenSent = Ask("SELECT DisplayScale FROM VideoSystemConfigTable");
+                                    ++sent;
                                 }};
+
     World()
     {
         config.Load();

@@ -25,8 +25,8 @@ TEST(TheStores, AreWaitedForAndStayAfterTheEnd)
     auto early = std::async(std::launch::async, [&] { return &manager.SystemConfig(); });
     manager.Init(stores.Parts());
     EXPECT_EQ(early.get(), &manager.SystemConfig());
-    EXPECT_EQ(&manager.LocalDataManager()->SystemConfig(), &manager.SystemConfig());
-    EXPECT_EQ(&manager.LocalDataManager()->LocalFile(), &manager.LocalFile());
+    EXPECT_EQ(&manager.LocalDataManager().SystemConfig(), &manager.SystemConfig());
+    EXPECT_EQ(&manager.LocalDataManager().LocalFile(), &manager.LocalFile());
     EXPECT_EQ(manager.SystemConfig().VideoSaveFolder(), "/video");
     manager.UnInit();
     EXPECT_EQ(manager.ToolbarConfig().Layout(), vantor::ToolbarStruct());
@@ -35,10 +35,9 @@ TEST(TheStores, AreWaitedForAndStayAfterTheEnd)
 TEST(TheStores, AreNotWaitedForWhenTheyDoNotCome)
 {
     CVideoSystemManager ended(std::chrono::hours(1));
-    auto waiting = std::async(std::launch::async, [&] { return ended.LocalDataManager(); });
+    auto waiting = std::async(std::launch::async, [&] { ended.LocalDataManager().LocalFile(); });
     ended.UnInit();
-    EXPECT_EQ(waiting.get(), nullptr);
-    EXPECT_THROW(ended.LocalFile(), std::runtime_error);
+    EXPECT_THROW(waiting.get(), std::runtime_error);
     CVideoSystemManager slow(std::chrono::milliseconds(1));
     EXPECT_THROW(slow.SystemConfig(), std::runtime_error);
 }
