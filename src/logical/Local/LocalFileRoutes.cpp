@@ -119,8 +119,10 @@ bool HasFileFields(const cJSON* item)
     return has;
 }
 
-/// The answer to a body of "locaFile" or "videoFileNotify"; nothing for one that holds neither form.
-std::optional<std::string> StoreOrResolve(const LocalFileSource& files, const std::string& body)
+/// The answer to a body of "locaFile" or "videoFileNotify"; nothing for one that holds neither form. key is
+/// the form that the route is named for.
+std::optional<std::string> StoreOrResolve(const LocalFileSource& files, const char* key,
+                                          const std::string& body)
 {
     using protocol::json::Member;
     const protocol::json::Tree root = protocol::ParseBody(body, PROTOCOL_PLACE);
@@ -130,7 +132,7 @@ std::optional<std::string> StoreOrResolve(const LocalFileSource& files, const st
     const cJSON* const item = notify ? notify : Member(root.get(), protocol::LocalFile::kKey);
     if (!item) {
         protocol::LogMissingItem(
-            protocol::LocalFile::kKey, [&] { return body; }, PROTOCOL_PLACE);
+            key, [&] { return body; }, PROTOCOL_PLACE);
         return std::nullopt;
     }
     if (notify || HasFileFields(item)) {
@@ -153,12 +155,14 @@ std::optional<std::string> StoreOrResolve(const LocalFileSource& files, const st
 
 void ServeLocalFiles(CRouteTable& http, LocalFileSource files, AnswerCall answer)
 {
-    const auto storeOrResolve = [files, answer](const lpcclient::LPCCallBackData& call) {
-        if (const auto body = StoreOrResolve(files, call.body))
-            answer(call, {*body});
+    const auto storeOrResolve = [&](const char* key) {
+        return [files, answer, key](const lpcclient::LPCCallBackData& call) {
+            if (const auto body = StoreOrResolve(files, key, call.body))
+                answer(call, {*body});
+        };
     };
-    http.Bind(route::kLocalFile, storeOrResolve);
-    http.Bind(route::kVideoFileNotify, storeOrResolve);
+    http.Bind(route::kLocalFile, storeOrResolve(protocol::LocalFile::kKey));
+    http.Bind(route::kVideoFileNotify, storeOrResolve(LocalFileNotify::kKey));
     http.Bind(route::kLocalFileQuery,
               AnswerTo<protocol::LocalFileQuery>(answer, [files](const protocol::LocalFileQuery& query) {
                   return FilesOf(files(), query);

@@ -124,8 +124,8 @@ TEST_F(LocalFileRoutes, DropBadBodiesAfterOneLine)
         R"({"localFile":{"type":2,"guid":"g"}})",
         R"({"localFile":{"type":1,"guid":"g","timeBegin":5}})",
         R"({"localFileNotify":{"type":1,"guid":"g"}})",
-        R"({"localFile":{"type":1,"cameraGuid":"c","fileName":"a\u0000b","videoFilePath":"/v","timeOccur":9}})",
-        R"({"localFile":{"type":1,"cameraGuid":"c","fileName":"n","videoFilePath":"/v","timeOccur":1e99}})"};
+        R"({"localFile":{"type":0,"cameraGuid":"c","fileName":"a\u0000b","picFilePath":"/p","timeOccur":9}})",
+        R"({"localFile":{"type":0,"cameraGuid":"c","fileName":"n","picFilePath":"/p","timeOccur":1e99}})"};
     for (const std::string& body : rows) {
         for (const char* url : {kLocalFile, kVideoFileNotify, kLocalFileQuery}) {
             const CapturedLog log;
@@ -143,8 +143,8 @@ TEST_F(LocalFileRoutes, TakeNoTextForAStatement)
         std::string body = kClip;
         const std::string name = std::string("\"") + field + "\":\"";
         body.insert(body.find(name) + name.size(), text);
-        EXPECT_EQ(Call(kLocalFile, "{\"localFile\":" + body + "}"),
-                  R"({"fileNotifyResult":{"guid":")" + Clips() + "\"}}");
+        const std::string answer = Call(kLocalFile, "{\"localFile\":" + body + "}");
+        EXPECT_EQ(answer, R"({"fileNotifyResult":{"guid":")" + Clips() + "\"}}");
         EXPECT_EQ(Ask("SELECT count(*) FROM VideoFile"), "1") << body;
         connection.Execute("DELETE FROM VideoFile");
     }

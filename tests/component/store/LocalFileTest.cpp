@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <future>
 
 using vantor::PictureFileRecord;
 using vantor::VideoFileRecord;
@@ -191,4 +192,22 @@ TEST_F(LocalFiles, OfAnyNumberOfCamerasAreListed)
     EXPECT_TRUE(pictures.QueryCameras({}, records));
     EXPECT_TRUE(records.empty());
     EXPECT_TRUE(log.Lines().empty());
+}
+
+TEST_F(LocalFiles, AreAddedAndListedByManyThreadsAtOnce)
+{
+    std::vector<std::future<void>> threads;
+    for (int thread = 0; thread < 4; ++thread)
+        threads.push_back(std::async(std::launch::async, [this, thread] {
+            for (int i = 0; i < 50; ++i) {
+                const std::string path = "/" + std::to_string(i); // of all threads
+                const std::string id = AddClip("c" + std::to_string(i), path, thread);
+                EXPECT_EQ(files.GetVideoById(id).FilePath, path);
+                EXPECT_NE(ClipsOf("c" + std::to_string(i), 0, 4), "");
+                EXPECT_NE(AddPicture("c", path, thread), "");
+            }
+        }));
+    threads.clear(); // waits
+    EXPECT_EQ(Ask("SELECT count(*) FROM VideoFile"), "50") << "one record a path";
+    EXPECT_EQ(Ask("SELECT count(DISTINCT ID) FROM PictureFile"), "200");
 }
