@@ -46,7 +46,46 @@ lpc::Message WebsocketMessage(const std::string& type, const std::string& guid, 
     return {{{"protocol", "websocket"}}, protocol::WriteJSONStr(notification)};
 }
 
+std::string HeaderOf(const lpc::Message& message, const char* name)
+{
+    const auto found = message.headers.find(name);
+    return found == message.headers.end() ? std::string() : found->second;
+}
+
+/// A component need not give a status when all went well.
+bool IsGood(const lpc::Message& answer)
+{
+    const std::string status = HeaderOf(answer, lpc::kStatusHeader);
+    const std::string error = HeaderOf(answer, lpc::kErrorCodeHeader);
+    return (status.empty() || status == "200") && (error.empty() || error == "0");
+}
+
+AskOutcome OutcomeOf(int error, const lpc::Message& answer)
+{
+    if (error == lpc::kNoError)
+        return IsGood(answer) ? AskOutcome::Answered : AskOutcome::Refused;
+    const bool isGone = error == lpc::kNotConnected || error == lpc::kConnectionLost;
+    return isGone ? AskOutcome::NotThere : AskOutcome::NoAnswer;
+}
+
 } // namespace
+
+const char* NameOf(AskOutcome outcome)
+{
+    switch (outcome) {
+    case AskOutcome::Answered:
+        return "the component answered";
+    case AskOutcome::NotThere:
+        return "the component is not there";
+    case AskOutcome::NoAnswer:
+        return "the component did not answer in time";
+    case AskOutcome::Refused:
+        return "the component answered with an error";
+    case AskOutcome::Unreadable:
+        break;
+    }
+    return "the answer does not hold what was asked for";
+}
 
 CComponentLink::CComponentLink(Events events)
     : m_events(std::move(events)), m_server(*this),
@@ -231,6 +270,24 @@ void CComponentLink::Ask(const protocol::ILPCData& payload, std::uint32_t timeou
     const lpc::Message request = MethodMessage(payload.Key(), protocol::WriteLPCStr(payload));
     if (m_component == 0 || m_server.Send(m_component, request, timeoutMs, take) != lpc::kNoError)
         onAnswer(nullptr);
+}
+
+void CComponentLink::AskRoute(const std::string& url, const std::string& body, std::uint32_t timeoutMs,
+                              OnRouteAnswer onAnswer)
+{
+    const auto take = [url, onAnswer](int error, const lpc::Message& answer) {
+        const AskOutcome outcome = OutcomeOf(error, answer);
+        if (outcome != AskOutcome::Answered)
+            BASE_LIMITED(Base::CFaultLimit, BASE_WARN, "No answer of %s: %s. [error-%d].", url.c_str(),
+                         framework::NameOf(outcome), error);
+        onAnswer(outcome, outcome == AskOutcome::Answered ? answer.body : std::string());
+    };
+    const lpc::Message request{{{"protocol", "http"}, {"method", "POST"}, {"url", url}}, body};
+    const lpcserver::ClientId component = m_component;
+    const int error =
+        component == 0 ? lpc::kNotConnected : m_server.Send(component, request, timeoutMs, take);
+    if (error != lpc::kNoError)
+        take(error, {});
 }
 
 void CComponentLink::Publish(const std::string& type, const std::string& guid, const std::string& data)

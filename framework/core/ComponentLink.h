@@ -4,6 +4,7 @@
 #include "LPC_Forward/Forwarder.h"
 #include "LPC_Server/LPC_Server.h"
 #include "Protocol/JSONStruct/IJSONStruct.h"
+#include "framework/core/ComponentAnswer.h"
 #include "framework/core/RouteTable.h"
 
 #include <atomic>
@@ -54,6 +55,13 @@ public:
     /// this one; body is none when there is no answer in time.
     void Ask(const protocol::ILPCData& payload, std::uint32_t timeoutMs,
              std::function<void(const std::string* body)> onAnswer);
+
+    /// Takes the body of an answer; empty unless it is AskOutcome::Answered.
+    using OnRouteAnswer = std::function<void(AskOutcome outcome, const std::string& body)>;
+
+    /// Asks a route of the component with a JSON body. onAnswer is called as that of Ask.
+    void AskRoute(const std::string& url, const std::string& body, std::uint32_t timeoutMs,
+                  OnRouteAnswer onAnswer);
 
     /// Sends a websocket notification to the component when it has registered. data: JSON, or empty.
     void Publish(const std::string& type, const std::string& guid, const std::string& data);

@@ -5,6 +5,15 @@
 
 namespace framework {
 
+namespace {
+
+/// Routes that the component serves.
+constexpr const char* kLocalFile = "/vantor/v1/internal/video/locaFile";
+constexpr const char* kVideoFileNotify = "/vantor/v1/internal/video/videoFileNotify";
+constexpr const char* kLocalFileQuery = "/vantor/v1/internal/video/localFileQuery";
+
+} // namespace
+
 const char* NameOf(ComponentState state)
 {
     switch (state) {
@@ -93,6 +102,24 @@ void CFrameworkCore::WindowMoved(int x, int y)
     move.x = x;
     move.y = y;
     m_parts->loop.Post([parts = m_parts.get(), move] { parts->moves.Put(move); });
+}
+
+void CFrameworkCore::QueryLocalFiles(const protocol::LocalFileQuery& query,
+                                     OnAsked<protocol::LocalFileQueryResult> onAnswer)
+{
+    m_parts->AskComponent(kLocalFileQuery, query, std::move(onAnswer));
+}
+
+void CFrameworkCore::ResolveLocalFile(const protocol::LocalFile& file,
+                                      OnAsked<protocol::LocalFileResult> onAnswer)
+{
+    m_parts->AskComponent(kLocalFile, file, std::move(onAnswer));
+}
+
+void CFrameworkCore::ReportLocalFile(const protocol::LocalFileNotify& file,
+                                     OnAsked<protocol::FileNotifyResult> onAnswer)
+{
+    m_parts->AskComponent(kVideoFileNotify, file, std::move(onAnswer));
 }
 
 bool CFrameworkCore::SwitchUser(const std::string& name, const std::string& password)

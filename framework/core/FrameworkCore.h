@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Protocol/JSONStruct/HTTP/LocalFileJSONStruct.h"
+#include "framework/core/ComponentAnswer.h"
 #include "framework/core/FrameworkEvents.h"
 #include "framework/core/FrameworkSettings.h"
 #include "framework/core/Resources.h"
@@ -22,7 +24,8 @@ struct FrameworkOptions
     std::string dataFolder;       ///< the framework's own folder, "<root>/Framework.C/"; made when missing
     std::string componentProgram; ///< path of the component; empty: it is started by somebody else
     std::string componentOutput;  ///< file for what the component prints; empty: as this process
-    std::chrono::milliseconds endLimit{5000}; ///< for the component to end before it is killed
+    std::chrono::milliseconds endLimit{5000};     ///< for the component to end before it is killed
+    std::chrono::milliseconds answerLimit{10000}; ///< for the component's routes to answer
 };
 
 /// A window of the component, ready to be embedded.
@@ -74,6 +77,14 @@ public:
     void TabRemoved(const std::string& name);
     void TabSwitched(const std::string& name);
     void WindowMoved(int x, int y);
+
+    // The component's catalogue of pictures and clips. The answer limit holds.
+    void QueryLocalFiles(const protocol::LocalFileQuery& query,
+                         OnAsked<protocol::LocalFileQueryResult> onAnswer);
+    /// The path of a record; empty when there is none of this identifier.
+    void ResolveLocalFile(const protocol::LocalFile& file, OnAsked<protocol::LocalFileResult> onAnswer);
+    /// Tells of a new file; the answer is its record's identifier, empty when it could not be stored.
+    void ReportLocalFile(const protocol::LocalFileNotify& file, OnAsked<protocol::FileNotifyResult> onAnswer);
 
     /// Tells the component to stop working, changes the user, and tells it to bring its pages up to date.
     /// False: as CUsers::Login.

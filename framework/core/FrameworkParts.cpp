@@ -194,6 +194,13 @@ void FrameworkParts::Stop()
     link.Stop();
     loop.Stop();
     eventLoop.Stop();
+    answerLoop.Stop();
+}
+
+void FrameworkParts::TakeRouteAnswer(Base::Task take)
+{
+    if (!answerLoop.PostTask(take))
+        take();
 }
 
 void FrameworkParts::Supervise(void (CSupervisor::*work)())

@@ -2,6 +2,7 @@
 
 #include "Base/MessageLoop.h"
 #include "Protocol/JSONStruct/LPC/UserJSONStruct.h"
+#include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "framework/core/ComponentLink.h"
 #include "framework/core/ComponentProcess.h"
 #include "framework/core/FrameworkCore.h"
@@ -19,7 +20,8 @@ namespace framework {
 /// What the core is made of, and what goes on between the parts.
 ///
 /// Threads: the server's (never waits), the worker of the routes, "component" (supervision, timers), "events"
-/// (calls of IFrameworkEvents and of window answers), and the callers'.
+/// (calls of IFrameworkEvents and of window answers), "answers" (of the component's routes), and the
+/// callers'.
 struct FrameworkParts : Base::CNoncopyable
 {
     FrameworkParts(IFrameworkEvents& events, FrameworkOptions options);
@@ -30,6 +32,9 @@ struct FrameworkParts : Base::CNoncopyable
     /// Runs the work with the supervisor on its thread.
     void Supervise(void (CSupervisor::*work)());
     void GetWndHandle(const std::string& name, CFrameworkCore::WindowAnswer onAnswer);
+    /// Asks a route of the component.
+    template<typename Body>
+    void AskComponent(const char* url, const protocol::IInboundData& question, OnAsked<Body> onAnswer);
     bool SwitchUser(const std::string& name, const std::string& password);
     void RaiseAlarm(const std::string& deviceGuid, const std::string& text);
 
@@ -47,6 +52,7 @@ struct FrameworkParts : Base::CNoncopyable
     std::mutex tellingMutex; ///< so that the component hears of the newest user last
 
     Base::CMessageLoop eventLoop{"events"};
+    Base::CMessageLoop answerLoop{"answers"}; ///< reads long bodies
     std::unique_ptr<CJournal> operations;
     std::unique_ptr<CJournal> notices;
     std::unique_ptr<CFrameworkSettings> settings;
@@ -61,6 +67,7 @@ struct FrameworkParts : Base::CNoncopyable
 private:
     using EntryEvent = void (IFrameworkEvents::*)(const JournalEntry& entry);
 
+    void TakeRouteAnswer(Base::Task take);
     std::unique_ptr<CJournal> OpenJournal(const char* name, EntryEvent onEntry);
     [[nodiscard]] bool Load(std::string& error);
     void AddRoutes(const Base::Encrypt::AESParams& seal);
@@ -75,5 +82,25 @@ private:
     void OnUsers();
     void TellUser();
 };
+
+template<typename Body>
+void FrameworkParts::AskComponent(const char* url, const protocol::IInboundData& question,
+                                  OnAsked<Body> onAnswer)
+{
+    const auto take = [this, onAnswer = std::move(onAnswer)](AskOutcome outcome, const std::string& body) {
+        TakeRouteAnswer([outcome, body, onAnswer] {
+            Asked<Body> answer;
+            answer.outcome = outcome;
+            if (outcome == AskOutcome::Answered && !protocol::TParseJSONStr(answer.value, body))
+                answer.outcome = AskOutcome::Unreadable;
+            onAnswer(answer);
+        });
+    };
+    if (state == ComponentState::Ready)
+        link.AskRoute(url, protocol::WriteJSONStr(question),
+                      static_cast<std::uint32_t>(options.answerLimit.count()), take);
+    else
+        take(AskOutcome::NotThere, {});
+}
 
 } // namespace framework

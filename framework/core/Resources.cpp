@@ -131,6 +131,13 @@ std::vector<protocol::AlarmOutputInfo> CResources::AlarmOutputs(const std::strin
     return m_state->stored.With([&](const ResourceFile& file) { return Of(file.outputs, deviceGuid); });
 }
 
+std::vector<protocol::GroupInfo> CResources::Groups() const
+{
+    return m_state->stored.With([](const ResourceFile& file) {
+        return std::vector<protocol::GroupInfo>(file.groups.begin(), file.groups.end());
+    });
+}
+
 bool CResources::Find(const std::string& deviceGuid, bool& online) const
 {
     return m_state->stored.With([&](const ResourceFile& file) {

@@ -53,10 +53,13 @@ public:
 
     /// Devices with their credentials in clear text, for use in this process only.
     std::vector<protocol::DeviceResponseData> Devices() const;
+    /// Channels of all devices when deviceGuid is empty.
     std::vector<protocol::DeviceChannelInfo> Channels(const std::string& deviceGuid) const;
     std::vector<protocol::AlarmInputInfo> AlarmInputs(const std::string& deviceGuid) const;
     /// Of all devices when deviceGuid is empty.
     std::vector<protocol::AlarmOutputInfo> AlarmOutputs(const std::string& deviceGuid) const;
+
+    std::vector<protocol::GroupInfo> Groups() const;
 
     /// Whether the device is known, and whether it is online.
     [[nodiscard]] bool Find(const std::string& deviceGuid, bool& online) const;

@@ -16,6 +16,7 @@ struct CommandLine
     QStringList open;            ///< names of tabs
     QString tourFolder;          ///< empty: no tour
     QString report;              ///< file, "-" for standard output, empty for none
+    bool demonstration = false;  ///< fills a fresh data root
     bool help = false;
 };
 

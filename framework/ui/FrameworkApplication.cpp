@@ -37,8 +37,8 @@ FrameworkOptions OptionsOf(const CommandLine& line, const std::string& folder)
 
 CFrameworkApplication::CFrameworkApplication(CommandLine line)
     : m_line(std::move(line)), m_folder(comm_methodlib::CUserDataPath::Instance().componentPath()),
-      m_core(m_relay, OptionsOf(m_line, m_folder)), m_windows(m_core),
-      m_pages(m_core, m_relay, m_windows, m_unread, m_report)
+      m_core(m_relay, OptionsOf(m_line, m_folder)), m_windows(m_core), m_files(m_core),
+      m_pages(m_core, m_relay, m_windows, m_files, m_unread, m_report)
 {
     QApplication::setQuitOnLastWindowClosed(false);
     // Before the pages, which show it, and also while there is no window yet.
@@ -50,6 +50,7 @@ CFrameworkApplication::~CFrameworkApplication()
     if (m_stopping.valid())
         m_stopping.wait();
     m_core.Stop();
+    m_demonstration.reset();
     m_tour.reset();
     m_window.reset();
     VantorGUIToolkit::toolkit().UnInit();
@@ -72,6 +73,8 @@ bool CFrameworkApplication::Start(QString& error)
     connect(&m_pages, &CPages::OpenRequested, this, [this](const QString& name) { m_window->Open(name); });
     connect(&m_pages, &CPages::ChoicesApplied, this, &CFrameworkApplication::OnChoices);
     ReportEvents();
+    if (m_line.demonstration)
+        StartDemonstration();
     m_core.StartComponent();
     MakeWindow();
     for (const QString& name : m_line.open)
@@ -172,6 +175,18 @@ void CFrameworkApplication::SwitchUser()
     dialog.exec();
 }
 
+void CFrameworkApplication::StartDemonstration()
+{
+    m_demonstration = std::make_unique<CDemonstration>(m_core, m_folder, [this] {
+        QMetaObject::invokeMethod(
+            &m_pages, [this] { emit m_pages.LocalFilesChanged(); }, Qt::QueuedConnection);
+    });
+    connect(&m_relay, &CEventRelay::ComponentChanged, this, [this](ComponentState state) {
+        if (state == ComponentState::Ready)
+            m_demonstration->Run();
+    });
+}
+
 void CFrameworkApplication::StartTour()
 {
     m_window->setGeometry(QGuiApplication::primaryScreen()->availableGeometry());
@@ -179,7 +194,8 @@ void CFrameworkApplication::StartTour()
                           [this](const FrameworkChoices& choices) {
                               m_core.Settings().Set(choices);
                               ChangeLook(choices);
-                          }};
+                          },
+                          m_line.demonstration};
     m_tour = std::make_unique<CTour>(stage, m_line.tourFolder);
     connect(m_tour.get(), &CTour::Finished, this, [this](bool success) {
         m_exitCode = success ? 0 : 1;

@@ -3,6 +3,8 @@
 #include "framework/core/FrameworkCore.h"
 #include "framework/ui/CommandLine.h"
 #include "framework/ui/Pages.h"
+#include "framework/ui/demonstration/Demonstration.h"
+#include "framework/ui/parts/CoreLocalFiles.h"
 #include "framework/ui/parts/CoreWindows.h"
 #include "framework/ui/parts/EventRelay.h"
 #include "framework/ui/parts/Report.h"
@@ -42,6 +44,7 @@ private:
     void OnChoices(const FrameworkChoices& before, const FrameworkChoices& now);
     void ChangeLook(const FrameworkChoices& choices);
     void SwitchUser();
+    void StartDemonstration();
     void StartTour();
     void EndProgram();
 
@@ -54,9 +57,11 @@ private:
     const std::string m_folder; ///< the framework's own, ends in "/"
     CFrameworkCore m_core;
     CCoreWindows m_windows;
+    CCoreLocalFiles m_files;
     CPages m_pages;
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CTour> m_tour;
+    std::unique_ptr<CDemonstration> m_demonstration;
     std::future<void> m_stopping;
 };
 

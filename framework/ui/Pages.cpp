@@ -3,6 +3,7 @@
 #include "framework/core/FrameworkCore.h"
 #include "framework/ui/pages/DevicesPage.h"
 #include "framework/ui/pages/HomePage.h"
+#include "framework/ui/pages/LocalFilesPage.h"
 #include "framework/ui/pages/NoticesPage.h"
 #include "framework/ui/pages/SettingsPage.h"
 #include "framework/ui/pages/UsersPage.h"
@@ -16,9 +17,9 @@
 
 namespace framework {
 
-CPages::CPages(CFrameworkCore& core, CEventRelay& relay, IComponentWindows& windows, CUnreadNotices& unread,
-               CReport& report)
-    : m_core(core), m_relay(relay), m_windows(windows), m_unread(unread), m_report(report)
+CPages::CPages(CFrameworkCore& core, CEventRelay& relay, IComponentWindows& windows, ILocalFileSource& files,
+               CUnreadNotices& unread, CReport& report)
+    : m_core(core), m_relay(relay), m_windows(windows), m_files(files), m_unread(unread), m_report(report)
 {}
 
 // A component tab opens only after its caller has put it into the window: the container has to have its place
@@ -37,9 +38,13 @@ QWidget* CPages::MakeOwn(const QString& name, QWidget* parent)
 {
     using Maker = QWidget* (CPages::*)(QWidget*);
     static const QHash<QString, Maker> makers = {
-        {"Home", &CPages::MakeHome},       {"Devices", &CPages::MakeDevices},
-        {"Notices", &CPages::MakeNotices}, {"Operations", &CPages::MakeOperations},
-        {"Users", &CPages::MakeUsers},     {"Settings", &CPages::MakeSettings},
+        {"Home", &CPages::MakeHome},
+        {"Devices", &CPages::MakeDevices},
+        {"LocalFiles", &CPages::MakeLocalFiles},
+        {"Notices", &CPages::MakeNotices},
+        {"Operations", &CPages::MakeOperations},
+        {"Users", &CPages::MakeUsers},
+        {"Settings", &CPages::MakeSettings},
     };
     // On a small or highly scaled screen a page is larger than its place.
     auto* scroll = new QScrollArea(parent);
@@ -71,6 +76,16 @@ QWidget* CPages::MakeDevices(QWidget* parent)
         m_core.Resources(),
         [this](const std::string& guid, const std::string& text) { m_core.RaiseAlarm(guid, text); }, parent);
     connect(&m_relay, &CEventRelay::ResourcesChanged, page, &CDevicesPage::Reload);
+    return page;
+}
+
+QWidget* CPages::MakeLocalFiles(QWidget* parent)
+{
+    auto* page = new CLocalFilesPage(m_files, m_core.Resources(), parent);
+    connect(&m_relay, &CEventRelay::ComponentChanged, page, &CLocalFilesPage::OnComponentChanged);
+    connect(&m_relay, &CEventRelay::ResourcesChanged, page, &CLocalFilesPage::OnResourcesChanged);
+    connect(this, &CPages::FormatsChanged, page, &CLocalFilesPage::OnFormatsChanged);
+    connect(this, &CPages::LocalFilesChanged, page, &CLocalFilesPage::Reload);
     return page;
 }
 

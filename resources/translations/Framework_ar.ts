@@ -414,6 +414,17 @@
         <source>Settings</source>
         <translation>الإعدادات</translation>
     </message>
+    <message>
+        <source>Local Files</source>
+        <translation>الملفات المحلية</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CCameraBox</name>
+    <message>
+        <source>Camera, group or identifier</source>
+        <translation>كاميرا أو مجموعة أو معرّف</translation>
+    </message>
 </context>
 <context>
     <name>framework::CComponentTab</name>
@@ -682,6 +693,180 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileModel</name>
+    <message>
+        <source>under 1 KiB</source>
+        <translation>أقل من 1 KiB</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>الكاميرا</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>المجموعة</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>الوقت</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>المدة</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>الحجم</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>المسار</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CLocalFilesPage</name>
+    <message>
+        <source>Pictures and clips on this computer, as the component has catalogued them.</source>
+        <translation>الصور والمقاطع الموجودة على هذا الجهاز كما فهرسها المكوّن.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>فتح</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>إظهار المجلد</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>جارٍ التحميل</translation>
+    </message>
+    <message>
+        <source>The component is asked for its records.</source>
+        <translation>يجري طلب السجلات من المكوّن.</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>كاميرا أو مجموعة</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>الأيام</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>آخر ٧ أيام</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>آخر ٣٠ يومًا</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>كل الأيام</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>المقاطع</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>لم يُعثر على شيء</translation>
+    </message>
+    <message>
+        <source>No file has this text.</source>
+        <translation>لا يوجد ملف يحتوي على هذا النص.</translation>
+    </message>
+    <message>
+        <source>No camera yet</source>
+        <translation>لا توجد كاميرا بعد</translation>
+    </message>
+    <message>
+        <source>Add a device, or enter a camera&apos;s identifier.</source>
+        <translation>أضف جهازًا أو أدخل معرّف كاميرا.</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time.</source>
+        <translation>لم يُجب المكوّن في الوقت المحدد.</translation>
+    </message>
+    <message>
+        <source>The component answered with an error.</source>
+        <translation>أجاب المكوّن بخطأ.</translation>
+    </message>
+    <message>
+        <source>The answer of the component cannot be read.</source>
+        <translation>تتعذر قراءة إجابة المكوّن.</translation>
+    </message>
+    <message>
+        <source>No pictures</source>
+        <translation>لا توجد صور</translation>
+    </message>
+    <message>
+        <source>No clips</source>
+        <translation>لا توجد مقاطع</translation>
+    </message>
+    <message>
+        <source>Nothing was catalogued for this camera or group in these days.</source>
+        <translation>لم يُفهرس شيء لهذه الكاميرا أو المجموعة في هذه الأيام.</translation>
+    </message>
+    <message>
+        <source>The list cannot be shown</source>
+        <translation>تعذّر عرض القائمة</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>إعادة المحاولة</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 (%2)</source>
+        <translation>الصور: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Clips: %1 (%2)</source>
+        <translation>المقاطع: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 من %2</translation>
+    </message>
+    <message>
+        <source>The component did not tell where the file is.</source>
+        <translation>لم يذكر المكوّن مكان الملف.</translation>
+    </message>
+    <message>
+        <source>The file is no longer in the catalogue.</source>
+        <translation>لم يعد الملف موجودًا في الفهرس.</translation>
+    </message>
+    <message>
+        <source>The file is gone: %1</source>
+        <translation>الملف غير موجود: %1</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>لا يوجد برنامج يفتح %1</translation>
+    </message>
+</context>
+<context>
     <name>framework::CMainWindow</name>
     <message>
         <source>Vantor Video Client</source>
@@ -862,6 +1047,25 @@
     </message>
 </context>
 <context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>كل علامات التبويب المفتوحة</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>إغلاق الأخرى</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>إغلاق الكل</translation>
+    </message>
+</context>
+<context>
     <name>framework::CTopBar</name>
     <message>
         <source>Show or hide the navigation</source>
@@ -953,25 +1157,6 @@
     <message>
         <source>The user was removed.</source>
         <translation>تمت إزالة المستخدم.</translation>
-    </message>
-</context>
-<context>
-    <name>framework::CTabStrip</name>
-    <message>
-        <source>All open tabs</source>
-        <translation>كل علامات التبويب المفتوحة</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>إغلاق</translation>
-    </message>
-    <message>
-        <source>Close the others</source>
-        <translation>إغلاق الأخرى</translation>
-    </message>
-    <message>
-        <source>Close all</source>
-        <translation>إغلاق الكل</translation>
     </message>
 </context>
 </TS>

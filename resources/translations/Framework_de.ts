@@ -414,6 +414,17 @@
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
+    <message>
+        <source>Local Files</source>
+        <translation>Lokale Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CCameraBox</name>
+    <message>
+        <source>Camera, group or identifier</source>
+        <translation>Kamera, Gruppe oder Kennung</translation>
+    </message>
 </context>
 <context>
     <name>framework::CComponentTab</name>
@@ -682,6 +693,180 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileModel</name>
+    <message>
+        <source>under 1 KiB</source>
+        <translation>unter 1 KiB</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Kamera</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Zeit</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Pfad</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CLocalFilesPage</name>
+    <message>
+        <source>Pictures and clips on this computer, as the component has catalogued them.</source>
+        <translation>Bilder und Clips auf diesem Rechner, wie die Komponente sie verzeichnet hat.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Ordner zeigen</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Wird geladen</translation>
+    </message>
+    <message>
+        <source>The component is asked for its records.</source>
+        <translation>Die Komponente wird nach ihren Einträgen gefragt.</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>Kamera oder Gruppe</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Letzte 30 Tage</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>Alle Tage</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nichts gefunden</translation>
+    </message>
+    <message>
+        <source>No file has this text.</source>
+        <translation>Keine Datei enthält diesen Text.</translation>
+    </message>
+    <message>
+        <source>No camera yet</source>
+        <translation>Noch keine Kamera</translation>
+    </message>
+    <message>
+        <source>Add a device, or enter a camera&apos;s identifier.</source>
+        <translation>Fügen Sie ein Gerät hinzu oder geben Sie die Kennung einer Kamera ein.</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time.</source>
+        <translation>Die Komponente hat nicht rechtzeitig geantwortet.</translation>
+    </message>
+    <message>
+        <source>The component answered with an error.</source>
+        <translation>Die Komponente hat mit einem Fehler geantwortet.</translation>
+    </message>
+    <message>
+        <source>The answer of the component cannot be read.</source>
+        <translation>Die Antwort der Komponente ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>No pictures</source>
+        <translation>Keine Bilder</translation>
+    </message>
+    <message>
+        <source>No clips</source>
+        <translation>Keine Clips</translation>
+    </message>
+    <message>
+        <source>Nothing was catalogued for this camera or group in these days.</source>
+        <translation>Für diese Kamera oder Gruppe wurde in diesen Tagen nichts verzeichnet.</translation>
+    </message>
+    <message>
+        <source>The list cannot be shown</source>
+        <translation>Die Liste kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 (%2)</source>
+        <translation>Bilder: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Clips: %1 (%2)</source>
+        <translation>Clips: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
+    </message>
+    <message>
+        <source>The component did not tell where the file is.</source>
+        <translation>Die Komponente hat nicht gesagt, wo die Datei liegt.</translation>
+    </message>
+    <message>
+        <source>The file is no longer in the catalogue.</source>
+        <translation>Die Datei steht nicht mehr im Verzeichnis.</translation>
+    </message>
+    <message>
+        <source>The file is gone: %1</source>
+        <translation>Die Datei ist nicht mehr da: %1</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>Kein Programm öffnet %1</translation>
+    </message>
+</context>
+<context>
     <name>framework::CMainWindow</name>
     <message>
         <source>Vantor Video Client</source>
@@ -862,6 +1047,25 @@
     </message>
 </context>
 <context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>Alle offenen Registerkarten</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>Andere schließen</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>Alle schließen</translation>
+    </message>
+</context>
+<context>
     <name>framework::CTopBar</name>
     <message>
         <source>Show or hide the navigation</source>
@@ -953,25 +1157,6 @@
     <message>
         <source>The user was removed.</source>
         <translation>Der Benutzer wurde entfernt.</translation>
-    </message>
-</context>
-<context>
-    <name>framework::CTabStrip</name>
-    <message>
-        <source>All open tabs</source>
-        <translation>Alle offenen Registerkarten</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Close the others</source>
-        <translation>Andere schließen</translation>
-    </message>
-    <message>
-        <source>Close all</source>
-        <translation>Alle schließen</translation>
     </message>
 </context>
 </TS>

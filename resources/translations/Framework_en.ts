@@ -414,6 +414,17 @@
         <source>Settings</source>
         <translation>Settings</translation>
     </message>
+    <message>
+        <source>Local Files</source>
+        <translation>Local Files</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CCameraBox</name>
+    <message>
+        <source>Camera, group or identifier</source>
+        <translation>Camera, group or identifier</translation>
+    </message>
 </context>
 <context>
     <name>framework::CComponentTab</name>
@@ -682,6 +693,180 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileModel</name>
+    <message>
+        <source>under 1 KiB</source>
+        <translation>under 1 KiB</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>Camera</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>Length</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>Path</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CLocalFilesPage</name>
+    <message>
+        <source>Pictures and clips on this computer, as the component has catalogued them.</source>
+        <translation>Pictures and clips on this computer, as the component has catalogued them.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>Show folder</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>Loading</translation>
+    </message>
+    <message>
+        <source>The component is asked for its records.</source>
+        <translation>The component is asked for its records.</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Refresh</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>Camera or group</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Last 7 days</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Last 30 days</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>All days</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>Nothing found</translation>
+    </message>
+    <message>
+        <source>No file has this text.</source>
+        <translation>No file has this text.</translation>
+    </message>
+    <message>
+        <source>No camera yet</source>
+        <translation>No camera yet</translation>
+    </message>
+    <message>
+        <source>Add a device, or enter a camera&apos;s identifier.</source>
+        <translation>Add a device, or enter a camera&apos;s identifier.</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time.</source>
+        <translation>The component did not answer in time.</translation>
+    </message>
+    <message>
+        <source>The component answered with an error.</source>
+        <translation>The component answered with an error.</translation>
+    </message>
+    <message>
+        <source>The answer of the component cannot be read.</source>
+        <translation>The answer of the component cannot be read.</translation>
+    </message>
+    <message>
+        <source>No pictures</source>
+        <translation>No pictures</translation>
+    </message>
+    <message>
+        <source>No clips</source>
+        <translation>No clips</translation>
+    </message>
+    <message>
+        <source>Nothing was catalogued for this camera or group in these days.</source>
+        <translation>Nothing was catalogued for this camera or group in these days.</translation>
+    </message>
+    <message>
+        <source>The list cannot be shown</source>
+        <translation>The list cannot be shown</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>Try again</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 (%2)</source>
+        <translation>Pictures: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Clips: %1 (%2)</source>
+        <translation>Clips: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message>
+        <source>The component did not tell where the file is.</source>
+        <translation>The component did not tell where the file is.</translation>
+    </message>
+    <message>
+        <source>The file is no longer in the catalogue.</source>
+        <translation>The file is no longer in the catalogue.</translation>
+    </message>
+    <message>
+        <source>The file is gone: %1</source>
+        <translation>The file is gone: %1</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>No program opens %1</translation>
+    </message>
+</context>
+<context>
     <name>framework::CMainWindow</name>
     <message>
         <source>Vantor Video Client</source>
@@ -862,6 +1047,25 @@
     </message>
 </context>
 <context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>All open tabs</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>Close the others</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>Close all</translation>
+    </message>
+</context>
+<context>
     <name>framework::CTopBar</name>
     <message>
         <source>Show or hide the navigation</source>
@@ -953,25 +1157,6 @@
     <message>
         <source>The user was removed.</source>
         <translation>The user was removed.</translation>
-    </message>
-</context>
-<context>
-    <name>framework::CTabStrip</name>
-    <message>
-        <source>All open tabs</source>
-        <translation>All open tabs</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>Close</translation>
-    </message>
-    <message>
-        <source>Close the others</source>
-        <translation>Close the others</translation>
-    </message>
-    <message>
-        <source>Close all</source>
-        <translation>Close all</translation>
     </message>
 </context>
 </TS>

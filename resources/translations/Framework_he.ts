@@ -414,6 +414,17 @@
         <source>Settings</source>
         <translation>הגדרות</translation>
     </message>
+    <message>
+        <source>Local Files</source>
+        <translation>קבצים מקומיים</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CCameraBox</name>
+    <message>
+        <source>Camera, group or identifier</source>
+        <translation>מצלמה, קבוצה או מזהה</translation>
+    </message>
 </context>
 <context>
     <name>framework::CComponentTab</name>
@@ -682,6 +693,180 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileModel</name>
+    <message>
+        <source>under 1 KiB</source>
+        <translation>פחות מ‎-1 KiB</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>שם</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>מצלמה</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>קבוצה</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>זמן</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>אורך</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>גודל</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>נתיב</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CLocalFilesPage</name>
+    <message>
+        <source>Pictures and clips on this computer, as the component has catalogued them.</source>
+        <translation>תמונות וסרטונים במחשב זה, כפי שהרכיב רשם אותם.</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>פתיחה</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>הצגת התיקייה</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>בטעינה</translation>
+    </message>
+    <message>
+        <source>The component is asked for its records.</source>
+        <translation>הרכיב נשאל על הרשומות שלו.</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>רענון</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>חיפוש</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>מצלמה או קבוצה</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>ימים</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>היום</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>7 הימים האחרונים</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>30 הימים האחרונים</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>כל הימים</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>תמונות</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>סרטונים</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>לא נמצא דבר</translation>
+    </message>
+    <message>
+        <source>No file has this text.</source>
+        <translation>אין קובץ עם הטקסט הזה.</translation>
+    </message>
+    <message>
+        <source>No camera yet</source>
+        <translation>אין עדיין מצלמה</translation>
+    </message>
+    <message>
+        <source>Add a device, or enter a camera&apos;s identifier.</source>
+        <translation>הוסיפו התקן או הזינו מזהה של מצלמה.</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time.</source>
+        <translation>הרכיב לא ענה בזמן.</translation>
+    </message>
+    <message>
+        <source>The component answered with an error.</source>
+        <translation>הרכיב ענה בשגיאה.</translation>
+    </message>
+    <message>
+        <source>The answer of the component cannot be read.</source>
+        <translation>לא ניתן לקרוא את תשובת הרכיב.</translation>
+    </message>
+    <message>
+        <source>No pictures</source>
+        <translation>אין תמונות</translation>
+    </message>
+    <message>
+        <source>No clips</source>
+        <translation>אין סרטונים</translation>
+    </message>
+    <message>
+        <source>Nothing was catalogued for this camera or group in these days.</source>
+        <translation>לא נרשם דבר עבור המצלמה או הקבוצה בימים אלה.</translation>
+    </message>
+    <message>
+        <source>The list cannot be shown</source>
+        <translation>לא ניתן להציג את הרשימה</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>נסה שוב</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 (%2)</source>
+        <translation>תמונות: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Clips: %1 (%2)</source>
+        <translation>סרטונים: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 מתוך %2</translation>
+    </message>
+    <message>
+        <source>The component did not tell where the file is.</source>
+        <translation>הרכיב לא מסר היכן הקובץ.</translation>
+    </message>
+    <message>
+        <source>The file is no longer in the catalogue.</source>
+        <translation>הקובץ כבר אינו רשום בקטלוג.</translation>
+    </message>
+    <message>
+        <source>The file is gone: %1</source>
+        <translation>הקובץ איננו: %1</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>אין תוכנית שפותחת את %1</translation>
+    </message>
+</context>
+<context>
     <name>framework::CMainWindow</name>
     <message>
         <source>Vantor Video Client</source>
@@ -862,6 +1047,25 @@
     </message>
 </context>
 <context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>כל הכרטיסיות הפתוחות</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>סגירה</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>סגירת האחרות</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>סגירת הכול</translation>
+    </message>
+</context>
+<context>
     <name>framework::CTopBar</name>
     <message>
         <source>Show or hide the navigation</source>
@@ -953,25 +1157,6 @@
     <message>
         <source>The user was removed.</source>
         <translation>המשתמש הוסר.</translation>
-    </message>
-</context>
-<context>
-    <name>framework::CTabStrip</name>
-    <message>
-        <source>All open tabs</source>
-        <translation>כל הכרטיסיות הפתוחות</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>סגירה</translation>
-    </message>
-    <message>
-        <source>Close the others</source>
-        <translation>סגירת האחרות</translation>
-    </message>
-    <message>
-        <source>Close all</source>
-        <translation>סגירת הכול</translation>
     </message>
 </context>
 </TS>

@@ -414,6 +414,17 @@
         <source>Settings</source>
         <translation>设置</translation>
     </message>
+    <message>
+        <source>Local Files</source>
+        <translation>本地文件</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CCameraBox</name>
+    <message>
+        <source>Camera, group or identifier</source>
+        <translation>摄像机、分组或标识符</translation>
+    </message>
 </context>
 <context>
     <name>framework::CComponentTab</name>
@@ -682,6 +693,180 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileModel</name>
+    <message>
+        <source>under 1 KiB</source>
+        <translation>小于 1 KiB</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>摄像机</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>分组</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation>时长</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation>路径</translation>
+    </message>
+</context>
+<context>
+    <name>framework::CLocalFilesPage</name>
+    <message>
+        <source>Pictures and clips on this computer, as the component has catalogued them.</source>
+        <translation>组件登记在案的本机图片和录像片段。</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>打开</translation>
+    </message>
+    <message>
+        <source>Show folder</source>
+        <translation>打开文件夹</translation>
+    </message>
+    <message>
+        <source>Loading</source>
+        <translation>正在加载</translation>
+    </message>
+    <message>
+        <source>The component is asked for its records.</source>
+        <translation>正在向组件查询记录。</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>刷新</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>摄像机或分组</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日期范围</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>最近 7 天</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>最近 30 天</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>全部日期</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>录像片段</translation>
+    </message>
+    <message>
+        <source>Nothing found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>No file has this text.</source>
+        <translation>没有包含此文字的文件。</translation>
+    </message>
+    <message>
+        <source>No camera yet</source>
+        <translation>尚无摄像机</translation>
+    </message>
+    <message>
+        <source>Add a device, or enter a camera&apos;s identifier.</source>
+        <translation>请添加设备，或输入摄像机的标识符。</translation>
+    </message>
+    <message>
+        <source>The component did not answer in time.</source>
+        <translation>组件未及时响应。</translation>
+    </message>
+    <message>
+        <source>The component answered with an error.</source>
+        <translation>组件返回了错误。</translation>
+    </message>
+    <message>
+        <source>The answer of the component cannot be read.</source>
+        <translation>无法读取组件的响应。</translation>
+    </message>
+    <message>
+        <source>No pictures</source>
+        <translation>没有图片</translation>
+    </message>
+    <message>
+        <source>No clips</source>
+        <translation>没有录像片段</translation>
+    </message>
+    <message>
+        <source>Nothing was catalogued for this camera or group in these days.</source>
+        <translation>此摄像机或分组在所选日期内没有登记任何内容。</translation>
+    </message>
+    <message>
+        <source>The list cannot be shown</source>
+        <translation>无法显示列表</translation>
+    </message>
+    <message>
+        <source>Try again</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Pictures: %1 (%2)</source>
+        <translation>图片：%1（%2）</translation>
+    </message>
+    <message>
+        <source>Clips: %1 (%2)</source>
+        <translation>录像片段：%1（%2）</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>The component did not tell where the file is.</source>
+        <translation>组件未告知文件的位置。</translation>
+    </message>
+    <message>
+        <source>The file is no longer in the catalogue.</source>
+        <translation>该文件已不在目录中。</translation>
+    </message>
+    <message>
+        <source>The file is gone: %1</source>
+        <translation>文件已不存在：%1</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>没有可打开 %1 的程序</translation>
+    </message>
+</context>
+<context>
     <name>framework::CMainWindow</name>
     <message>
         <source>Vantor Video Client</source>
@@ -862,6 +1047,25 @@
     </message>
 </context>
 <context>
+    <name>framework::CTabStrip</name>
+    <message>
+        <source>All open tabs</source>
+        <translation>所有打开的标签页</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Close the others</source>
+        <translation>关闭其他</translation>
+    </message>
+    <message>
+        <source>Close all</source>
+        <translation>全部关闭</translation>
+    </message>
+</context>
+<context>
     <name>framework::CTopBar</name>
     <message>
         <source>Show or hide the navigation</source>
@@ -953,25 +1157,6 @@
     <message>
         <source>The user was removed.</source>
         <translation>用户已移除。</translation>
-    </message>
-</context>
-<context>
-    <name>framework::CTabStrip</name>
-    <message>
-        <source>All open tabs</source>
-        <translation>所有打开的标签页</translation>
-    </message>
-    <message>
-        <source>Close</source>
-        <translation>关闭</translation>
-    </message>
-    <message>
-        <source>Close the others</source>
-        <translation>关闭其他</translation>
-    </message>
-    <message>
-        <source>Close all</source>
-        <translation>全部关闭</translation>
     </message>
 </context>
 </TS>

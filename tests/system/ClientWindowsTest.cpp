@@ -373,7 +373,7 @@ TEST_F(BareClient, StartsWithoutSkinsStyleAndTranslations)
 TEST_F(BareClient, WalksThroughEveryTab)
 {
     const std::string folder = client.component.Path() + "tour";
-    client.Start(kLook + QStringList{"--tour", QString::fromStdString(folder)});
+    client.Start(kLook + QStringList{"--demonstration", "--tour", QString::fromStdString(folder)});
     EXPECT_EQ(client.AwaitExit(100), 0) << client.component.Output();
     EXPECT_THAT(client.component.Output(), HasSubstr(" steps, 0 failed."));
     const auto pictures = std::distance(std::filesystem::directory_iterator(folder), {});

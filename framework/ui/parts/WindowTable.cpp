@@ -48,6 +48,8 @@ const std::vector<WindowRow>& AllWindows()
          false},
         {"SnapshotFile", QT_TRANSLATE_NOOP("Windows", "Pictures"), "picture", G::Playback, p::kLocalFiles,
          false},
+        {"LocalFiles", QT_TRANSLATE_NOOP("Windows", "Local Files"), "folder", G::Playback, p::kLocalFiles,
+         true},
         {"RecordSchedule", QT_TRANSLATE_NOOP("Windows", "Recording Schedule"), "schedule", G::Recording,
          p::kRecordSchedule, false},
         {"StoragePlan", QT_TRANSLATE_NOOP("Windows", "Storage Plan"), "storage", G::Recording, p::kStorage,

@@ -3,6 +3,7 @@
 #include "VantorGUIToolkit/Language.h"
 #include "VantorGUIToolkit/Widgets/NoticeStack.h"
 #include "framework/core/FrameworkCore.h"
+#include "framework/ui/pages/LocalFilesPage.h"
 #include "framework/ui/pages/SkinPicker.h"
 #include "framework/ui/parts/Report.h"
 #include "framework/ui/parts/WindowTable.h"
@@ -45,6 +46,29 @@ TourStep TabStep(const TourStage& stage, const QString& name, const QString& tab
             [=] { return PendingTab(stage, tab); },
             [=] { return ContentArea(stage); },
             {}};
+}
+
+CLocalFilesPage* FilesPage(const TourStage& stage)
+{
+    QWidget* page = stage.window().Tabs().Page("LocalFiles");
+    return page ? page->findChild<CLocalFilesPage*>() : nullptr;
+}
+
+/// The page of local files, with the files of the demonstration. kind: the button that is pressed first.
+TourStep FilesStep(const TourStage& stage, const QString& name, const QString& kind)
+{
+    TourStep step = TabStep(stage, name, "LocalFiles");
+    step.begin = [=] {
+        stage.window().Open("LocalFiles");
+        if (const CLocalFilesPage* page = FilesPage(stage))
+            page->findChild<QAbstractButton*>(kind)->click();
+    };
+    step.pending = [=] {
+        const CLocalFilesPage* page = FilesPage(stage);
+        const bool isEmpty = stage.hasDemonstration && (!page || page->FileCount() <= 0);
+        return isEmpty ? QStringLiteral("no file is listed") : PendingTab(stage, "LocalFiles");
+    };
+    return step;
 }
 
 void PressLater(QWidget* parent, const QString& buttonName)
@@ -172,12 +196,14 @@ void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
                                      choice.skin.toStdString(), first.language));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-home", "Home"));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-settings", "Settings"));
+            steps.push_back(FilesStep(stage, "skin-" + choice.skin + "-files", "pictures"));
         }
     for (const int language : {VantorGUIToolkit::German, VantorGUIToolkit::Arabic}) {
         const QString tag = VantorGUIToolkit::languageTag(language);
         steps.push_back(LookStep(stage, "language-" + tag, "ToolkitGallery", first.skin, language));
         steps.push_back(TabStep(stage, "language-" + tag + "-home", "Home"));
         steps.push_back(TabStep(stage, "language-" + tag + "-devices", "Devices"));
+        steps.push_back(FilesStep(stage, "language-" + tag + "-files", "clips"));
         steps.push_back(TabStep(stage, "language-" + tag + "-settings", "Settings"));
         steps.push_back(TabStep(stage, "language-" + tag + "-users", "Users"));
     }
@@ -190,7 +216,9 @@ std::vector<TourStep> AllTourSteps(const TourStage& stage)
 {
     std::vector<TourStep> steps;
     for (const WindowRow& row : AllWindows())
-        steps.push_back(TabStep(stage, row.name, row.name));
+        steps.push_back(QString(row.name) == "LocalFiles" ? FilesStep(stage, row.name, "pictures")
+                                                          : TabStep(stage, row.name, row.name));
+    steps.push_back(FilesStep(stage, "local-clips", "clips"));
     steps.push_back(DeviceStep(stage));
     steps.push_back(DialogStep(
         "device-dialog", "deviceDialog",

@@ -19,6 +19,7 @@ struct TourStage
     std::function<CMainWindow&()> window;
     CFrameworkCore& core;
     std::function<void(const FrameworkChoices&)> apply;
+    bool hasDemonstration = false; ///< its files are waited for
 };
 
 /// One picture of the tour.

@@ -6,6 +6,7 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 
 #include <filesystem>
+#include <optional>
 
 namespace video {
 namespace {
@@ -62,10 +63,10 @@ CLocalDataPath::CLocalDataPath(std::string file, SaveFolders defaults)
 void CLocalDataPath::Load()
 {
     std::string reason;
-    m_kept = ReadFolders(m_file, reason);
-    m_damaged = !m_kept;
-    if (m_kept)
-        m_folders = *m_kept;
+    const std::optional<SaveFolders> kept = ReadFolders(m_file, reason);
+    m_damaged = !kept;
+    if (kept)
+        m_folders = *kept;
     else
         BASE_ERROR("The save folders cannot be read, the defaults hold. [file=%s, reason=%s]", m_file.c_str(),
                    reason.c_str());
@@ -82,20 +83,18 @@ void CLocalDataPath::SetFolders(const SaveFolders& folders)
     const std::lock_guard<std::mutex> writing(m_writing);
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (!m_unsaved && !Differ(m_folders, folders))
+            return;
         m_folders = folders;
     }
-    if (m_kept && !Differ(*m_kept, folders))
-        return;
     if (m_damaged)
         m_damaged = !Base::FileUtil::PutInPlace(m_file, m_file + ".damaged");
     SaveFoldersFile content;
     content.video = folders.video;
     content.capture = folders.capture;
-    if (m_damaged || !Base::FileUtil::WriteFileAtomically(m_file, protocol::WriteJSONStr(content))) {
+    m_unsaved = m_damaged || !Base::FileUtil::WriteFileAtomically(m_file, protocol::WriteJSONStr(content));
+    if (m_unsaved)
         BASE_ERROR("The save folders cannot be written, they hold until the end. [file=%s]", m_file.c_str());
-        return;
-    }
-    m_kept = folders;
 }
 
 } // namespace video

@@ -4,12 +4,12 @@
 #include "VideoInterfaces/ILocalDataPath.h"
 
 #include <mutex>
-#include <optional>
 #include <string>
 
 namespace video {
 
-/// The save folders, kept in a small JSON file that is written only when they differ from what it holds.
+/// The save folders, kept in a small JSON file that is written only when they change: setting defaults that
+/// hold already keeps following the defaults.
 ///
 /// A file that cannot be read has its line in the log, and the defaults hold. It stays where it is until
 /// folders are set; then it is put aside as "<file>.damaged".
@@ -26,9 +26,9 @@ private:
     void Load();
 
     const std::string m_file;
-    bool m_damaged = false;                    ///< what lies there is none of ours
-    std::optional<vantor::SaveFolders> m_kept; ///< what the file holds
-    std::mutex m_writing;                      ///< guards the file and the two above
+    std::mutex m_writing;   ///< guards the file and the two below
+    bool m_damaged = false; ///< what lies there is none of ours
+    bool m_unsaved = false; ///< the folders could not be written
     vantor::SaveFolders m_folders;
     mutable std::mutex m_mutex; ///< guards m_folders; never held while writing
 };

@@ -60,12 +60,12 @@ CSystemConfig::CSystemConfig(CBaseDBConn& connection, vantor::ILocalDataPath& pa
       m_saved(m_working), m_observers(notifications)
 {}
 
-// The path holder knows its folders; handing them back would pin defaults that nobody chose.
 void CSystemConfig::Load()
 {
     const std::lock_guard<std::mutex> saving(m_saveMutex);
     Record record = FreshRecord(m_path.Folders());
     m_hasRow = m_session.Load(record);
+    m_path.SetFolders(FoldersOf(record));
     const std::lock_guard<std::mutex> lock(m_mutex);
     m_working = m_settled = m_saved = std::move(record);
 }

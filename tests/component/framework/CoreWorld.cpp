@@ -123,7 +123,8 @@ void CoreTest::StartCore(const std::string& program)
 {
     core.reset();
     core = std::make_unique<framework::CFrameworkCore>(
-        events, framework::FrameworkOptions{Folder(), program, root.Path() + "output", endLimit});
+        events,
+        framework::FrameworkOptions{Folder(), program, root.Path() + "output", endLimit, answerLimit});
     std::string error;
     ASSERT_TRUE(core->Start(error)) << error;
 }

@@ -89,7 +89,8 @@ protected:
 
     TestDataRoot root;
     Events events;
-    std::chrono::milliseconds endLimit{5000}; ///< of the components of cores that are started
+    std::chrono::milliseconds endLimit{5000};     ///< of the components of cores that are started
+    std::chrono::milliseconds answerLimit{10000}; ///< of the routes of components
     std::unique_ptr<framework::CFrameworkCore> core;
 };
 

@@ -154,6 +154,24 @@ TEST(AChange, IsPostedBeforeItIsSavedAndSavedBeforeItIsSent)
     EXPECT_EQ(world.scaleWhenSent, "2");
 }
 
+TEST(TheLastOfTwoSavers, WinsAlsoWhenItTakesBackWhatTheOtherIsWriting)
+{
+    World world;
+    for (int round = 0; round < 5; ++round) {
+        ASSERT_TRUE(world.connection.Begin());
+        auto first = std::async(std::launch::async, [&] { world.config.Set(&Record::DisplayScale, 2); });
+        ASSERT_TRUE(WaitUntil([&] { return world.observer.count == 2 * round + 1; }))
+            << "it is about to write";
+        auto last = std::async(std::launch::async, [&] { world.config.Set(&Record::DisplayScale, 0); });
+        ASSERT_TRUE(WaitUntil([&] { return world.config.DisplayScale() == 0; }));
+        ASSERT_TRUE(world.connection.Commit());
+        first.get();
+        last.get();
+        Deliver(world.loop);
+        ASSERT_EQ(world.Ask("SELECT DisplayScale FROM VideoSystemConfigTable"), "0") << round;
+    }
+}
+
 TEST(ASwitch, IsKeptAlsoWhenTheTableWasEmpty)
 {
     World world;
