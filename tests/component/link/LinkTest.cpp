@@ -275,34 +275,36 @@ TEST_F(ALink, TellsThatAnAnswerIsTooLongInsteadOfSendingIt)
 {
     Framework framework;
     Component component;
-    video::RouteAnswer rows{std::string(lpc::kMaxBody + 1, '7')};
-    std::size_t moreBytes = 0;
-    component.link.Dispatcher().Http().Bind("/rows", [&](const LPCCallBackData& call) {
+    const video::RouteAnswer tooLong{std::string(lpc::kMaxBody + 1, '7')};
+    const video::RouteAnswer longest{std::string(lpc::kMaxBody, '7')};
+    std::atomic<std::size_t> moreBytes{0};
+    component.link.Dispatcher().Http().Bind("/tooLong", [&](const LPCCallBackData& call) {
         const std::size_t before = StatusBytes("VmRSS:");
-        EXPECT_TRUE(component.link.Answer(call, rows));
+        EXPECT_TRUE(component.link.Answer(call, tooLong));
         moreBytes = StatusBytes("VmHWM:") - before;
     });
+    component.link.Dispatcher().Http().Bind(
+        "/longest", [&](const LPCCallBackData& call) { EXPECT_TRUE(component.link.Answer(call, longest)); });
     component.link.Init();
     framework.clients.WaitFor(1);
-    const auto ask = [&] {
+    const auto ask = [&](const std::string& url) {
         lpc::Message answer;
-        EXPECT_EQ(framework.server.SendEx(framework.component, {{{"protocol", "http"}, {"url", "/rows"}}, ""},
+        EXPECT_EQ(framework.server.SendEx(framework.component, {{{"protocol", "http"}, {"url", url}}, ""},
                                           20000, answer),
                   lpc::kNoError);
         return answer;
     };
 
-    lpc::Message answer = ask();
+    lpc::Message answer = ask("/tooLong");
     EXPECT_EQ(answer.headers["status"], "413");
     EXPECT_EQ(answer.headers["errorCode"], "1008");
-    EXPECT_EQ(answer.headers["url"], "/rows");
+    EXPECT_EQ(answer.headers["url"], "/tooLong");
     EXPECT_EQ(answer.body,
               R"({"response":{"result":{"errorCode":1008,"errorModuleCode":0},"message":)"
               R"("The answer is longer than the 67108864 bytes that can be sent. Ask for less."}})");
     EXPECT_LT(moreBytes, kCopyBytes) << "more than one copy of the answer was made";
 
-    rows.body.pop_back();
-    answer = ask();
+    answer = ask("/longest");
     EXPECT_EQ(answer.headers.count("status"), 0U) << "the longest body is sent";
     EXPECT_EQ(answer.body.size(), lpc::kMaxBody);
     component.link.UnInit();
