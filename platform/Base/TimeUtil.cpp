@@ -59,7 +59,7 @@ int DaysOfMonth(std::int64_t year, int month)
 }
 
 /// The number that the digits [from, from + count) spell; -1 when there is another character.
-int Digits(const std::string& text, std::size_t from, std::size_t count)
+int Digits(std::string_view text, std::size_t from, std::size_t count)
 {
     int value = 0;
     for (std::size_t i = from; i < from + count; ++i) {
@@ -87,7 +87,7 @@ std::string TimeT2StrDatetime(std::int64_t seconds)
                               static_cast<int>(rest % 60));
 }
 
-std::optional<std::int64_t> StrDatetime2TimeT(const std::string& text)
+std::optional<std::int64_t> StrDatetime2TimeT(std::string_view text)
 {
     if (text.size() != kTextLength)
         return std::nullopt;

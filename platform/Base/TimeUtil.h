@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 /// Date-time texts as the databases and messages hold them: "YYYY-MM-DD HH:MM:SS", universal time, always 19
 /// characters, so that they sort as text in the order of time.
@@ -17,6 +18,6 @@ constexpr std::int64_t kLastSecond = 253402300799;
 std::string TimeT2StrDatetime(std::int64_t seconds);
 
 /// The time of a text in exactly the form above with a date that exists; nothing for any other text.
-std::optional<std::int64_t> StrDatetime2TimeT(const std::string& text);
+std::optional<std::int64_t> StrDatetime2TimeT(std::string_view text);
 
 } // namespace Base::TimeUtil

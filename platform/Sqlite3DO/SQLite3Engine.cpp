@@ -188,28 +188,31 @@ void CSQLite3Engine::Execute(sqlite3_stmt* statement, CSQLite3Recordset* rows)
     Fail(m_db, result);
 }
 
+// A column is looked up once, as a value that is then asked: every sqlite3_column_ call would look it up
+// again.
 void CSQLite3Engine::AddRow(sqlite3_stmt* statement, CSQLite3Recordset& rows)
 {
     const int columns = sqlite3_column_count(statement);
     for (int column = 0; column < columns; ++column) {
-        switch (sqlite3_column_type(statement, column)) {
+        sqlite3_value* const value = sqlite3_column_value(statement, column);
+        switch (sqlite3_value_type(value)) {
         case SQLITE_INTEGER:
-            rows.AddInteger(sqlite3_column_int64(statement, column));
+            rows.AddInteger(sqlite3_value_int64(value));
             break;
         case SQLITE_FLOAT:
-            rows.AddReal(sqlite3_column_double(statement, column));
+            rows.AddReal(sqlite3_value_double(value));
             break;
         case SQLITE_NULL:
             rows.AddNull();
             break;
         case SQLITE_TEXT: {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, column));
-            rows.AddText(text, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+            const auto* text = reinterpret_cast<const char*>(sqlite3_value_text(value));
+            rows.AddText(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
             break;
         }
         default: { // a blob, byte for byte
-            const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
-            rows.AddText(bytes, static_cast<std::size_t>(sqlite3_column_bytes(statement, column)));
+            const auto* bytes = static_cast<const char*>(sqlite3_value_blob(value));
+            rows.AddText(bytes, static_cast<std::size_t>(sqlite3_value_bytes(value)));
         }
         }
     }

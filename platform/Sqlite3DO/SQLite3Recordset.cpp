@@ -23,7 +23,7 @@ std::int64_t IntegerOf(double value)
     return static_cast<std::int64_t>(value);
 }
 
-std::int64_t LeadingNumber(const std::string& text)
+std::int64_t LeadingNumber(std::string_view text)
 {
     std::int64_t value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -71,7 +71,7 @@ std::int64_t CSQLite3Recordset::GetDateTime(int column) const
     if (!cell)
         return 0;
     if (cell->kind == Kind::Text)
-        return Base::TimeUtil::StrDatetime2TimeT(TextOf(*cell)).value_or(0);
+        return Base::TimeUtil::StrDatetime2TimeT(ViewOf(*cell)).value_or(0);
     return NumberOf(*cell);
 }
 
@@ -82,6 +82,11 @@ const CSQLite3Recordset::Cell* CSQLite3Recordset::At(int column) const
     return &m_cells[(m_position - 1) * m_columns + static_cast<std::size_t>(column)];
 }
 
+std::string_view CSQLite3Recordset::ViewOf(const Cell& cell) const
+{
+    return {m_text.data() + cell.text.offset, cell.text.size};
+}
+
 std::string CSQLite3Recordset::TextOf(const Cell& cell) const
 {
     switch (cell.kind) {
@@ -90,7 +95,7 @@ std::string CSQLite3Recordset::TextOf(const Cell& cell) const
     case Kind::Real:
         return RealAsText(cell.real);
     case Kind::Text:
-        return m_text.substr(cell.text.offset, cell.text.size);
+        return std::string(ViewOf(cell));
     case Kind::Null:
         break;
     }
@@ -105,7 +110,7 @@ std::int64_t CSQLite3Recordset::NumberOf(const Cell& cell) const
     case Kind::Real:
         return IntegerOf(cell.real);
     case Kind::Text:
-        return LeadingNumber(TextOf(cell));
+        return LeadingNumber(ViewOf(cell));
     case Kind::Null:
         break;
     }

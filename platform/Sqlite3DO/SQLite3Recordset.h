@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Sqlite3DO {
@@ -66,6 +67,7 @@ private:
     void EndRow(std::size_t columns);
 
     const Cell* At(int column) const;
+    std::string_view ViewOf(const Cell& cell) const; ///< of a text
     std::string TextOf(const Cell& cell) const;
     std::int64_t NumberOf(const Cell& cell) const;
 

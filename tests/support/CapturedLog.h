@@ -44,6 +44,18 @@ public:
         return messages;
     }
 
+    std::vector<std::string> Errors() const { return Messages(Base::LogLevel::Error); }
+    std::vector<std::string> Warnings() const { return Messages(Base::LogLevel::Warn); }
+
+    /// How many messages hold the text.
+    std::size_t Count(const std::string& text) const
+    {
+        const auto lines = Lines();
+        return static_cast<std::size_t>(std::count_if(lines.begin(), lines.end(), [&](const Line& line) {
+            return line.message.find(text) != std::string::npos;
+        }));
+    }
+
     bool Has(const std::string& message) const
     {
         const auto lines = Lines();

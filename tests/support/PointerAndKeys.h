@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
+
+struct xcb_connection_t;
 
 /// A user's hands and eyes on one display: presses the real pointer and keyboard of the X server, and sees
 /// where windows are. Lengths are device pixels of the screen.
@@ -40,11 +41,13 @@ public:
 
     explicit PointerAndKeys(const std::string& display);
     ~PointerAndKeys();
+    PointerAndKeys(const PointerAndKeys&) = delete;
+    PointerAndKeys& operator=(const PointerAndKeys&) = delete;
 
     void MoveTo(int x, int y);
     /// Returns when the window manager has passed the click on, too: keys that follow come after it.
     void Click(int x, int y);
-    void Press(Key key);
+    void Press(Key key) { PressKeysym(key); }
     /// key: a Key, or the number of a letter.
     void PressWith(Key modifier, std::uint32_t key);
     /// Letters, digits and spaces of the US keyboard; capitals are not.
@@ -87,6 +90,14 @@ private:
     std::uint32_t Atom(const char* name) const;
     bool IsButtonDown() const;
 
-    struct State;
-    std::unique_ptr<State> m_state;
+    xcb_connection_t* const m_connection;
+    Window m_root = 0;
 };
+
+/// For a test's explanations.
+std::string Text(const std::optional<PointerAndKeys::Area>& area);
+
+/// A popup opens over or directly below its widget, the edges at which lines start together; a frame may
+/// stick out.
+bool IsBeside(const std::optional<PointerAndKeys::Area>& popup, const PointerAndKeys::Area& widget,
+              bool rightToLeft = false);

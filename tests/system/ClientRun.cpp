@@ -2,6 +2,7 @@
 
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
+#include "support/FileContent.h"
 #include "support/WaitUntil.h"
 
 #include <gtest/gtest.h>
@@ -10,7 +11,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
-#include <csignal>
 #include <stdexcept>
 
 namespace {
@@ -35,13 +35,6 @@ bool Holds(const QJsonObject& event, const QJsonObject& fields)
 std::string Text(const QJsonObject& fields)
 {
     return QJsonDocument(fields).toJson(QJsonDocument::Compact).toStdString();
-}
-
-std::string Content(const std::string& path)
-{
-    std::string text;
-    Base::FileUtil::ReadFile(path, text);
-    return text;
 }
 
 /// The X server's errors that a program has reported. Qt may ask for the place of a frame that the window
@@ -92,7 +85,7 @@ void ClientRun::End()
     AskToEnd();
     EXPECT_EQ(m_framework->WaitForExit(kEndMs).value_or(-1000), 0) << component.Output();
     EXPECT_EQ(component.ProcessId(), 0);
-    for (const std::string& output : {component.Output(), Content(Folder() + "component.out")})
+    for (const std::string& output : {component.Output(), FileContent(Folder() + "component.out")})
         EXPECT_EQ(Complaints(output), "");
 }
 
@@ -100,16 +93,6 @@ void ClientRun::Kill()
 {
     m_framework->Signal(SIGKILL);
     m_framework->WaitForExit(kEndMs);
-}
-
-void ClientRun::AskToEnd()
-{
-    m_framework->Signal(SIGTERM);
-}
-
-std::optional<int> ClientRun::AwaitExit(int seconds)
-{
-    return m_framework->WaitForExit(seconds * 1000);
 }
 
 void ClientRun::ReadReport()
@@ -157,11 +140,6 @@ ClientRun::Area ClientRun::Item(const QString& name)
         GiveUp("there is no " + name.toStdString());
     const QJsonArray area = Await({{"event", "layout"}})["items"].toObject()[name].toArray();
     return {area[0].toInt(), area[1].toInt(), area[2].toInt(), area[3].toInt()};
-}
-
-void ClientRun::Click(const QString& item)
-{
-    Click(Item(item));
 }
 
 void ClientRun::Click(const Area& area)

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <QStringList>
 
+#include <csignal>
 #include <memory>
 
 /// The real framework with the real component, on a display and a data root of their own, and a user in front
@@ -28,9 +29,9 @@ public:
     void End();
     void Kill();
     /// Asks the framework to end, and does not wait.
-    void AskToEnd();
+    void AskToEnd() { m_framework->Signal(SIGTERM); }
     /// The exit status of the framework that ends by itself.
-    std::optional<int> AwaitExit(int seconds);
+    std::optional<int> AwaitExit(int seconds) { return m_framework->WaitForExit(seconds * 1000); }
 
     /// Waits until the report has told so many events with these fields since the start; gives the last.
     QJsonObject Await(const QJsonObject& fields, int times = 1);
@@ -39,7 +40,7 @@ public:
     /// Where an item of the framework's layout is; see framework/ui/shell/LayoutReport.h.
     Area Item(const QString& name);
     bool HasItem(const QString& name);
-    void Click(const QString& item);
+    void Click(const QString& item) { Click(Item(item)); }
     void Click(const Area& area);
     /// Returns when the window has the keyboard.
     void ClickForKeys(const Area& area, Window window);

@@ -4,7 +4,6 @@
 #include "system/GalleryModel.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <csignal>
 #include <filesystem>
@@ -23,25 +22,6 @@ using Window = PointerAndKeys::Window;
 const QString kGallery = QStringLiteral("ToolkitGallery");
 const QString kMain = QStringLiteral("MainView");
 const QStringList kLook = {"--skin", "BlackRedSkin", "--language", "1"};
-
-std::string Text(const std::optional<Area>& area)
-{
-    return area ? std::to_string(area->x) + "," + std::to_string(area->y) + " " +
-                      std::to_string(area->width) + "x" + std::to_string(area->height)
-                : "nowhere";
-}
-
-/// A popup opens over or directly below its widget, the edges at which lines start together; a frame may
-/// stick out.
-bool IsBeside(const std::optional<Area>& popup, const Area& widget, bool rightToLeft)
-{
-    constexpr int kFrame = 8;
-    if (!popup)
-        return false;
-    const int apart = rightToLeft ? popup->x + popup->width - widget.x - widget.width : popup->x - widget.x;
-    return std::abs(apart) <= kFrame && popup->y <= widget.y + widget.height + kFrame &&
-           popup->y + popup->height >= widget.y - kFrame;
-}
 
 /// The client with the widget gallery, a page of the component, in a tab.
 class ClientTest
@@ -155,20 +135,6 @@ TEST_P(Client, TakesClicksAndKeysWhereTheyAreMeant)
     client.ExpectText(Gallery(page).Of("galleryNameEdit"), page, "guest");
 }
 
-// The last is a move alone: of this the server tells the page nothing.
-TEST_P(Client, OpensPopupsBesideTheirWidgetsWhereverItsWindowIs)
-{
-    client.Start(kLook);
-    const Window page = client.OpenTab(kGallery);
-    for (const Area& place :
-         {Area{40, 60, 1440, 1320}, {310, 90, 1300, 1400}, {5, 30, 1100, 1250}, {700, 120, 1100, 1250}}) {
-        Place(page, place);
-        const GalleryModel gallery = Gallery(page);
-        for (const char* widget : {"galleryMenuButton", "galleryCombo"})
-            ExpectPopupBeside(gallery.Of(widget));
-    }
-}
-
 TEST_P(Client, KeepsAPageWhileItsTabIsBehindOrClosed)
 {
     client.Start(kLook);
@@ -207,6 +173,7 @@ TEST_P(Client, BringsTheTabsBackWhenTheComponentDies)
     client.AwaitSeen(page);
     EXPECT_NE(client.component.ProcessId(), first);
     ExpectClicksCount(Gallery(page));
+    EXPECT_THAT(client.component.MissingInOrder({"APP Init Success", "APP Init Success"}), IsEmpty());
     const Window main = client.AwaitEmbedded(kMain, 2);
     client.Click("tab:" + kMain);
     client.AwaitSeen(main);
@@ -338,17 +305,6 @@ TEST_F(BareClient, WearsEachSkinInBothPrograms)
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "success to load VantorGUIToolKitBlackRedSkin."),
               4);
     EXPECT_EQ(std::count(messages.begin(), messages.end(), "success to load ClientCommSkin."), 4);
-}
-
-TEST_F(BareClient, IsDarkInASkinThatIsNotThere)
-{
-    const std::string folder = client.component.Path() + "Framework.C/";
-    std::filesystem::create_directories(folder);
-    std::ofstream(folder + "settings.json") << R"({"skin":"PinkSkin","language":1,"chosen":true})";
-    client.Start({"--component",
-                  Script("exec " + client.component.Program() + " \"$1\" \"$2\" \"PinkSkin 1 0 0 0 0\"")});
-    ExpectSkin("BlackRedSkin");
-    EXPECT_THAT(client.component.MissingInOrder({"fail to load VantorGUIToolKitBlackRedSkin."}), IsEmpty());
 }
 
 TEST_F(BareClient, StartsWithoutSkinsStyleAndTranslations)

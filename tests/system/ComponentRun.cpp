@@ -2,53 +2,21 @@
 
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
+#include "support/FileLog.h"
 
 #include <signal.h>
 #include <sys/wait.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <thread>
-
-namespace {
-
-constexpr auto kLookAgain = std::chrono::milliseconds(20);
-
-std::string Content(const std::string& path)
-{
-    std::string text;
-    Base::FileUtil::ReadFile(path, text, 64 * 1024 * 1024);
-    return text;
-}
-
-/// Asks again and again until the condition holds or the time is over.
-template<typename Condition>
-bool WaitUntil(Condition condition, int seconds)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(seconds);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end)
-            return false;
-        std::this_thread::sleep_for(kLookAgain);
-    }
-    return true;
-}
-
-} // namespace
 
 ComponentRun::ComponentRun() : m_bin(Base::FileUtil::GetCurExeDir()), m_program(m_bin + "Vantor.Video.C")
 {
     // The log holds the message alone, so that it can be compared word for word.
     std::filesystem::create_directories(DataPath());
-    std::ofstream(DataPath() + "log.properties")
-        << "log4j.rootLogger=DEBUG, file\n"
-           "log4j.appender.file=org.apache.log4j.FileAppender\n"
-           "log4j.appender.file.File=${VANTOR_LOG_DIR}/Video.C.log\n"
-           "log4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
-           "log4j.appender.file.layout.ConversionPattern=%m%n\n";
+    WriteLogSettings(DataPath() + "log.properties", "${VANTOR_LOG_DIR}/Video.C.log");
     if (!std::getenv("DISPLAY"))
         setenv("QT_QPA_PLATFORM", "offscreen", 1);
 }
@@ -82,11 +50,6 @@ int ComponentRun::Shell(const std::string& command) const
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
 }
 
-std::string ComponentRun::Component() const
-{
-    return Program() + " 1 2 'BlackRedSkin 1 0 0 0 0'";
-}
-
 std::string ComponentRun::HostCommand(const std::string& scriptPath, const std::string& options) const
 {
     return m_bin + "vantor-lpc host " + options + " --script " + scriptPath + " --spawn " + Program();
@@ -94,7 +57,7 @@ std::string ComponentRun::HostCommand(const std::string& scriptPath, const std::
 
 std::vector<std::string> ComponentRun::LogMessages() const
 {
-    return Base::StringUtil::Split(Content(DataPath() + "log/Video.C.log"), '\n');
+    return Base::StringUtil::Split(FileContent(DataPath() + "log/Video.C.log"), '\n');
 }
 
 std::vector<std::string> ComponentRun::MissingInOrder(const std::vector<std::string>& wanted) const
@@ -114,7 +77,7 @@ std::vector<std::string> ComponentRun::MissingInOrder(const std::vector<std::str
 
 bool ComponentRun::WaitForLog(const std::string& message, int seconds) const
 {
-    return WaitUntil([&] { return MissingInOrder({message}).empty(); }, seconds);
+    return WaitUntil([&] { return MissingInOrder({message}).empty(); }, std::chrono::seconds(seconds));
 }
 
 int ComponentRun::ProcessId() const
@@ -123,7 +86,7 @@ int ComponentRun::ProcessId() const
         std::error_code ignored;
         if (std::filesystem::read_symlink(process.path() / "exe", ignored) != Program())
             continue;
-        if (Content(process.path() / "environ")
+        if (FileContent(process.path() / "environ")
                 .find("VANTOR_USER_DATA=" + Path().substr(0, Path().size() - 1)) != std::string::npos)
             return std::stoi(process.path().filename());
     }
@@ -134,14 +97,4 @@ void ComponentRun::Terminate() const
 {
     if (const int process = ProcessId())
         ::kill(process, SIGTERM);
-}
-
-bool ComponentRun::WaitUntilEnded(int seconds) const
-{
-    return WaitUntil([&] { return ProcessId() == 0; }, seconds);
-}
-
-std::string ComponentRun::Output() const
-{
-    return Content(Path() + "output");
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
+#include "support/WaitUntil.h"
 
 #include <string>
 #include <vector>
@@ -9,6 +11,12 @@
 class ComponentRun
 {
 public:
+    /// Lines of scripts: the component is up, and it ends in order.
+    static constexpr const char* kUntilReady =
+        "{\"expect_notify\": {\"method\": \"initFinish\"}, \"within_ms\": 20000}\n";
+    static constexpr const char* kQuit = "{\"notify\": {\"method\": \"componentUninit\"}}\n"
+                                         "{\"expect_exit\": 0, \"within_ms\": 15000}\n";
+
     ComponentRun();
 
     /// Plays a script with vantor-lpc host, which starts the component; the exit code. The text is written to
@@ -26,7 +34,7 @@ public:
 
     std::string Program() const { return m_program; }
     /// The command that starts the component with the usual arguments.
-    std::string Component() const;
+    std::string Component() const { return Program() + " 1 2 'BlackRedSkin 1 0 0 0 0'"; }
     std::string HostCommand(const std::string& scriptPath, const std::string& options = "") const;
 
     /// The messages of the component's log, in order.
@@ -42,12 +50,15 @@ public:
     int ProcessId() const;
     /// Asks the component that runs to end.
     void Terminate() const;
-    bool WaitUntilEnded(int seconds) const;
+    bool WaitUntilEnded(int seconds) const
+    {
+        return WaitUntil([&] { return ProcessId() == 0; }, std::chrono::seconds(seconds));
+    }
 
     std::string Path() const { return m_root.Path(); }
     std::string DataPath() const { return Path() + "Video.C/"; }
     /// What the last run printed.
-    std::string Output() const;
+    std::string Output() const { return FileContent(Path() + "output"); }
 
 private:
     TestDataRoot m_root;

@@ -2,7 +2,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <fstream>
 
@@ -23,11 +22,6 @@ struct Fault
     int exitCode;
     const char* sentence;
 };
-
-void PrintTo(const Fault& fault, std::ostream* out)
-{
-    *out << fault.name;
-}
 
 constexpr auto kAlone = Program::Component;
 constexpr auto kCopy = Program::ComponentOfACopy;
@@ -86,13 +80,12 @@ const Fault kFaults[] = {
      "Failed to copy maintain/CustomWidgetLayout.xml."},
     {"LogSettingsOfNoise", kHosted, "head -c 3000 /dev/urandom >$LOG", kWorks,
      "log.properties] cannot be followed: it sets up no appender for the root logger."},
-    {"EmptyLogSettings", kHosted, ": >$LOG", kWorks, "log.properties] cannot be followed: "},
-    {"LogSettingsWithAnUnknownClass", kHosted, "sed s/RollingFile/Nonsense/ $INSTALLED >$LOG", kWorks,
-     "log.properties] cannot be followed: "},
     {"LogSettingsWithAFileThatCannotBe", kHosted, "sed s,{VANTOR_LOG_DIR},{NONE}/proc/none, $INSTALLED >$LOG",
      kWorks, "log.properties] cannot be followed: the file [/proc/none/"},
     {"NoScreen", kAlone, kNoScreen, kFailed, "FATAL [Vantor.Video.C] root"},
     {"NoScreenForTheFramework", kFramework, kNoScreen, kCannotRun, "FATAL [Vantor.Framewor] root"},
+    {"NoScreenForTheHelp", kFramework, "unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM; set -- \"$@\" --help",
+     kWorks, "--skin <NAME>"},
     {"FewOpenFiles", kHosted, "ulimit -n 32", kWorks, "APP Init Success"},
     {"SmallFiles", kAlone, "ulimit -f 8", kFailed, "Log: lines are lost from here on"},
 };
@@ -103,9 +96,7 @@ protected:
     std::string Hosted()
     {
         const std::string script = m_run.Path() + "script";
-        std::ofstream(script) << R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})" << '\n'
-                              << R"({"notify": {"method": "componentUninit"}})" << '\n'
-                              << R"({"expect_exit": 0, "within_ms": 15000})" << '\n';
+        std::ofstream(script) << ComponentRun::kUntilReady << ComponentRun::kQuit;
         return m_run.HostCommand(script);
     }
 

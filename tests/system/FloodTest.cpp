@@ -5,7 +5,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <filesystem>

@@ -7,12 +7,13 @@
 #include "ChildProcess/ChildProcess.h"
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "component/framework/CoreWorld.h"
+#include "support/FileContent.h"
+#include "support/FileLog.h"
 #include "support/WaitUntil.h"
 #include "system/ComponentRun.h"
 #include "system/SecretSearch.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -50,26 +51,12 @@ protected:
         fs::create_directories(run.DataPath() + "dump");
         std::ofstream(run.DataPath() + "dump/full-dump") << "";
         fs::create_directories(Folder());
-        std::ofstream(Folder() + "log.properties")
-            << "log4j.rootLogger=DEBUG, file\n"
-               "log4j.appender.file=org.apache.log4j.FileAppender\n"
-               "log4j.appender.file.File="
-            << Folder()
-            << "log/Framework.C.log\n"
-               "log4j.appender.file.layout=org.apache.log4j.PatternLayout\n"
-               "log4j.appender.file.layout.ConversionPattern=%p %m%n\n";
+        WriteLogSettings(Folder() + "log.properties", Folder() + "log/Framework.C.log", "%p %m%n");
     }
 
     std::string Folder() const { return run.Path() + "Framework.C/"; }
     std::string SetupFile() const { return Folder() + "DESetup.xml"; }
     std::string KeyFile() const { return Folder() + "DESetup.key"; }
-
-    std::string Content(const std::string& file) const
-    {
-        std::string content;
-        EXPECT_TRUE(Base::FileUtil::ReadFile(file, content)) << file;
-        return content;
-    }
 
     /// Keeps what every user of the machine can read of the process, and what its own user can.
     void LookAt(long long process)
@@ -183,7 +170,7 @@ void Secrets::WorkAndCrash()
         framework::CFrameworkCore core(events, {Folder(), {}, {}});
         ASSERT_TRUE(core.Start(error)) << error;
         setup = CDataEncryptionConfig(SetupFile()).Read().value();
-        sealingKey = Content(KeyFile());
+        sealingKey = FileContent(KeyFile());
         Enter(core);
         ReceiveAsTheComponent();
     }
@@ -256,12 +243,12 @@ void Secrets::RunTheFramework(int exitCode)
         << error;
     if (exitCode == 0) {
         EXPECT_TRUE(WaitUntil([&] { return TimesReady() > before; }, std::chrono::seconds(40)))
-            << Content(output);
+            << FileContent(output);
         LookAt(framework.Id());
         LookAt(run.ProcessId());
         framework.Signal(SIGTERM);
     }
-    EXPECT_EQ(framework.WaitForExit(20000).value_or(-1000), exitCode) << Content(output);
+    EXPECT_EQ(framework.WaitForExit(20000).value_or(-1000), exitCode) << FileContent(output);
 }
 
 std::vector<Secret> Secrets::All() const
@@ -285,7 +272,7 @@ TEST_F(Secrets, AreNowhereInWhatARunLeaves)
     ASSERT_NO_FATAL_FAILURE(WorkAndCrash());
     ASSERT_NO_FATAL_FAILURE(CrashWhileStarting());
     ASSERT_NO_FATAL_FAILURE(RunTheFramework(0));
-    const std::string good = Content(SetupFile());
+    const std::string good = FileContent(SetupFile());
     ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(SetupFile(), good.substr(0, good.size() / 2)));
     ASSERT_NO_FATAL_FAILURE(RunTheFramework(1));
     EXPECT_EQ(run.Play(R"({"expect_exit": 255, "within_ms": 20000})"), 0) << run.Output();
@@ -308,12 +295,7 @@ TEST(ASearchForSecrets, FindsThemInEveryForm)
     const std::string key = "00112233445566778899aabbccddeeff0f1e2d3c4b5a69788796a5b4c3d2e1f0";
     const std::string bytes = FromHex(key).value();
     const std::vector<Secret> secrets{{"password", "sekret-word"}, {"key", key, true}};
-    const struct
-    {
-        const char* what;
-        std::string content;
-        std::string found;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string> rows[] = {
         {"nothing", "no sekret, no word", ""},
         {"as it is", "a sekret-word!", "password"},
         {"base64", "x" + Base64("sekret-word"), "password"},
@@ -327,8 +309,8 @@ TEST(ASearchForSecrets, FindsThemInEveryForm)
         {"the key in base64", Base64(bytes), "key"},
         {"a quarter", key.substr(0, 16), ""},
     };
-    for (const auto& row : rows) {
-        const auto findings = FindSecrets(secrets, "file", row.content);
-        EXPECT_EQ(findings.empty() ? "" : findings[0].what, row.found) << row.what;
+    for (const auto& [what, content, found] : rows) {
+        const auto findings = FindSecrets(secrets, "file", content);
+        EXPECT_EQ(findings.empty() ? "" : findings[0].what, found) << what;
     }
 }

@@ -2,7 +2,6 @@
 #include "system/ComponentRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <signal.h>
 
@@ -61,12 +60,8 @@ std::vector<std::string> Join(std::initializer_list<std::vector<std::string>> li
     return all;
 }
 
-const std::string kUntilReady = R"({"expect_notify": {"method": "initFinish"}, "within_ms": 20000})"
-                                "\n";
-const std::string kQuit = R"({"notify": {"method": "componentUninit"}})"
-                          "\n"
-                          R"({"expect_exit": 0, "within_ms": 15000})"
-                          "\n";
+const std::string kUntilReady = ComponentRun::kUntilReady;
+const std::string kQuit = ComponentRun::kQuit;
 
 TEST(TheComponent, StartsAndEndsInItsOrder)
 {
@@ -103,6 +98,11 @@ TEST(TheComponent, StartsAndEndsInItsOrder)
     EXPECT_THAT(run.LogMessages(), Not(Contains("CrashAPI UnInit success")));
     EXPECT_THAT(run.LogMessages(), Not(Contains("UninitLibxml2 Success.")));
     EXPECT_TRUE(std::filesystem::exists(run.DataPath() + "VideoSystem"));
+    const auto bin = std::filesystem::path(run.Program()).parent_path();
+    for (const char* package : {"VantorGUIToolKitBlackRedSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
+        EXPECT_THAT(run.Output(), HasSubstr("---scc--- LoadSkin = " +
+                                            (bin / "../plugins/skins" / package).string() + " Success"));
+    EXPECT_THAT(run.Output(), Not(HasSubstr("CVantorStyle")));
 }
 
 TEST(TheComponent, EndsWithMinusOneWhenItsDatabaseIsNotSound)
@@ -124,50 +124,13 @@ TEST(TheComponent, EndsWithMinusOneWhenItsDatabaseIsNotSound)
     EXPECT_EQ(std::filesystem::file_size(run.DataPath() + "VideoSystem"), 8192u);
 }
 
-/// What the component writes to its error output at the load of a package.
-std::string PackageLine(const ComponentRun& run, const char* package, const char* end)
+/// Runs the command behind a shell until the component is up, and kills that shell.
+void RunAndKillTheParent(const ComponentRun& run, const std::string& command)
 {
-    const auto bin = std::filesystem::path(run.Program()).parent_path();
-    return "---scc--- LoadSkin = " + (bin / "../plugins/skins" / package).string() + end;
-}
-
-TEST(TheComponent, LoadsThePackagesOfItsSkin)
-{
-    ComponentRun run;
-    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
-    for (const char* package : {"VantorGUIToolKitBlackRedSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
-        EXPECT_THAT(run.Output(), HasSubstr(PackageLine(run, package, " Success")));
-    EXPECT_THAT(run.Output(), Not(HasSubstr("CVantorStyle")));
-}
-
-TEST(TheComponent, StartsWithoutAnyLooksAndSaysWhatIsMissing)
-{
-    ComponentRun run;
-    run.LeaveLooksOut();
-    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
-    EXPECT_THAT(run.MissingInOrder(
-                    Join({kStagesBeforeDatabase,
-                          {"fail to load VantorGUIToolKitBlackRedSkin.", "Failed to load ClientCommSkin.",
-                           "LoadSkin Success.", "LoadStyle Success.", "InitGuiToolKit Success."},
-                          kReady})),
-                IsEmpty());
-    for (const char* package : {"VantorGUIToolKitBlackRedSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
-        EXPECT_THAT(run.Output(), HasSubstr(PackageLine(run, package, " failed")));
-    EXPECT_THAT(run.Output(),
-                HasSubstr("[scc][CVantorApplication::LoadStyle]The CVantorStyle does not exist."));
-}
-
-TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
-{
-    ComponentRun run;
     const std::string parentFile = run.Path() + "parent";
-    std::ofstream(run.Path() + "start.sh")
-        << "echo $$ >" << parentFile << "; " << run.Component() << " & wait\n";
+    std::ofstream(run.Path() + "start.sh") << "echo $$ >" << parentFile << "; " << command << '\n';
     auto parent = std::async(std::launch::async, [&] { run.Shell("sh " + run.Path() + "start.sh"); });
     EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
-    EXPECT_THAT(run.LogMessages(), Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
-    EXPECT_THAT(run.LogMessages(), Contains("Failed to send. LastError: [1005]."));
-
     pid_t pid = 0;
     std::ifstream(parentFile) >> pid;
     ASSERT_GT(pid, 1);
@@ -176,28 +139,24 @@ TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
     EXPECT_TRUE(run.WaitUntilEnded(10));
     EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
                 IsEmpty());
+    const auto messages = run.LogMessages();
+    EXPECT_EQ(std::count(messages.begin(), messages.end(), "Start UnInit Video.C"), 1);
+}
+
+TEST(TheComponent, RunsOnWithoutAFrameworkAndEndsInOrderWithItsParent)
+{
+    ComponentRun run;
+    RunAndKillTheParent(run, run.Component() + " & wait");
+    EXPECT_THAT(run.LogMessages(), Contains("Failed to lpcclient::connectToServer. LastError: [1003]."));
+    EXPECT_THAT(run.LogMessages(), Contains("Failed to send. LastError: [1005]."));
 }
 
 TEST(TheComponent, EndsInOrderWhenItsFrameworkIsKilled)
 {
     ComponentRun run;
     const std::string script = run.Path() + "script.jsonl";
-    const std::string pidFile = run.Path() + "framework";
     std::ofstream(script) << kUntilReady << R"({"sleep_ms": 60000})";
-    std::ofstream(run.Path() + "start.sh")
-        << "echo $$ >" << pidFile << "; exec " << run.HostCommand(script) << "\n";
-    auto framework = std::async(std::launch::async, [&] { run.Shell("sh " + run.Path() + "start.sh"); });
-    EXPECT_TRUE(run.WaitForLog("APP Init Success", 30));
-    pid_t pid = 0;
-    std::ifstream(pidFile) >> pid;
-    ASSERT_GT(pid, 1);
-    ::kill(pid, SIGKILL);
-    framework.get();
-    EXPECT_TRUE(run.WaitUntilEnded(10));
-    EXPECT_THAT(run.MissingInOrder(Join({{"APP Init Success", "Start UnInit Video.C"}, kUnInit, kEnd})),
-                IsEmpty());
-    const auto messages = run.LogMessages();
-    EXPECT_EQ(std::count(messages.begin(), messages.end(), "Start UnInit Video.C"), 1);
+    RunAndKillTheParent(run, "exec " + run.HostCommand(script));
 }
 
 /// A component that runs under a framework while the test starts further ones beside it.
@@ -250,38 +209,21 @@ TEST_F(ASecondStart, EndsWithZeroAlsoWhenCrashReportsCannotBeSetUp)
 // What a process that starts without the framework's settings, or with fewer of them, makes of them.
 TEST(TheStartParameters, FallBackWhereTheyAreMissing)
 {
-    const struct
-    {
-        const char* arguments;
-        const char* line;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
         {"1 2 ''", "InitSysParameter:list-,skin-BlackRedSkin,lan-0,vers-0"},
         {"1 2 'GreyRedSkin 34'", "InitSysParameter:list-GreyRedSkin 34,skin-GreyRedSkin,lan-34,vers-0"},
         {"1 2 'BlueSkin x 7  9 9 9'", "InitSysParameter:list-BlueSkin x 7  9 9 9,skin-BlueSkin,lan-0,vers-7"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [arguments, line] : rows) {
         ComponentRun run;
-        const std::string command = run.Program() + " " + row.arguments;
+        const std::string command = run.Program() + " " + arguments;
         auto component = std::async(std::launch::async, [&] { return run.Shell(command); });
         EXPECT_TRUE(run.WaitForLog("APP Init Success", 20)) << command;
-        EXPECT_THAT(run.LogMessages(), Contains(row.line));
+        EXPECT_THAT(run.LogMessages(), Contains(line));
         run.Terminate();
         EXPECT_EQ(component.get(), 0) << command;
     }
-}
-
-// Layout files that can neither be read nor replaced do not stop the start.
-TEST(TheComponent, StartsWithLayoutFilesThatCannotBeRepaired)
-{
-    ComponentRun run;
-    for (const char* name : {"CustomWidgetLayout.xml", "WidgetLayout.xml"})
-        std::filesystem::create_directories(run.DataPath() + name + "/in the way");
-    ASSERT_EQ(run.Play(kUntilReady + kQuit), 0) << run.Output();
-    EXPECT_THAT(
-        run.MissingInOrder({"Failed to open maintain/CustomWidgetLayout.xml for write.",
-                            "Failed to copy maintain/CustomWidgetLayout.xml.", "LoadConfigFile Success."}),
-        IsEmpty());
 }
 
 TEST(TheComponent, RepairsDamagedLayoutFiles)
@@ -299,20 +241,9 @@ TEST(TheComponent, RepairsDamagedLayoutFiles)
 
 TEST(ThePages, SpeakTheLanguageOfTheStartParameters)
 {
-    const struct
-    {
-        const char* language;
-        const char* line;
-    } rows[] = {
-        {"1", "Made the page [MainView], titled [Main View]."},
-        {"3", "Made the page [MainView], titled [Hauptansicht]."},
-    };
-    for (const auto& row : rows) {
-        ComponentRun run;
-        EXPECT_EQ(run.PlayFile("window-handles.jsonl", std::string("--language ") + row.language), 0)
-            << run.Output();
-        EXPECT_THAT(run.LogMessages(), Contains(row.line));
-    }
+    ComponentRun run;
+    EXPECT_EQ(run.PlayFile("window-handles.jsonl", "--language 3"), 0) << run.Output();
+    EXPECT_THAT(run.LogMessages(), Contains("Made the page [MainView], titled [Hauptansicht]."));
 }
 
 // Notifications of the framework go to whoever registered for their type; others are dropped.

@@ -1,3 +1,4 @@
+#include "lpc/CallSeries.h"
 #include "lpc/Commands.h"
 
 #include "Base/GuidUtil.h"
@@ -8,7 +9,7 @@
 #include "lpc/json/Json.h"
 
 #include <condition_variable>
-#include <cstdlib>
+#include <fstream>
 #include <istream>
 #include <iterator>
 #include <mutex>
@@ -26,6 +27,11 @@ constexpr long kLongestTimeoutMs = 3600 * 1000;
 const std::vector<OptionSpec> kMessageOptions = {{"--name", Kind::Value},   {"--url", Kind::Value},
                                                  {"--method", Kind::Value}, {"--protocol", Kind::Value},
                                                  {"--body", Kind::Value},   {"--timeout", Kind::Value}};
+const std::vector<OptionSpec> kCallOptions = [] {
+    std::vector<OptionSpec> options = kMessageOptions;
+    options.insert(options.end(), {{"--bodies", Kind::Value}, {"--quiet", Kind::Flag}});
+    return options;
+}();
 const std::vector<OptionSpec> kWatchOptions = {{"--name", Kind::Value}, {"--count", Kind::Value}};
 
 /// The connection of this process to a framework, under a name that no other client has.
@@ -59,6 +65,8 @@ struct MessagePlan
     std::string serverName;
     lpc::Message message;
     long timeoutMs = 0;
+    std::string bodiesPath; ///< empty: there is one message
+    CCallSeries::Show show = CCallSeries::Show::Answers;
 };
 
 bool PlanBody(const COptions& options, std::istream& in, lpc::Message& message, std::string& error)
@@ -66,10 +74,10 @@ bool PlanBody(const COptions& options, std::istream& in, lpc::Message& message, 
     message.body = options.Value("--body");
     if (message.body == "-")
         message.body.assign(std::istreambuf_iterator<char>(in), {});
-    if (!options.Has("--body"))
+    if (!options.Has("--body") && !options.Has("--bodies"))
         return true;
     std::string fault;
-    if (!ParseJson(message.body, &fault)) {
+    if (options.Has("--body") && !ParseJson(message.body, &fault)) {
         error = "--body is " + fault;
         return false;
     }
@@ -77,9 +85,22 @@ bool PlanBody(const COptions& options, std::istream& in, lpc::Message& message, 
     return true;
 }
 
-bool PlanMessage(const Arguments& arguments, std::istream& in, MessagePlan& plan, std::string& error)
+bool PlanSeries(const COptions& options, MessagePlan& plan, std::string& error)
 {
-    const auto options = COptions::Parse(arguments, kMessageOptions, error);
+    plan.bodiesPath = options.Value("--bodies");
+    if (options.Has("--quiet"))
+        plan.show = CCallSeries::Show::Summary;
+    if (options.Has("--body") && options.Has("--bodies"))
+        error = "--body and --bodies exclude each other";
+    else if (options.Has("--quiet") && !options.Has("--bodies"))
+        error = "--quiet needs --bodies";
+    return error.empty();
+}
+
+bool PlanMessage(const Arguments& arguments, const std::vector<OptionSpec>& known, std::istream& in,
+                 MessagePlan& plan, std::string& error)
+{
+    const auto options = COptions::Parse(arguments, known, error);
     if (!options ||
         !options->Number("--timeout", 1, kLongestTimeoutMs, kDefaultTimeoutMs, plan.timeoutMs, error))
         return false;
@@ -95,13 +116,7 @@ bool PlanMessage(const Arguments& arguments, std::istream& in, MessagePlan& plan
         if (options->Has(std::string("--") + name))
             plan.message.headers[name] = options->Value(std::string("--") + name);
     plan.message.headers["timeout"] = std::to_string(plan.timeoutMs);
-    return PlanBody(*options, in, plan.message, error);
-}
-
-long NumberHeader(const lpc::Message& message, const char* name, long otherwise)
-{
-    const auto found = message.headers.find(name);
-    return found == message.headers.end() ? otherwise : std::strtol(found->second.c_str(), nullptr, 10);
+    return PlanSeries(*options, plan, error) && PlanBody(*options, in, plan.message, error);
 }
 
 /// Prints the answer's body; false, with a complaint, when the answer reports an error.
@@ -109,15 +124,10 @@ bool ShowAnswer(const lpc::Message& answer, std::ostream& out, std::ostream& err
 {
     if (!answer.body.empty())
         out << ToPrettyText(*BodyValue(answer.body)) << '\n';
-    const long status = NumberHeader(answer, lpc::kStatusHeader, 200);
-    const long error = NumberHeader(answer, lpc::kErrorCodeHeader, 0);
-    if (status >= 200 && status < 300 && error == 0)
-        return true;
-    err << "vantor-lpc: the answer reports status " << status;
-    if (error != 0)
-        err << " and error " << error;
-    err << '\n';
-    return false;
+    const std::string complaint = ComplaintAbout(answer);
+    if (!complaint.empty())
+        err << "vantor-lpc: " << complaint << '\n';
+    return complaint.empty();
 }
 
 bool Request(const lpc::Message& request, long timeoutMs, std::ostream& out, std::ostream& err)
@@ -162,16 +172,36 @@ private:
     bool m_over = false;
 };
 
+/// Opened before the connection: a pipe may be waited for without holding one.
+int RunSeries(const MessagePlan& plan, std::istream& in, std::ostream& out, std::ostream& err)
+{
+    std::ifstream file;
+    if (plan.bodiesPath != "-") {
+        file.open(plan.bodiesPath, std::ios::binary);
+        if (!file) {
+            err << "vantor-lpc call: cannot read " << plan.bodiesPath << '\n';
+            return kWrongUse;
+        }
+    }
+    const CConnection connection(plan.serverName, err);
+    if (!connection.Good())
+        return kFailed;
+    CCallSeries series(plan.message, static_cast<std::uint32_t>(plan.timeoutMs), plan.show, out, err);
+    return series.Run(plan.bodiesPath == "-" ? in : file);
+}
+
 } // namespace
 
 int RunCall(const Arguments& arguments, std::istream& in, std::ostream& out, std::ostream& err)
 {
     MessagePlan plan;
     std::string error;
-    if (!PlanMessage(arguments, in, plan, error)) {
+    if (!PlanMessage(arguments, kCallOptions, in, plan, error)) {
         err << "vantor-lpc call: " << error << '\n';
         return kWrongUse;
     }
+    if (!plan.bodiesPath.empty())
+        return RunSeries(plan, in, out, err);
     const CConnection connection(plan.serverName, err);
     return connection.Good() && Request(plan.message, plan.timeoutMs, out, err) ? kGood : kFailed;
 }
@@ -180,7 +210,7 @@ int RunNotify(const Arguments& arguments, std::istream& in, std::ostream&, std::
 {
     MessagePlan plan;
     std::string error;
-    if (!PlanMessage(arguments, in, plan, error)) {
+    if (!PlanMessage(arguments, kMessageOptions, in, plan, error)) {
         err << "vantor-lpc notify: " << error << '\n';
         return kWrongUse;
     }

@@ -52,15 +52,20 @@ objects may have more members, arrays may not have more elements. In what is sen
 
 constexpr const char* kCallHelp =
     R"(vantor-lpc call --url URL [--method M] [--protocol P] [--body JSON|-] [--timeout MS]
+vantor-lpc call --url URL [OPTION...] --bodies FILE|- [--quiet]
 
 Sends a request to the running framework, which passes it on to the component that serves the URL, and
-prints the answer's body. Fails when there is no answer or it reports an error.
+prints the answer's body. Fails when there is no answer or it reports an error. With --bodies it sends
+many, one after the other over one connection, and prints the answers' bodies one a line.
 
   --url URL       the route
   --method M      the HTTP method, or without a URL the method
   --protocol P    "http" when a URL is given, else none
   --body JSON     the body; "-" reads standard input
-  --timeout MS    how long to wait, 1 to 3600000 (5000)
+  --bodies FILE   one body a line; "-" reads standard input. Lines are sent as they come
+  --quiet         with --bodies: no answers, at the end one line with count, failures, seconds, and
+                  median_us and p99_us of the calls
+  --timeout MS    how long to wait for an answer, 1 to 3600000 (5000)
   --name NAME     the server's name, when it is not the framework's
 )";
 
@@ -68,7 +73,7 @@ constexpr const char* kNotifyHelp =
     R"(vantor-lpc notify --url URL [--method M] [--protocol P] [--body JSON|-]
 
 Sends a notification to the running framework. There is no answer: success means that it was sent.
-The options are those of vantor-lpc call.
+The options are those of vantor-lpc call for one request.
 )";
 
 constexpr const char* kWatchHelp =

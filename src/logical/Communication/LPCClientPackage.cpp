@@ -44,12 +44,12 @@ lpc::HeaderMap AnswerHeaders(const lpcclient::LPCCallBackData& call, const Route
     return headers;
 }
 
-std::string TooLongBody(std::size_t bytes)
+std::string TooLongBody()
 {
     protocol::CommonResponseData response;
     response.result.errorCode = lpc::kTooLong;
     response.message = Base::StringUtil::Format(
-        "The answer has %zu bytes; at most %zu can be sent. Ask for less.", bytes, lpc::kMaxBody);
+        "The answer is longer than the %zu bytes that can be sent. Ask for less.", lpc::kMaxBody);
     return protocol::WriteJSONStr(response);
 }
 
@@ -160,7 +160,7 @@ bool CLPCClientPackage::Answer(const lpcclient::LPCCallBackData& call, const Rou
         return true;
     if (lpcclient::GetLPCLastError() != lpc::kTooLong)
         return false;
-    const RouteAnswer tooLong{TooLongBody(answer.body.size()), kPayloadTooLarge, lpc::kTooLong};
+    const RouteAnswer tooLong{TooLongBody(), kPayloadTooLarge, lpc::kTooLong};
     return Reply({call.requestId, AnswerHeaders(call, tooLong), tooLong.body});
 }
 

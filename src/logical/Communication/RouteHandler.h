@@ -3,12 +3,14 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "logical/Communication/RouteTable.h"
 
+#include <string>
+#include <type_traits>
 #include <utility>
 
 namespace video {
 
-/// A handler of a route whose body holds the structure Body, and whose answer is the structure that work
-/// gives:
+/// A handler of a route whose body holds the structure Body, and whose answer is the structure, or the body
+/// of one, that work gives:
 ///
 ///     http.Bind(route::kLocalFileQuery, AnswerTo<LocalFileQuery>(answer, [&](const LocalFileQuery& query) {
 ///         return FilesOf(query);
@@ -20,7 +22,11 @@ LPCHandler AnswerTo(AnswerCall answer, Work work)
 {
     return [answer = std::move(answer), work = std::move(work)](const lpcclient::LPCCallBackData& call) {
         Body body;
-        if (protocol::TParseJSONStr(body, call.body))
+        if (!protocol::TParseJSONStr(body, call.body))
+            return;
+        if constexpr (std::is_same_v<decltype(work(body)), std::string>)
+            answer(call, {work(body)});
+        else
             answer(call, {protocol::WriteJSONStr(work(body))});
     };
 }

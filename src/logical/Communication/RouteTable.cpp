@@ -34,6 +34,15 @@ std::vector<std::string> CRouteTable::Names() const
     return names;
 }
 
+std::vector<std::string> CRouteTable::ServedNames() const
+{
+    std::vector<std::string> names;
+    for (const Row& row : m_rows)
+        if (row.handler)
+            names.push_back(row.name);
+    return names;
+}
+
 CRouteTable::Row& CRouteTable::RowOf(const std::string& name)
 {
     const auto row =

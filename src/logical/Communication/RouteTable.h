@@ -40,6 +40,8 @@ public:
 
     /// All names in the order in which the rows were added.
     std::vector<std::string> Names() const;
+    /// Those of them that have a handler.
+    std::vector<std::string> ServedNames() const;
 
 private:
     struct Row

@@ -2,6 +2,7 @@
 
 #include "Base/Log.h"
 #include "Base/RateLimit.h"
+#include "LPC_Wire/Limits.h"
 #include "Protocol/JSONStruct/HTTP/LocalFileJSONStruct.h"
 #include "logical/Communication/LPCNames.h"
 #include "logical/Communication/RouteHandler.h"
@@ -40,9 +41,22 @@ std::string PathOf(ILocalFile& files, const protocol::LocalFile& file)
                                              : files.GetPictureById(file.guid).FilePath;
 }
 
-LocalFileQueryItem ItemOf(const PictureFileRecord& record)
+template<typename Record>
+LocalFileQueryItem CommonItemOf(const Record& record)
 {
     LocalFileQueryItem item;
+    item.fileGuid = record.ID;
+    item.cameraGuid = record.CameraID;
+    item.groupGuid = record.GroupID;
+    item.fileName = record.FileName;
+    item.timeOccur.count = record.OccurTime;
+    item.filSize = record.FileSize;
+    return item;
+}
+
+LocalFileQueryItem ItemOf(const PictureFileRecord& record)
+{
+    LocalFileQueryItem item = CommonItemOf(record);
     item.type = LocalFileType::Picture;
     item.picFilePath = record.FilePath;
     return item;
@@ -50,7 +64,7 @@ LocalFileQueryItem ItemOf(const PictureFileRecord& record)
 
 LocalFileQueryItem ItemOf(const VideoFileRecord& record)
 {
-    LocalFileQueryItem item;
+    LocalFileQueryItem item = CommonItemOf(record);
     item.type = LocalFileType::Video;
     item.videoFilePath = record.FilePath;
     item.picFilePath = record.PicturePath;
@@ -59,35 +73,34 @@ LocalFileQueryItem ItemOf(const VideoFileRecord& record)
     return item;
 }
 
+/// The body of a "localFileQueryResult", written record by record: the tree of a long one would take ten
+/// times its memory. Ends with the first record that makes it too long to be sent.
 template<typename Record>
-protocol::LocalFileQueryResult ResultOf(const std::vector<Record>& records)
+std::string ResultBody(const std::vector<Record>& records)
 {
-    protocol::LocalFileQueryResult result;
-    result.files.reserve(records.size());
+    using protocol::json::Kind;
+    std::string body = std::string("{\"") + protocol::LocalFileQueryResult::kKey + "\":[";
     for (const Record& record : records) {
-        LocalFileQueryItem& item = result.files.emplace_back(ItemOf(record));
-        item.fileGuid = record.ID;
-        item.cameraGuid = record.CameraID;
-        item.groupGuid = record.GroupID;
-        item.fileName = record.FileName;
-        item.timeOccur.count = record.OccurTime;
-        item.filSize = record.FileSize;
+        if (&record != records.data())
+            body += ',';
+        body += protocol::json::PrintText(Kind<LocalFileQueryItem>::Write(ItemOf(record)).get());
+        if (body.size() > lpc::kMaxBody)
+            break;
     }
-    return result;
+    return body + "]}";
 }
 
 /// ofCamera and ofGroup are the catalogue's queries for one kind of record.
 template<typename Record, typename Query>
-protocol::LocalFileQueryResult FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query,
-                                       Query ofCamera, Query ofGroup)
+std::string FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query, Query ofCamera, Query ofGroup)
 {
     std::vector<Record> records;
     const Query ask = query.contition == LocalFileCondition::Group ? ofGroup : ofCamera;
     (files.*ask)(query.guid, query.timeBegin.count, query.timeEnd.count, records);
-    return ResultOf(records);
+    return ResultBody(records);
 }
 
-protocol::LocalFileQueryResult FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query)
+std::string FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query)
 {
     if (query.type == LocalFileType::Video)
         return FilesOf<VideoFileRecord>(files, query, &ILocalFile::QueryVideosOfCamera,

@@ -78,12 +78,12 @@ Record CSystemConfig::Settings() const
 
 void CSystemConfig::SetTogether(const std::function<void(Record&)>& change)
 {
-    const Record before = Settings();
-    ChangeAll(change);
-    const Record after = Settings();
-    const bool moved = before.videoSaveFolder != after.videoSaveFolder ||
-                       before.captureSaveFolder != after.captureSaveFolder;
-    const bool differed = Save(kApply);
+    bool moved = false;
+    const bool differed = ChangeAndSave(kApply, [&](Record& record) {
+        const vantor::SaveFolders before = FoldersOf(record);
+        change(record);
+        moved = moved || before.video != record.videoSaveFolder || before.capture != record.captureSaveFolder;
+    });
     if (moved)
         HandFolders();
     if (differed || moved)
@@ -112,31 +112,34 @@ void CSystemConfig::SetCaptureSaveFolder(const std::string& folder)
 
 void CSystemConfig::RestoreDefaults()
 {
-    ChangeAll([&](Record& record) { record = FreshRecord(m_defaultFolders); });
-    Save(kApply);
+    ChangeAndSave(kApply, [&](Record& record) { record = FreshRecord(m_defaultFolders); });
     HandFolders();
     m_announce();
 }
 
 void CSystemConfig::RestoreImageDefaults()
 {
-    ChangeAll(SetImageDefaults);
-    Save(kImagePage);
+    ChangeAndSave(kImagePage, SetImageDefaults);
 }
 
 void CSystemConfig::RestorePlaybackAndFileDefaults()
 {
-    ChangeAll(SetPlaybackAndFileDefaults);
-    Save(kPlaybackAndFilePages);
+    ChangeAndSave(kPlaybackAndFilePages, SetPlaybackAndFileDefaults);
 }
 
 void CSystemConfig::ApplyDraft()
 {
+    bool differed = false;
     {
-        const std::lock_guard<std::mutex> lock(m_mutex);
-        m_settled = m_working;
+        const std::lock_guard<std::mutex> saving(m_saveMutex);
+        {
+            const std::lock_guard<std::mutex> lock(m_mutex);
+            m_settled = m_working;
+        }
+        differed = SaveInTurn(kApply);
     }
-    SaveAndAnnounce(kApply);
+    if (differed)
+        m_announce();
 }
 
 void CSystemConfig::DiscardDraft()
@@ -152,9 +155,23 @@ void CSystemConfig::ChangeAll(const std::function<void(Record&)>& change)
     change(m_settled);
 }
 
+// In one turn, so that no other saver comes between, who would save the change under its own rule and tell
+// fewer observers.
+bool CSystemConfig::ChangeAndSave(const SaveRule& rule, const std::function<void(Record&)>& change)
+{
+    const std::lock_guard<std::mutex> saving(m_saveMutex);
+    ChangeAll(change);
+    return SaveInTurn(rule);
+}
+
 bool CSystemConfig::Save(const SaveRule& rule)
 {
     const std::lock_guard<std::mutex> saving(m_saveMutex);
+    return SaveInTurn(rule);
+}
+
+bool CSystemConfig::SaveInTurn(const SaveRule& rule)
+{
     Record record;
     Record saved;
     {

@@ -181,7 +181,10 @@ private:
     void DiscardDraft();
 
     void ChangeAll(const std::function<void(Record&)>& change);
+    bool ChangeAndSave(const SaveRule& rule, const std::function<void(Record&)>& change);
     bool Save(const SaveRule& rule);
+    /// The caller holds m_saveMutex. Whether the settings differed.
+    bool SaveInTurn(const SaveRule& rule);
     void SaveAndAnnounce(const SaveRule& rule);
     bool WriteRow(const Record& record, bool bracketed);
     void PostDifferences(const Record& record, const Record& saved, Tell tell);

@@ -2,6 +2,7 @@
 
 #include "VantorGUIToolkit/Toolkit.h"
 #include "support/CapturedLog.h"
+#include "support/CapturedQtLog.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -13,30 +14,6 @@
 using VantorGUIToolkit::CToolkit;
 
 namespace {
-
-/// Keeps what goes to Qt's own log.
-class CapturedQtLog
-{
-public:
-    CapturedQtLog()
-    {
-        Lines().clear();
-        m_former = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-            if (type == QtWarningMsg)
-                Lines().push_back(text.toStdString());
-        });
-    }
-    ~CapturedQtLog() { qInstallMessageHandler(m_former); }
-
-    static std::vector<std::string>& Lines()
-    {
-        static std::vector<std::string> lines;
-        return lines;
-    }
-
-private:
-    QtMessageHandler m_former;
-};
 
 /// A toolkit that finds its packages in a folder of the test.
 class TheLook : public testing::Test
@@ -68,31 +45,27 @@ protected:
     CToolkit kit;
 };
 
-TEST_F(TheLook, TellsOfEveryPackageThatIsMissing)
+TEST_F(TheLook, LoadsThePackagesOfTheSkinAndTellsOfThoseThatAreMissing)
 {
-    video::CApplicationLook(kit, "BlueSkin", 1).LoadSkin();
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
-              (std::vector<std::string>{"fail to load VantorGUIToolKitBlackRedSkin.",
-                                        "Failed to load ClientCommSkin."}));
-    EXPECT_EQ(qtLog.Lines(), (std::vector<std::string>{QtLine("VantorGUIToolKitBlueSkin.rcc", " failed"),
-                                                       QtLine("ClientCommon.rcc", " failed"),
-                                                       QtLine("Video.C.rcc", " failed")}));
-}
-
-TEST_F(TheLook, LoadsThePackagesOfTheSkin)
-{
-    const std::vector<std::string> packages = {"VantorGUIToolKitBlueSkin.rcc", "ClientCommon.rcc",
-                                               "Video.C.rcc"};
-    std::vector<std::string> told;
-    for (const std::string& package : packages) {
-        AddPackage(package);
-        told.push_back(QtLine(package, " Success"));
+    std::vector<std::string> missed;
+    std::vector<std::string> loaded;
+    for (const char* package : {"VantorGUIToolKitBlueSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"}) {
+        missed.push_back(QtLine(package, " failed"));
+        loaded.push_back(QtLine(package, " Success"));
     }
+    video::CApplicationLook(kit, "BlueSkin", 1).LoadSkin();
+    EXPECT_EQ(log.Errors(), (std::vector<std::string>{"fail to load VantorGUIToolKitBlackRedSkin.",
+                                                      "Failed to load ClientCommSkin."}));
+    EXPECT_EQ(qtLog.Lines(), missed);
+
+    qtLog.Lines().clear();
+    for (const char* package : {"VantorGUIToolKitBlueSkin.rcc", "ClientCommon.rcc", "Video.C.rcc"})
+        AddPackage(package);
     video::CApplicationLook(kit, "BlueSkin", 1).LoadSkin();
     EXPECT_EQ(log.Messages(Base::LogLevel::Info),
               (std::vector<std::string>{"success to load VantorGUIToolKitBlackRedSkin.",
                                         "success to load ClientCommSkin."}));
-    EXPECT_EQ(qtLog.Lines(), told);
+    EXPECT_EQ(qtLog.Lines(), loaded);
     EXPECT_EQ(kit.skinPackages().size(), 3);
 }
 

@@ -56,8 +56,7 @@ TEST_F(TheCrashSetup, LogsAFolderThatCannotBeUsedAndGoesOn)
     std::filesystem::remove(dumpPath);
     std::ofstream(dumpPath.substr(0, dumpPath.size() - 1)) << "in the way";
     video::crashAPIInit();
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error),
-              std::vector<std::string>{"Failed to CrashAPI_SetDumpPath [" + dumpPath + "]."});
+    EXPECT_EQ(log.Errors(), std::vector<std::string>{"Failed to CrashAPI_SetDumpPath [" + dumpPath + "]."});
 }
 
 } // namespace

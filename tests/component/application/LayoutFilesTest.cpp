@@ -14,7 +14,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr const char* kSound = "<Config><Page/></Config>";
-constexpr const char* kBroken = "<Config><Page>";
 
 std::optional<std::string> Content(const std::string& path)
 {
@@ -30,6 +29,12 @@ struct Folders
         fs::create_directories(data);
         fs::create_directories(program + "WidgetLayout");
         fs::copy_file(DEFAULT_WIDGET_LAYOUT, original);
+    }
+
+    void Fill(const char* content) const
+    {
+        for (const std::string& file : {custom, layout})
+            ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(file, content));
     }
 
     void Check() const
@@ -50,8 +55,7 @@ struct Folders
 TEST(TheLayoutFiles, AreLeftAloneWhenTheyLoad)
 {
     Folders folders;
-    ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(folders.custom, kSound));
-    ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(folders.layout, kSound));
+    folders.Fill(kSound);
     folders.Check();
     EXPECT_EQ(Content(folders.custom), kSound);
     EXPECT_EQ(Content(folders.layout), kSound);
@@ -60,14 +64,13 @@ TEST(TheLayoutFiles, AreLeftAloneWhenTheyLoad)
 
 TEST(TheLayoutFiles, AreMadeAnewWhenTheyAreBroken)
 {
-    for (const char* broken : {kBroken, "", "no XML"}) {
+    for (const char* broken : {"<Config><Page>", "", "no XML"}) {
         Folders folders;
-        ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(folders.custom, broken));
-        ASSERT_TRUE(Base::FileUtil::WriteFileAtomically(folders.layout, broken));
+        folders.Fill(broken);
         folders.Check();
         EXPECT_EQ(Content(folders.custom), "<Config/>") << broken;
         EXPECT_EQ(Content(folders.layout), Content(folders.original)) << broken;
-        EXPECT_TRUE(folders.log.Messages(Base::LogLevel::Error).empty()) << broken;
+        EXPECT_TRUE(folders.log.Errors().empty()) << broken;
     }
 }
 
@@ -86,7 +89,7 @@ TEST(ARepairThatFails, IsLogged)
     fs::create_directories(folders.custom + "/in the way");
     fs::remove(folders.original);
     folders.Check();
-    EXPECT_EQ(folders.log.Messages(Base::LogLevel::Error),
+    EXPECT_EQ(folders.log.Errors(),
               (std::vector<std::string>{"Failed to open maintain/CustomWidgetLayout.xml for write.",
                                         "Failed to copy maintain/CustomWidgetLayout.xml."}));
 }

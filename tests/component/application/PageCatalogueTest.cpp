@@ -7,7 +7,6 @@
 #include "WndIdManager.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QLabel>
 
@@ -62,24 +61,19 @@ bool Shows(const QWidget& page, const QString& text)
 
 TEST(APageThatIsNotAvailable, SaysSoUnderItsTitleInTheUsersLanguage)
 {
-    const struct
-    {
-        int language;
-        const char* title;
-        const char* sentence;
-    } rows[] = {
+    const std::tuple<int, const char*, const char*> rows[] = {
         {VantorGUIToolkit::English, "Alarm Outputs", "This page is not available yet."},
         {VantorGUIToolkit::German, "Alarmausgänge", "Diese Seite ist noch nicht verfügbar."},
         {VantorGUIToolkit::Arabic, "مخارج الإنذار", "هذه الصفحة غير متاحة بعد."},
     };
-    for (const auto& row : rows) {
+    for (const auto& [language, title, sentence] : rows) {
         VantorGUIToolkit::CToolkit toolkit;
-        ASSERT_TRUE(toolkit.loadTranslations(BUILT_TRANSLATIONS, row.language));
+        ASSERT_TRUE(toolkit.loadTranslations(BUILT_TRANSLATIONS, language));
         const auto page = video::MakePage("AlarmOutput");
         ASSERT_TRUE(page);
-        EXPECT_EQ(page->windowTitle().toStdString(), row.title);
-        EXPECT_TRUE(Shows(*page, row.title)) << row.title;
-        EXPECT_TRUE(Shows(*page, row.sentence)) << row.sentence;
+        EXPECT_EQ(page->windowTitle().toStdString(), title);
+        EXPECT_TRUE(Shows(*page, title)) << title;
+        EXPECT_TRUE(Shows(*page, sentence)) << sentence;
     }
 }
 

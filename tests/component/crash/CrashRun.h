@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -8,14 +9,7 @@
 #include <sys/wait.h>
 
 #include <algorithm>
-#include <fstream>
 #include <vector>
-
-inline std::string Get(const std::filesystem::path& path)
-{
-    std::ifstream file(path);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
 
 struct Child
 {
@@ -87,7 +81,7 @@ protected:
     {
         const auto reports = Reports();
         EXPECT_EQ(reports.size(), 1u);
-        return reports.empty() ? std::string() : Get(reports.front());
+        return reports.empty() ? std::string() : FileContent(reports.front());
     }
 
     TestDataRoot m_data;

@@ -2,7 +2,6 @@
 #include "component/crash/CrashRun.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <ctime>

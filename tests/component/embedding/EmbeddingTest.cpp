@@ -134,28 +134,11 @@ protected:
         ClickInGuest(widget);
         ASSERT_TRUE(WaitUntil([&] { return m_user.Popups().size() == 1; }));
         const Window popup = m_user.Popups().front();
-        EXPECT_TRUE(WaitUntil([&] { return Touches(m_user.AreaOf(popup), place); }))
+        EXPECT_TRUE(WaitUntil([&] { return place && IsBeside(m_user.AreaOf(popup), *place); }))
             << GetParam().name << ": popup of " << widget.toStdString() << " at "
             << Text(m_user.AreaOf(popup)) << ", not at " << Text(place);
         m_user.Press(PointerAndKeys::Escape);
         EXPECT_TRUE(WaitUntil([&] { return m_user.Popups().empty(); }));
-    }
-
-    /// A popup opens over or directly below its widget, with their left edges together; a frame may stick
-    /// out.
-    static bool Touches(const std::optional<Area>& popup, const std::optional<Area>& widget)
-    {
-        constexpr int kFrame = 8;
-        return popup && widget && std::abs(popup->x - widget->x) <= kFrame &&
-               popup->y <= widget->y + widget->height + kFrame &&
-               popup->y + popup->height >= widget->y - kFrame;
-    }
-
-    static std::string Text(const std::optional<Area>& area)
-    {
-        return area ? std::to_string(area->x) + "," + std::to_string(area->y) + " " +
-                          std::to_string(area->width) + "x" + std::to_string(area->height)
-                    : "nowhere";
     }
 
     TestDataRoot m_root;

@@ -11,7 +11,6 @@
 #include <QPushButton>
 #include <QSocketNotifier>
 #include <QTabWidget>
-#include <QTextStream>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -87,14 +86,12 @@ public:
         auto* menu = new QPushButton("Menu");
         menu->setObjectName("menu");
         menu->setMenu(new QMenu(menu));
-        menu->menu()->addAction("Entry", [] { Say("entry"); });
+        menu->menu()->addAction("Entry");
         layout->addWidget(button);
         layout->addWidget(combo);
         layout->addWidget(menu);
         layout->addStretch();
         QObject::connect(button, &QPushButton::clicked, [] { Say("clicked"); });
-        QObject::connect(combo, qOverload<int>(&QComboBox::activated),
-                         [](int row) { Say(QString("chosen %1").arg(row)); });
         QObject::connect(&m_watch, &embedding::CGuestWindow::WindowLost, [] { Say("lost"); });
         SayWindow();
     }

@@ -25,7 +25,6 @@ TEST(WithoutWindowSystem, EmbeddingIsRefusedWithOneLineAndNothingElseHappens)
     QApplication::processEvents();
     EXPECT_TRUE(page.isVisible());
     EXPECT_EQ(embedding::CGuestWindow::Of(&page), &guest);
-    EXPECT_EQ(
-        log.Messages(Base::LogLevel::Error),
-        std::vector<std::string>{"Windows of other processes cannot be embedded without a window system."});
+    EXPECT_EQ(log.Errors(), std::vector<std::string>{
+                                "Windows of other processes cannot be embedded without a window system."});
 }

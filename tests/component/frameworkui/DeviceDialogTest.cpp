@@ -3,7 +3,6 @@
 #include "support/TestDataRoot.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -25,36 +24,28 @@ DeviceEntry GoodEntry()
 
 TEST(DeviceForm, SaysWhichFieldsCannotBeTaken)
 {
-    struct Row
-    {
-        const char* name;
-        const char* address;
-        const char* user;
-        std::vector<DeviceField> wrong;
-    };
-    const std::string tooLong(65, 'x');
-    const Row rows[] = {
+    const std::tuple<std::string, const char*, const char*, std::vector<DeviceField>> rows[] = {
         {"Gate", "192.0.2.10", "admin", {}},
         {"Gate", "camera-3.site.example", "admin", {}},
         {"Gate", "2001:db8::7", "admin", {}},
         {"", "", "", {DeviceField::Name, DeviceField::Address, DeviceField::UserName}},
         {"Taken", "192.0.2.10", "admin", {DeviceField::Name}},
-        {tooLong.c_str(), "192.0.2.10", "admin", {DeviceField::Name}},
+        {std::string(65, 'x'), "192.0.2.10", "admin", {DeviceField::Name}},
         {"Gate", "192.0.2.300", "admin", {DeviceField::Address}},
         {"Gate", "192.0.2", "admin", {DeviceField::Address}},
         {"Gate", "a b", "admin", {DeviceField::Address}},
         {"Gate", "-gate", "admin", {DeviceField::Address}},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(std::string(row.name) + " at " + row.address);
+    for (const auto& [name, address, user, fields] : rows) {
+        SCOPED_TRACE(name + " at " + address);
         DeviceEntry entry = GoodEntry();
-        entry.name = row.name;
-        entry.address = row.address;
-        entry.userName = row.user;
+        entry.name = name;
+        entry.address = address;
+        entry.userName = user;
         std::vector<DeviceField> wrong;
         for (const auto& error : CheckDevice(entry, {"Taken"}))
             wrong.push_back(error.first);
-        EXPECT_EQ(wrong, row.wrong);
+        EXPECT_EQ(wrong, fields);
     }
 }
 
@@ -70,13 +61,14 @@ TEST_F(DeviceDialogTest, AddsTheDeviceOnlyWhenTheFieldsAreRight)
 {
     CDeviceDialog dialog(resources, {}, nullptr);
     auto* apply = dialog.findChild<QPushButton*>("apply");
+    auto* name = dialog.findChild<QLineEdit*>("deviceName");
     apply->click();
     EXPECT_NE(dialog.result(), QDialog::Accepted);
-    EXPECT_TRUE(dialog.findChild<QLineEdit*>("deviceName")->property("invalid").toBool());
+    EXPECT_TRUE(name->property("invalid").toBool());
     EXPECT_THAT(resources.Devices(), IsEmpty());
 
-    dialog.findChild<QLineEdit*>("deviceName")->setText("Gate");
-    EXPECT_FALSE(dialog.findChild<QLineEdit*>("deviceName")->property("invalid").toBool());
+    name->setText("Gate");
+    EXPECT_FALSE(name->property("invalid").toBool());
     dialog.findChild<QLineEdit*>("deviceAddress")->setText("192.0.2.10");
     dialog.findChild<QLineEdit*>("deviceUser")->setText("admin");
     dialog.findChild<QLineEdit*>("devicePassword")->setText("secret");

@@ -3,7 +3,6 @@
 #include "framework/ui/shell/TabArea.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QPushButton>
 

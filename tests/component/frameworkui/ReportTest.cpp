@@ -1,6 +1,7 @@
 #include "framework/ui/parts/Report.h"
 
 #include "framework/ui/parts/WindowMemory.h"
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -21,9 +22,7 @@ TEST(Report, WritesEachHappeningAsALineAtOnce)
     ASSERT_TRUE(report.Open(path));
     report.Tell("tab", {{"name", "Zeile\n2"}, {"rect", ToJSON(QRect(1, 2, 3, 4))}});
     report.Tell("ended");
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QList<QByteArray> lines = file.readAll().split('\n');
+    const auto lines = QByteArray::fromStdString(FileContent(path.toStdString())).split('\n');
     ASSERT_EQ(lines.size(), 3);
     const QJsonObject tab = QJsonDocument::fromJson(lines[0]).object();
     EXPECT_EQ(tab["event"].toString(), "tab");
@@ -55,10 +54,7 @@ TEST(WindowMemory, ComesBackAndADamagedOneIsAsAtTheFirstStart)
     EXPECT_EQ(again.currentTab, "MainView");
     EXPECT_EQ(again.closedGroups, memory.closedGroups);
     EXPECT_EQ(again.unread, memory.unread);
-    QFile file(QString::fromStdString(path));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("{\"window\":{\"tabs\":3");
-    file.close();
+    std::ofstream(path) << "{\"window\":{\"tabs\":3";
     EXPECT_TRUE(WindowMemory::Load(path).tabs.empty());
 }
 

@@ -1,7 +1,6 @@
 #include "framework/ui/shell/TabSession.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace framework;
 using testing::ElementsAre;
@@ -10,7 +9,7 @@ using testing::IsEmpty;
 namespace {
 
 /// A component and a view that write down in one list what is asked of them.
-struct TabWorld : IComponentWindows, ITabView
+struct TabSession : testing::Test, IComponentWindows, ITabView
 {
     std::vector<std::string> calls;
     std::vector<Answer> questions;
@@ -42,7 +41,7 @@ struct TabWorld : IComponentWindows, ITabView
         session.OnComponentState(next);
     }
     void AnswerLast(std::optional<ComponentWindow> window) { questions.back()(window); }
-    void OpenAndEmbed(quint64 wnd)
+    void OpenAndEmbed(quint64 wnd = 7)
     {
         session.Open();
         AnswerLast(ComponentWindow{wnd});
@@ -50,123 +49,105 @@ struct TabWorld : IComponentWindows, ITabView
     }
 };
 
-TEST(TabSession, EmbedsBeforeItShows)
+TEST_F(TabSession, EmbedsBeforeItShows)
 {
-    TabWorld world;
-    world.session.Open();
-    world.AnswerLast(ComponentWindow{7, false});
-    EXPECT_THAT(world.calls, ElementsAre("ask", "embed 7", "show MainView"));
-    EXPECT_EQ(world.session.State(), TabState::Embedded);
-    EXPECT_FALSE(world.session.IsAvailable());
+    session.Open();
+    AnswerLast(ComponentWindow{7, false});
+    EXPECT_THAT(calls, ElementsAre("ask", "embed 7", "show MainView"));
+    EXPECT_EQ(session.State(), TabState::Embedded);
+    EXPECT_FALSE(session.IsAvailable());
 }
 
-TEST(TabSession, GivesTheWindowBackBeforeItTellsTheComponent)
+TEST_F(TabSession, GivesTheWindowBackBeforeItTellsTheComponent)
 {
-    TabWorld world;
-    world.OpenAndEmbed(7);
-    world.session.Close();
-    world.session.Close();
-    EXPECT_THAT(world.calls, ElementsAre("release", "removed MainView"));
+    OpenAndEmbed();
+    session.Close();
+    session.Close();
+    EXPECT_THAT(calls, ElementsAre("release", "removed MainView"));
 }
 
-TEST(TabSession, ComesBackAfterTheComponentWasRestarted)
+TEST_F(TabSession, ComesBackAfterTheComponentWasRestarted)
 {
-    TabWorld world;
-    world.OpenAndEmbed(7);
-    world.Enter(ComponentState::Waiting);
-    EXPECT_EQ(world.session.State(), TabState::Ended);
-    world.Enter(ComponentState::Starting);
-    EXPECT_EQ(world.session.State(), TabState::Ended);
-    world.Enter(ComponentState::Ready);
-    world.AnswerLast(ComponentWindow{8});
-    EXPECT_THAT(world.calls, ElementsAre("release", "ask", "embed 8", "show MainView"));
+    OpenAndEmbed();
+    Enter(ComponentState::Waiting);
+    EXPECT_EQ(session.State(), TabState::Ended);
+    Enter(ComponentState::Starting);
+    EXPECT_EQ(session.State(), TabState::Ended);
+    Enter(ComponentState::Ready);
+    AnswerLast(ComponentWindow{8});
+    EXPECT_THAT(calls, ElementsAre("release", "ask", "embed 8", "show MainView"));
 }
 
-TEST(TabSession, AsksOnceWhenTheNewsOfTheReadyComponentComesAfterTheTabWasOpened)
+TEST_F(TabSession, AsksOnceWhenTheNewsOfTheReadyComponentComesAfterTheTabWasOpened)
 {
-    TabWorld world;
-    world.session.Open();
-    world.Enter(ComponentState::Ready);
-    EXPECT_THAT(world.calls, ElementsAre("ask"));
+    session.Open();
+    Enter(ComponentState::Ready);
+    EXPECT_THAT(calls, ElementsAre("ask"));
 }
 
-TEST(TabSession, WaitsForAComponentThatIsAboutToStart)
+TEST_F(TabSession, WaitsForAComponentThatIsAboutToStart)
 {
-    TabWorld world;
-    world.OpenAndEmbed(7);
-    world.Enter(ComponentState::Stopped);
-    EXPECT_EQ(world.session.State(), TabState::Loading);
-    world.Enter(ComponentState::Starting);
-    world.Enter(ComponentState::Ready);
-    EXPECT_THAT(world.calls, ElementsAre("release", "release", "ask"));
+    OpenAndEmbed();
+    Enter(ComponentState::Stopped);
+    EXPECT_EQ(session.State(), TabState::Loading);
+    Enter(ComponentState::Starting);
+    Enter(ComponentState::Ready);
+    EXPECT_THAT(calls, ElementsAre("release", "release", "ask"));
 }
 
-TEST(TabSession, IgnoresAnswersThatComeTooLate)
+TEST_F(TabSession, IgnoresAnswersThatComeTooLate)
 {
-    TabWorld world;
-    world.session.Open();
-    world.Enter(ComponentState::Waiting);
-    world.Enter(ComponentState::Ready);
-    world.calls.clear();
-    world.questions[0](ComponentWindow{7});
-    EXPECT_THAT(world.calls, IsEmpty());
-    world.session.Close();
-    world.calls.clear();
-    world.questions[1](ComponentWindow{8});
-    EXPECT_THAT(world.calls, IsEmpty());
+    session.Open();
+    Enter(ComponentState::Waiting);
+    Enter(ComponentState::Ready);
+    calls.clear();
+    questions[0](ComponentWindow{7});
+    EXPECT_THAT(calls, IsEmpty());
+    session.Close();
+    calls.clear();
+    questions[1](ComponentWindow{8});
+    EXPECT_THAT(calls, IsEmpty());
 }
 
-TEST(TabSession, AnAnswerAfterItsEndIsHarmless)
+TEST_F(TabSession, AnAnswerAfterItsEndIsHarmless)
 {
-    IComponentWindows::Answer answer;
     {
-        TabWorld world;
-        world.session.Open();
-        answer = world.questions[0];
+        CTabSession brief("MainView", *this, *this);
+        brief.Open();
     }
-    answer(ComponentWindow{7});
+    AnswerLast(ComponentWindow{7});
+    EXPECT_THAT(calls, ElementsAre("ask"));
 }
 
-TEST(TabSession, OffersAnotherTryWhereThereIsNoWindow)
+TEST_F(TabSession, OffersAnotherTryWhereThereIsNoWindow)
 {
-    struct Row
-    {
-        const char* what;
-        std::optional<ComponentWindow> window;
-        bool embeds;
-    };
-    for (const Row& row :
-         {Row{"no answer", std::nullopt, true}, Row{"not embedded", ComponentWindow{7}, false}}) {
-        SCOPED_TRACE(row.what);
-        TabWorld world;
-        world.embeds = row.embeds;
-        world.session.Open();
-        world.AnswerLast(row.window);
-        EXPECT_EQ(world.session.State(), TabState::NoWindow);
-        world.embeds = true;
-        world.session.Retry();
-        world.AnswerLast(ComponentWindow{9});
-        EXPECT_EQ(world.session.State(), TabState::Embedded);
+    embeds = false;
+    session.Open();
+    for (const auto& window : {std::optional<ComponentWindow>(), std::optional(ComponentWindow{7})}) {
+        AnswerLast(window);
+        EXPECT_EQ(session.State(), TabState::NoWindow);
+        session.Retry();
     }
+    embeds = true;
+    AnswerLast(ComponentWindow{9});
+    EXPECT_EQ(session.State(), TabState::Embedded);
 }
 
-TEST(TabSession, StartsTheComponentThatWasGivenUpWhenTheUserWants)
+TEST_F(TabSession, StartsTheComponentThatWasGivenUpWhenTheUserWants)
 {
-    TabWorld world;
-    world.OpenAndEmbed(7);
-    world.Enter(ComponentState::GivenUp);
-    EXPECT_EQ(world.session.State(), TabState::GivenUp);
-    world.session.Retry();
-    EXPECT_THAT(world.calls, ElementsAre("release", "start"));
-    EXPECT_EQ(world.session.State(), TabState::Loading);
+    OpenAndEmbed();
+    Enter(ComponentState::GivenUp);
+    EXPECT_EQ(session.State(), TabState::GivenUp);
+    session.Retry();
+    EXPECT_THAT(calls, ElementsAre("release", "start"));
+    EXPECT_EQ(session.State(), TabState::Loading);
 }
 
-TEST(TabSession, AsksAnewWhenTheComponentDestroyedItsWindow)
+TEST_F(TabSession, AsksAnewWhenTheComponentDestroyedItsWindow)
 {
-    TabWorld world;
-    world.OpenAndEmbed(7);
-    world.session.OnGuestLost();
-    EXPECT_THAT(world.calls, ElementsAre("release", "ask"));
+    OpenAndEmbed();
+    session.OnGuestLost();
+    EXPECT_THAT(calls, ElementsAre("release", "ask"));
 }
 
 } // namespace

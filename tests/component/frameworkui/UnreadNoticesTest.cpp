@@ -3,7 +3,6 @@
 #include "framework/core/Journal.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 using namespace framework;
 using testing::ElementsAre;

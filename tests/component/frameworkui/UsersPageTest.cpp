@@ -30,17 +30,14 @@ struct UsersPageTest : testing::Test
         auto* list = page.findChild<QListWidget*>("userList");
         list->setCurrentItem(list->findItems(user, Qt::MatchExactly).value(0));
     }
-    const User* Find(const std::string& name)
+    /// The user; one without rights when there is none.
+    User Find(const std::string& name)
     {
-        m_all = users.All();
-        for (const User& user : m_all)
+        for (const User& user : users.All())
             if (user.name == name)
-                return &user;
-        return nullptr;
+                return user;
+        return {};
     }
-
-private:
-    std::vector<User> m_all;
 };
 
 TEST_F(UsersPageTest, AddsAUserWithRightsAndPassword)
@@ -50,9 +47,7 @@ TEST_F(UsersPageTest, AddsAUserWithRightsAndPassword)
     Type("userPassword", "moon");
     Check(permission::kPlayback, true);
     Press("saveUser");
-    const User* added = Find("night shift");
-    ASSERT_NE(added, nullptr);
-    EXPECT_EQ(added->permissions, std::vector<std::string>{permission::kPlayback});
+    EXPECT_EQ(Find("night shift").permissions, std::vector<std::string>{permission::kPlayback});
     EXPECT_TRUE(users.Login("night shift", "moon"));
 }
 
@@ -62,7 +57,7 @@ TEST_F(UsersPageTest, DoesNotReplaceAUserWhoseNameIsTaken)
     Type("userName", "guest");
     Press("saveUser");
     EXPECT_TRUE(page.findChild<QLineEdit*>("userName")->property("invalid").toBool());
-    EXPECT_TRUE(Find("guest")->May(permission::kLiveView));
+    EXPECT_TRUE(Find("guest").May(permission::kLiveView));
 }
 
 TEST_F(UsersPageTest, KeepsThePasswordThatIsNotTypedAnew)
@@ -73,7 +68,7 @@ TEST_F(UsersPageTest, KeepsThePasswordThatIsNotTypedAnew)
     Choose("guest");
     Check(permission::kPlayback, true);
     Press("saveUser");
-    EXPECT_TRUE(Find("guest")->May(permission::kPlayback));
+    EXPECT_TRUE(Find("guest").May(permission::kPlayback));
     EXPECT_TRUE(users.Login("guest", "door"));
 }
 
@@ -82,7 +77,7 @@ TEST_F(UsersPageTest, TheLastManagerOfUsersStays)
     Choose("admin");
     Check(permission::kUsers, false);
     Press("saveUser");
-    EXPECT_TRUE(Find("admin")->May(permission::kUsers));
+    EXPECT_TRUE(Find("admin").May(permission::kUsers));
 }
 
 } // namespace

@@ -1,10 +1,9 @@
 #include "VantorGUIToolkit/GenericDataSet.h"
 #include "support/CapturedLog.h"
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
-
-#include <QFile>
 
 #include <set>
 
@@ -28,13 +27,6 @@ QByteArray Comment(std::size_t bytes)
     const QByteArray frame = "<r><!---->"
                              "</r>";
     return "<r><!--" + QByteArray(static_cast<int>(bytes) - frame.size(), 'x') + "--></r>";
-}
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return file.readAll();
 }
 
 } // namespace
@@ -66,11 +58,7 @@ TEST(GenericDataSet, GivesElementsAttributesAndTexts)
 
 TEST(GenericDataSet, TakesWhatIsJustWithinTheLimits)
 {
-    const struct
-    {
-        const char* name;
-        QByteArray content;
-    } rows[] = {
+    const std::pair<const char*, QByteArray> rows[] = {
         {"the smallest", "<Config/>"},
         {"the deepest", Nested(CGenericDataSet::kMaxDepth)},
         {"the most elements", Many(CGenericDataSet::kMaxElements)},
@@ -79,21 +67,16 @@ TEST(GenericDataSet, TakesWhatIsJustWithinTheLimits)
         {"sixteen bits a letter", QByteArray("\xFF\xFE<\0C\0/\0>\0", 10)},
         {"Latin-1", "<?xml version='1.0' encoding='ISO-8859-1'?><C>\xE4</C>"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, content] : rows) {
         CGenericDataSet set;
-        EXPECT_TRUE(set.loadContent(row.content, row.name)) << row.name;
-        EXPECT_FALSE(set.root().name.empty()) << row.name;
+        EXPECT_TRUE(set.loadContent(content, name)) << name;
+        EXPECT_FALSE(set.root().name.empty()) << name;
     }
 }
 
 TEST(GenericDataSet, RefusesBadContentWithOneLineAndKeepsNothing)
 {
-    const struct
-    {
-        const char* name;
-        QByteArray content;
-        const char* reason;
-    } rows[] = {
+    const std::tuple<const char*, QByteArray, const char*> rows[] = {
         {"nothing", "", "empty"},
         {"blanks", "  \n ", "line"},
         {"no mark-up", "Config", "line 1"},
@@ -117,18 +100,17 @@ TEST(GenericDataSet, RefusesBadContentWithOneLineAndKeepsNothing)
         {"too many elements", Many(CGenericDataSet::kMaxElements + 1), "elements"},
         {"too large", Comment(CGenericDataSet::kMaxBytes + 1), "larger"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, content, reason] : rows) {
         CGenericDataSet set;
         ASSERT_TRUE(set.loadContent("<Config><Page/></Config>", "before"));
         CapturedLog log;
-        EXPECT_FALSE(set.loadContent(row.content, row.name)) << row.name;
-        EXPECT_TRUE(set.root().name.empty()) << row.name;
-        EXPECT_TRUE(set.root().children.empty()) << row.name;
+        EXPECT_FALSE(set.loadContent(content, name)) << name;
+        EXPECT_TRUE(set.root().name.empty()) << name;
+        EXPECT_TRUE(set.root().children.empty()) << name;
         const auto lines = log.Lines();
-        ASSERT_EQ(lines.size(), 1U) << row.name;
-        EXPECT_NE(lines[0].message.find(row.name), std::string::npos) << lines[0].message;
-        EXPECT_NE(lines[0].message.find(row.reason), std::string::npos)
-            << row.name << ": " << lines[0].message;
+        ASSERT_EQ(lines.size(), 1U) << name;
+        EXPECT_NE(lines[0].message.find(name), std::string::npos) << lines[0].message;
+        EXPECT_NE(lines[0].message.find(reason), std::string::npos) << name << ": " << lines[0].message;
     }
 }
 
@@ -143,7 +125,7 @@ TEST(GenericDataSet, RefusesPathsThatAreNoFile)
 
 TEST(GenericDataSet, EveryCutOfTheDefaultLayoutIsRefused)
 {
-    const QByteArray layout = ReadAll(DEFAULT_WIDGET_LAYOUT).trimmed();
+    const QByteArray layout = QByteArray::fromStdString(FileContent(DEFAULT_WIDGET_LAYOUT)).trimmed();
     CGenericDataSet set;
     for (int size = 0; size < layout.size(); size += 7)
         EXPECT_FALSE(set.loadContent(layout.left(size), "cut")) << size;

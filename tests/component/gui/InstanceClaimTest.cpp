@@ -68,22 +68,17 @@ TEST(InstanceClaim, TheOwnerThatABlockNamesDecides)
     const std::uint64_t own = InstanceSystem::OwnStamp();
     pid_t zombie = 0;
     const std::uint64_t ended = StampOfZombie(zombie);
-    const struct
-    {
-        const char* name;
-        std::uint64_t owner;
-        Result result;
-    } rows[] = {
+    const std::tuple<const char*, std::uint64_t, Result> rows[] = {
         {"nobody", 0, Result::Owned},
         {"a running process", own, Result::Taken},
         {"a later process under the same number", own + 1, Result::Owned},
         {"a number that no process has", (0x7FFFFFFFULL << 32) | 1, Result::Owned},
         {"a process that ended and was not collected", ended, Result::Owned},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, owner, result] : rows) {
         LeftBehind block;
-        block.Set(CInstanceBlock::kHeader, row.owner);
-        EXPECT_EQ(CInstanceClaim(LeftBehind::Key()).Take(), row.result) << row.name;
+        block.Set(CInstanceBlock::kHeader, owner);
+        EXPECT_EQ(CInstanceClaim(LeftBehind::Key()).Take(), result) << name;
     }
     waitpid(zombie, nullptr, 0);
 }

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
 #include <QFile>
 #include <QFontDatabase>
 #include <QLabel>
@@ -38,11 +37,7 @@ QByteArray ReadAll(const QString& path)
 
 TEST(Toolkit, EveryLanguageHasAnInstalledFontWithItsLetters)
 {
-    const struct
-    {
-        int language;
-        QString letters;
-    } rows[] = {
+    const std::pair<int, QString> rows[] = {
         {English, "Aaz09%"},
         {Chinese, QString::fromUtf8("设置录像Az0")},
         {German, QString::fromUtf8("ÄöüßAz0")},
@@ -51,16 +46,16 @@ TEST(Toolkit, EveryLanguageHasAnInstalledFontWithItsLetters)
     };
     ASSERT_EQ(std::size(rows), allLanguages().size());
     const QStringList installed = QFontDatabase().families();
-    for (const auto& row : rows) {
-        const FontInfo info = getFontInfoByLanguage(row.language);
-        EXPECT_GE(info.pixelSize, 12) << row.language;
+    for (const auto& [language, letters] : rows) {
+        const FontInfo info = getFontInfoByLanguage(language);
+        EXPECT_GE(info.pixelSize, 12) << language;
         const auto family = std::find_if(info.families.begin(), info.families.end(),
                                          [&](const QString& name) { return installed.contains(name); });
-        ASSERT_NE(family, info.families.end()) << "no font for " << languageTag(row.language).toStdString();
+        ASSERT_NE(family, info.families.end()) << "no font for " << languageTag(language).toStdString();
         QFont font(*family);
         font.setPixelSize(info.pixelSize);
         const QRawFont raw = QRawFont::fromFont(font);
-        for (const QChar letter : row.letters)
+        for (const QChar letter : letters)
             EXPECT_TRUE(raw.supportsCharacter(letter)) << family->toStdString() << " " << letter.unicode();
     }
 }
@@ -88,11 +83,7 @@ TEST(Toolkit, FillsMarkersOfStyleSheets)
 {
     const StyleParameters parameters = {
         {"text", "#fff"}, {"a-b_2", "x"}, {"nested", "@text@"}, {"empty", ""}};
-    const struct
-    {
-        const char* sheet;
-        const char* filled;
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"", ""},
         {"QLabel { color: red; }", "QLabel { color: red; }"},
         {"color: @text@;", "color: #fff;"},
@@ -105,8 +96,8 @@ TEST(Toolkit, FillsMarkersOfStyleSheets)
         {"@none@ @text@", "@none@ #fff"},
     };
     CStyleSheetFiller filler;
-    for (const auto& row : rows)
-        EXPECT_EQ(filler.Fill(row.sheet, parameters).toStdString(), row.filled);
+    for (const auto& [sheet, filled] : rows)
+        EXPECT_EQ(filler.Fill(sheet, parameters).toStdString(), filled);
 }
 
 TEST(Toolkit, WarnsOfAnUnknownMarkerOnce)
@@ -117,7 +108,7 @@ TEST(Toolkit, WarnsOfAnUnknownMarkerOnce)
     kit.handleQssByInputParams("@none@");
     const std::vector<std::string> expected = {"Unknown style sheet parameter [none].",
                                                "Unknown style sheet parameter [other]."};
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn), expected);
+    EXPECT_EQ(log.Warnings(), expected);
 }
 
 TEST(Toolkit, StyleSheetsFollowSkinLanguageAndDirection)
@@ -195,7 +186,7 @@ TEST(Toolkit, ABrokenSkinPackageIsRefusedWithOneLine)
         CToolkit kit;
         CapturedLog log;
         EXPECT_FALSE(kit.loadSkinPackage(path)) << name;
-        EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 1U) << name;
+        EXPECT_EQ(log.Warnings().size(), 1U) << name;
         EXPECT_TRUE(kit.skinPackages().isEmpty()) << name;
     }
 }
@@ -237,7 +228,7 @@ TEST(Toolkit, ShowsDatesAndTimesAsTold)
     CapturedLog log;
     EXPECT_FALSE(kit.initDateFormat("nonsense"));
     EXPECT_FALSE(kit.initTimeFormat(QString(100'000, 'H')));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 2U);
+    EXPECT_EQ(log.Warnings().size(), 2U);
     EXPECT_LT(log.Lines()[1].message.size(), 200U);
     EXPECT_EQ(kit.dateTimeText(moment), "9.3.24 5:05 PM");
 }

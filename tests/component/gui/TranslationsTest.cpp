@@ -5,8 +5,9 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
+
+#include <fstream>
 
 using namespace VantorGUIToolkit;
 
@@ -54,7 +55,7 @@ TEST(Translations, AMissingLanguageIsToldAndShownInEnglish)
     ASSERT_TRUE(kit.loadTranslations(kDir, German));
     CapturedLog log;
     EXPECT_FALSE(kit.loadTranslations(kDir, Hebrew));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Warn).size(), 1U);
+    EXPECT_EQ(log.Warnings().size(), 1U);
     EXPECT_EQ(Shown("SavingPathOfVideoFiles"), "Video folder");
 }
 
@@ -74,11 +75,9 @@ TEST(Translations, ABrokenFileIsToldAndTheOthersAreUsed)
     TestDataRoot root;
     const QString dir = QString::fromStdString(root.Path());
     ASSERT_TRUE(QFile::copy(kDir + "Pages_de.qm", dir + "Pages_de.qm"));
-    for (const QByteArray& content : {QByteArray(), QByteArray("no translations"), QByteArray(16, '\x3c')}) {
-        QFile broken(dir + "Broken_de.qm");
-        ASSERT_TRUE(broken.open(QIODevice::WriteOnly));
-        broken.write(content);
-        broken.close();
+    for (const std::string& content :
+         {std::string(), std::string("no translations"), std::string(16, '\x3c')}) {
+        std::ofstream(root.Path() + "Broken_de.qm") << content;
         CToolkit kit;
         EXPECT_FALSE(kit.loadTranslations(dir, German));
         EXPECT_EQ(Shown("Information"), "Hinweis");

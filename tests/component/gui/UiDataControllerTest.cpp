@@ -3,7 +3,6 @@
 #include "UiDataController/DeviceUserIDManager.h"
 #include "UiDataController/HighDPIMgr.h"
 #include "UiDataController/LocalLogManager.h"
-#include "UiDataController/RemoteConfigController.h"
 #include "UiDataController/ScreenGuard.h"
 #include "UiDataController/SystemStatusMonitor.h"
 #include "VantorGUIToolkit/UiSingleton.h"
@@ -17,10 +16,9 @@
 #include <QPointer>
 
 #include <atomic>
-#include <cstdlib>
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
-#include <set>
 #include <thread>
 
 using namespace UiDataController;
@@ -127,78 +125,47 @@ TEST(HighDPI, ThePolicyHoldsBeforeTheApplicationAndIsRefusedAfterwards)
               Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     CapturedLog log;
     EXPECT_FALSE(CHighDPIMgr::doHighDPI(0, nullptr));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 1U);
+    EXPECT_EQ(log.Errors().size(), 1U);
 }
 
-TEST(RemoteConfig, KeepsWhatStartUpPassedUntilUnInit)
-{
-    CRemoteConfigController::CreateInstance();
-    CRemoteConfigController& controller = CRemoteConfigController::Instance();
-    controller.InitRemoteConfig(34);
-    controller.setRemoteVersionType(2);
-    controller.setRemoteSkinType("BlueSkin");
-    EXPECT_TRUE(controller.isInit());
-    EXPECT_EQ(controller.language(), 34);
-    EXPECT_EQ(controller.remoteVersionType(), 2);
-    EXPECT_EQ(controller.remoteSkinType(), "BlueSkin");
-    for (int i = 0; i < 2; ++i) {
-        controller.UnInit();
-        EXPECT_FALSE(controller.isInit());
-        EXPECT_TRUE(controller.remoteSkinType().isEmpty());
-    }
-}
-
-TEST(LocalLog, LinesGoToTheLoggerThatIsSet)
+TEST(LocalLog, LinesGoToTheLoggerThatIsSetWhichMayEndWhileOthersWrite)
 {
     CLocalLogManager& manager = CLocalLogManager::Instance();
     EXPECT_FALSE(manager.writeOtherLog(OperationLogStruct::ImageSettings));
-    Recorder recorder;
-    manager.setLogger(&recorder);
-    EXPECT_TRUE(manager.writeOtherLog(OperationLogStruct::Broadcast, "Gate 3"));
-    manager.setLogger(nullptr);
-    manager.setLogger(nullptr);
-    EXPECT_FALSE(manager.writeOtherLog(OperationLogStruct::ScheduleSave));
-    ASSERT_EQ(recorder.lines.size(), 1U);
-    EXPECT_EQ(static_cast<int>(recorder.lines[0].type), 2000);
-    EXPECT_EQ(recorder.lines[0].objectName, "Gate 3");
-}
-
-TEST(LocalLog, ALoggerMayEndWhileOthersWrite)
-{
-    CLocalLogManager& manager = CLocalLogManager::Instance();
     std::atomic<bool> stop{false};
     std::atomic<int> written{0};
     std::thread writer([&] {
         while (!stop)
-            written +=
-                manager.writeOtherLog(OperationLogStruct::ScheduleSave, "a name long enough for the heap");
+            written += manager.writeOtherLog(OperationLogStruct::Broadcast, "Gate of a long name");
     });
+    std::size_t recorded = 0;
     for (int round = 0; round < 500 || written == 0; ++round) {
         Recorder recorder;
         manager.setLogger(&recorder);
         std::this_thread::yield();
         manager.setLogger(nullptr);
+        recorded += recorder.lines.size();
+        for (const OperationLogStruct& line : recorder.lines) {
+            EXPECT_EQ(static_cast<int>(line.type), 2000);
+            EXPECT_EQ(line.objectName, "Gate of a long name");
+        }
     }
     stop = true;
     writer.join();
-    EXPECT_GT(written, 0);
+    EXPECT_EQ(recorded, static_cast<std::size_t>(written));
+    EXPECT_FALSE(manager.writeOtherLog(OperationLogStruct::ScheduleSave));
 }
 
 TEST(SystemStatus, TheShareOfAProcessorComesFromTwoReadings)
 {
-    const struct
-    {
-        ProcessUsage before;
-        ProcessUsage after;
-        double percent;
-    } rows[] = {
+    const std::tuple<ProcessUsage, ProcessUsage, double> rows[] = {
         {{1000, 500, 0}, {2000, 1000, 0}, 50},
         {{1000, 500, 0}, {2000, 2500, 0}, 200},
         {{1000, 500, 0}, {1000, 600, 0}, 0},
         {{2000, 500, 0}, {1000, 600, 0}, 0},
     };
-    for (const auto& row : rows)
-        EXPECT_DOUBLE_EQ(CpuPercent(row.before, row.after), row.percent);
+    for (const auto& [before, after, percent] : rows)
+        EXPECT_DOUBLE_EQ(CpuPercent(before, after), percent);
 }
 
 TEST(SystemStatus, ReadingsFollowWhatTheProcessUses)
@@ -291,21 +258,17 @@ TEST(DeviceUserIDs, MakesTheLogFolderOrTellsThatItCannot)
     CapturedLog log;
     EXPECT_FALSE(ids.init("/proc/none/log"));
     EXPECT_FALSE(ids.init(""));
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 2U);
+    EXPECT_EQ(log.Errors().size(), 2U);
     EXPECT_TRUE(ids.add("a", 1)) << "handles are kept all the same";
 }
 
-TEST(Logic, PreviewStartsAndEndsAnyNumberOfTimes)
+TEST(Logic, StartsAndEndsAnyNumberOfTimes)
 {
-    ResourceTree tree, other;
-    CheckStartAndEnd(PreviewLogical::CPreviewLogical::Instance(), tree, other,
+    ResourceTree tree, otherTree;
+    CheckStartAndEnd(PreviewLogical::CPreviewLogical::Instance(), tree, otherTree,
                      &PreviewLogical::CPreviewLogical::ResourceTreeManager);
-}
-
-TEST(Logic, PlaybackStartsAndEndsAnyNumberOfTimes)
-{
-    Groups groups, other;
-    CheckStartAndEnd(PlaybackLogical::CPlaybackLogical::Instance(), groups, other,
+    Groups groups, otherGroups;
+    CheckStartAndEnd(PlaybackLogical::CPlaybackLogical::Instance(), groups, otherGroups,
                      &PlaybackLogical::CPlaybackLogical::GroupManager);
 }
 

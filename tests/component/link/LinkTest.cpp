@@ -2,6 +2,7 @@
 #include "CommonMethod/HTTPOverLPCClient.h"
 #include "CommunicationLayer/CommunicationLayer.h"
 #include "LPC_Server/LPC_Server.h"
+#include "LPC_Wire/Limits.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Communication/LPCNames.h"
 #include "support/CapturedLog.h"
@@ -12,6 +13,7 @@
 
 #include <chrono>
 #include <condition_variable>
+#include <fstream>
 #include <mutex>
 #include <thread>
 
@@ -22,6 +24,12 @@ using testing::Contains;
 namespace {
 
 constexpr auto kPatience = std::chrono::seconds(20);
+/// How much memory one copy of the longest answer may take.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+constexpr std::size_t kCopyBytes = 8 * lpc::kMaxBody; // the sanitizers' own bookkeeping counts too
+#else
+constexpr std::size_t kCopyBytes = lpc::kMaxBody + lpc::kMaxBody / 2;
+#endif
 
 /// A list that threads fill and a test waits for.
 class Seen
@@ -250,6 +258,55 @@ TEST_F(ALink, AnswersUnderTheIdentifierAndHeadersOfTheCall)
               lpc::kNoError);
     EXPECT_EQ(answer.body, "[body]");
     EXPECT_EQ(answer.headers["x"], "y");
+    component.link.UnInit();
+}
+
+/// The number of such a line of this process's status, "VmRSS:" or "VmHWM:".
+std::size_t StatusBytes(const std::string& name)
+{
+    std::ifstream lines("/proc/self/status");
+    for (std::string line; std::getline(lines, line);)
+        if (line.rfind(name, 0) == 0)
+            return std::stoul(line.substr(name.size())) * lpc::kKiB;
+    return 0;
+}
+
+TEST_F(ALink, TellsThatAnAnswerIsTooLongInsteadOfSendingIt)
+{
+    Framework framework;
+    Component component;
+    const video::RouteAnswer tooLong{std::string(lpc::kMaxBody + 1, '7')};
+    const video::RouteAnswer longest{std::string(lpc::kMaxBody, '7')};
+    std::atomic<std::size_t> moreBytes{0};
+    component.link.Dispatcher().Http().Bind("/tooLong", [&](const LPCCallBackData& call) {
+        const std::size_t before = StatusBytes("VmRSS:");
+        EXPECT_TRUE(component.link.Answer(call, tooLong));
+        moreBytes = StatusBytes("VmHWM:") - before;
+    });
+    component.link.Dispatcher().Http().Bind(
+        "/longest", [&](const LPCCallBackData& call) { EXPECT_TRUE(component.link.Answer(call, longest)); });
+    component.link.Init();
+    framework.clients.WaitFor(1);
+    const auto ask = [&](const std::string& url) {
+        lpc::Message answer;
+        EXPECT_EQ(framework.server.SendEx(framework.component, {{{"protocol", "http"}, {"url", url}}, ""},
+                                          20000, answer),
+                  lpc::kNoError);
+        return answer;
+    };
+
+    lpc::Message answer = ask("/tooLong");
+    EXPECT_EQ(answer.headers["status"], "413");
+    EXPECT_EQ(answer.headers["errorCode"], "1008");
+    EXPECT_EQ(answer.headers["url"], "/tooLong");
+    EXPECT_EQ(answer.body,
+              R"({"response":{"result":{"errorCode":1008,"errorModuleCode":0},"message":)"
+              R"("The answer is longer than the 67108864 bytes that can be sent. Ask for less."}})");
+    EXPECT_LT(moreBytes, kCopyBytes) << "more than one copy of the answer was made";
+
+    answer = ask("/longest");
+    EXPECT_EQ(answer.headers.count("status"), 0U) << "the longest body is sent";
+    EXPECT_EQ(answer.body.size(), lpc::kMaxBody);
     component.link.UnInit();
 }
 

@@ -108,11 +108,7 @@ TEST(APalette, IsRefusedWithAReasonUnlessItHasEveryRole)
     for (const QString& role : SkinPalette::Roles())
         roles += (roles.isEmpty() ? "\"" : ", \"") + role.toUtf8() + "\": \"#102030\"";
     const auto document = [](const QByteArray& content) { return "{\"roles\": {" + content + "}}"; };
-    const struct
-    {
-        QByteArray json;
-        const char* reason;
-    } rows[] = {
+    const std::pair<QByteArray, const char*> rows[] = {
         {"", "illegal"},
         {"[1]", "no colour for the role window"},
         {document("\"window\": \"#102030\""), "no colour for the role surface"},
@@ -125,10 +121,10 @@ TEST(APalette, IsRefusedWithAReasonUnlessItHasEveryRole)
     EXPECT_TRUE(SkinPalette::FromJson(document(roles), why)) << why.toStdString();
     EXPECT_TRUE(SkinPalette::FromJson(document(roles + ", \"newer\": \"#102030\""), why))
         << why.toStdString();
-    for (const auto& row : rows) {
+    for (const auto& [json, reason] : rows) {
         why.clear();
-        EXPECT_FALSE(SkinPalette::FromJson(row.json, why)) << row.reason;
-        EXPECT_TRUE(why.contains(row.reason)) << why.toStdString() << " for " << row.reason;
+        EXPECT_FALSE(SkinPalette::FromJson(json, why)) << reason;
+        EXPECT_TRUE(why.contains(reason)) << why.toStdString() << " for " << reason;
     }
 }
 

@@ -8,11 +8,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QDir>
+#include <QFile>
 #include <QMovie>
 #include <QRegularExpression>
-
-#include <filesystem>
 
 using namespace VantorGUIToolkit;
 
@@ -91,7 +89,7 @@ TEST_P(ThePackages, HaveSheetsWhoseRolesAndPicturesAllExist)
         }
     }
     kit.setLocale(English);
-    EXPECT_TRUE(log.Messages(Base::LogLevel::Warn).empty());
+    EXPECT_TRUE(log.Warnings().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Skins, ThePackages,

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFrame>
 #include <QListView>
 #include <QStyle>
 #include <QStyleFactory>

@@ -59,33 +59,18 @@ protected:
     QVBoxLayout* column = new QVBoxLayout(page);
 };
 
-QComboBox* MakeCombo()
-{
-    auto* box = new QComboBox;
-    box->addItems({"one", "two", "three"});
-    return box;
-}
-
-QDoubleSpinBox* MakeSpin()
-{
-    auto* spin = new QDoubleSpinBox;
-    spin->setValue(50);
-    return spin;
-}
-
-QSlider* MakeSlider()
-{
-    auto* slider = new QSlider(Qt::Horizontal);
-    slider->setValue(50);
-    return slider;
-}
-
 } // namespace
 
 TEST_F(TheManners, TheWheelChangesAValueOnlyWhereTheFocusIs)
 {
-    const std::tuple<QWidget*, const char*> rows[] = {
-        {MakeCombo(), "currentIndex"}, {MakeSpin(), "value"}, {MakeSlider(), "value"}};
+    auto* combo = new QComboBox;
+    combo->addItems({"one", "two", "three"});
+    auto* spin = new QDoubleSpinBox;
+    auto* slider = new QSlider(Qt::Horizontal);
+    spin->setValue(50);
+    slider->setValue(50);
+    const std::pair<QWidget*, const char*> rows[] = {
+        {combo, "currentIndex"}, {spin, "value"}, {slider, "value"}};
     for (const auto& [widget, property] : rows) {
         Show(widget);
         area.setFocus();

@@ -1,6 +1,5 @@
 #include "RawPeer.h"
 
-#include <algorithm>
 #include <optional>
 
 #include <csignal>
@@ -24,14 +23,12 @@ protected:
         }
     }
 
-    /// The log's lines that contain the text.
-    std::size_t CountOf(const std::string& text) const
+    /// Notifications of a megabyte each.
+    static void SendNumbered(RawPeer& peer, int from, int to)
     {
-        const auto lines = log.Lines();
-        return static_cast<std::size_t>(
-            std::count_if(lines.begin(), lines.end(), [&](const CapturedLog::Line& line) {
-                return line.message.find(text) != std::string::npos;
-            }));
+        for (int n = from; n < to; ++n)
+            EXPECT_TRUE(
+                peer.Send(Kind::Notification, 0, {{"n", std::to_string(n)}}, std::string(1000000, 'n')));
     }
 
     /// Answers every request with its own body.
@@ -56,7 +53,7 @@ TEST_F(ClientFaults, MalformedBytesOfTheServerAreALossAndNoHarmToTheNextConnecti
     std::vector<std::string> expected;
     for (const FaultRow& row : rows) {
         SCOPED_TRACE(row.line ? row.line : "cut off");
-        const std::size_t lines = CountOf(line);
+        const std::size_t lines = log.Count(line);
         RawServer server([&](RawPeer& peer) {
             peer.Receive();
             peer.Send(Kind::Notification, 0, {{"n", "before"}}, "");
@@ -68,8 +65,8 @@ TEST_F(ClientFaults, MalformedBytesOfTheServerAreALossAndNoHarmToTheNextConnecti
         EXPECT_EQ(lpc::kConnectionLost, SendExError({}, 0));
         expected.insert(expected.end(), {"before", "clientDisconnected"});
         EXPECT_EQ(expected, received.WaitFor(expected.size()));
-        EXPECT_EQ(lines + (row.line ? 1 : 0), CountOf(line));
-        EXPECT_TRUE(!row.line || CountOf(line + row.line) > 0);
+        EXPECT_EQ(lines + (row.line ? 1 : 0), log.Count(line));
+        EXPECT_TRUE(!row.line || log.Count(line + row.line) > 0);
         ASSERT_TRUE(lpcclient::DisconnectToServer());
     }
     EXPECT_TRUE(lpcclient::Uninit());
@@ -91,21 +88,14 @@ TEST_F(ClientFaults, AServerOfAnotherUserIsRefused)
     EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
     EXPECT_TRUE(log.Has("LPC: no connection to [lpc-test-server]: the server belongs to another user."));
     strange.Close();
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     EXPECT_TRUE(lpcclient::ConnectToServer(kServerName));
     EXPECT_TRUE(lpcclient::Uninit());
 }
 
 TEST_F(ClientFaults, AHelloThatIsNotAnsweredWellIsRefused)
 {
-    struct Row
-    {
-        const char* what;
-        std::string bytes;
-        int error;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::string, int> rows[] = {
         {"garbage", std::string(30, 'x'), lpc::kRefused},
         {"another version", WireBytes(Kind::HelloAnswer, 0, {{"version", "2"}}, ""), lpc::kRefused},
         {"something else", WireBytes(Kind::Notification, 0, {}, ""), lpc::kRefused},
@@ -113,11 +103,11 @@ TEST_F(ClientFaults, AHelloThatIsNotAnsweredWellIsRefused)
         {"the end", "", lpc::kConnectionLost},
     };
     ASSERT_TRUE(lpcclient::Init("client", false));
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.what);
-        RawServer server([&](RawPeer& peer) { peer.Send(row.bytes); }, false);
+    for (const auto& [what, bytes, error] : rows) {
+        SCOPED_TRACE(what);
+        RawServer server([&](RawPeer& peer) { peer.Send(bytes); }, false);
         EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
-        EXPECT_EQ(row.error, lpcclient::GetLPCLastError());
+        EXPECT_EQ(error, lpcclient::GetLPCLastError());
     }
     EXPECT_TRUE(lpcclient::Uninit());
 }
@@ -131,7 +121,7 @@ TEST_F(ClientFaults, AnAnswerNobodyAskedForIsDroppedWithOneLine)
     });
     const Client client;
     EXPECT_EQ(0, SendExError({{}, "asked"}, 10000));
-    EXPECT_EQ(1U, CountOf("never sent"));
+    EXPECT_EQ(1U, log.Count("never sent"));
 }
 
 /// What was begun is finished in good order, whoever gave up waiting for it.
@@ -163,10 +153,9 @@ TEST_F(ClientFaults, AServerThatStopsReadingGetsAWholeStreamOnceItReadsAgain)
             ++sent;
         EXPECT_EQ(lpc::kTryAgain, lpcclient::GetLPCLastError());
         EXPECT_EQ(lpc::kTryAgain, SendExError({{}, std::string(4000000, 'b')}, 1000));
-        auto waiting = std::async(std::launch::async, [] { return SendExError({{}, "last"}, 0); });
+        auto waiting = SendExLater({{}, "last"}, 0);
         reads.Happens();
-        ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
-        EXPECT_EQ(lpc::kConnectionLost, waiting.get());
+        EXPECT_EQ(lpc::kConnectionLost, InTime(waiting));
         EXPECT_GT(sent, 100U);
         EXPECT_LT(sent, 200U);
     }
@@ -192,18 +181,15 @@ TEST_F(ClientFaults, AFullReceiveQueueHoldsTheServerBackUntilTheReceiverTakes)
 {
     constexpr int kCount = 40;
     RawServer server([&](RawPeer& peer) {
-        for (int i = 0; i < kCount; ++i)
-            EXPECT_TRUE(
-                peer.Send(Kind::Notification, 0, {{"n", std::to_string(i)}}, std::string(1000000, 'n')));
+        SendNumbered(peer, 0, kCount);
         Echo(peer);
     });
     const Client client;
     EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200)); // its answer lies behind what does not fit
-    auto waiting = std::async(std::launch::async, [] { return SendExError({}, 20000); });
+    auto waiting = SendExLater({}, 20000);
     CollectNumbers();
     EXPECT_EQ(Numbers(kCount), received.WaitFor(kCount));
-    ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
-    EXPECT_EQ(0, waiting.get());
+    EXPECT_EQ(0, InTime(waiting));
 }
 
 /// What the receiver keeps for later counts as what it has not taken. A call still gets its answer.
@@ -211,17 +197,12 @@ TEST_F(ClientFaults, CopiesThatTheReceiverKeepsHoldTheServerBack)
 {
     constexpr int kFirst = 20;
     constexpr int kAll = 60;
-    const auto send = [](RawPeer& peer, int from, int to) {
-        for (int n = from; n < to; ++n)
-            EXPECT_TRUE(
-                peer.Send(Kind::Notification, 0, {{"n", std::to_string(n)}}, std::string(1000000, 'n')));
-    };
     RawServer server([&](RawPeer& peer) {
-        send(peer, 0, kFirst);
+        SendNumbered(peer, 0, kFirst);
         const auto request = peer.Receive();
         ASSERT_TRUE(request);
         peer.Send(Kind::Answer, request->id, {}, "");
-        send(peer, kFirst, kAll);
+        SendNumbered(peer, kFirst, kAll);
         Echo(peer);
     });
     lpcclient::LPCCallBackData survivor;
@@ -243,67 +224,46 @@ TEST_F(ClientFaults, CopiesThatTheReceiverKeepsHoldTheServerBack)
         EXPECT_EQ(0, SendExError({}, 20000));            // behind 20 MB, which are kept
         EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200)); // behind 60 MB
         EXPECT_LT(received.Size(), 36U);
-        auto waiting = std::async(std::launch::async, [] { return SendExError({}, 20000); });
+        auto waiting = SendExLater({}, 20000);
         std::async(std::launch::async, [&] {
             std::lock_guard<std::mutex> lock(mutex);
             survivor = kept->back();
             kept.reset();
         }).wait();
         EXPECT_EQ(Numbers(kAll), received.WaitFor(kAll));
-        ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
-        EXPECT_EQ(0, waiting.get());
+        EXPECT_EQ(0, InTime(waiting));
     }
     survivor = {}; // when there is no session any more
 }
 
+/// Whoever found the queue full, the library's thread must not lie down beside it.
 TEST_F(ClientFaults, ACallFromWithinTheReceiverDoesNotWaitForRoomThatOnlyTheReceiverMakes)
 {
-    RawServer server([&](RawPeer& peer) {
-        for (int i = 0; i < 40; ++i)
-            peer.Send(Kind::Notification, 0, {}, std::string(1000000, 'n'));
-        Echo(peer);
-    });
-    Collected<int> errors;
-    const Client client;
-    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
-        [&](const lpcclient::LPCCallBackData&, void*) {
+    for (const bool isFullBefore : {false, true}) {
+        SCOPED_TRACE(isFullBefore);
+        RawServer server([](RawPeer& peer) {
+            SendNumbered(peer, 0, 40);
+            Echo(peer);
+        });
+        Collected<int> errors;
+        const Client client;
+        if (isFullBefore) { // reading has stopped
+            EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200));
+        }
+        Receive([&](const lpc::CallBackData&) {
             if (errors.Size() == 0)
-                errors.Add(SendExError({}, 0));
-            return true;
-        },
-        nullptr));
-    EXPECT_EQ(std::vector<int>{lpc::kTryAgain}, errors.WaitFor(1));
-    EXPECT_EQ(0, SendExError({}, 20000));
-}
-
-/// Whoever found the queue full, the library's thread must not lie down beside it.
-TEST_F(ClientFaults, ACallFromWithinTheReceiverFailsAlsoWhenReadingHadStoppedBefore)
-{
-    RawServer server([](RawPeer& peer) {
-        for (int i = 0; i < 40; ++i)
-            peer.Send(Kind::Notification, 0, {}, std::string(1000000, 'n'));
-        Echo(peer);
-    });
-    Collected<int> errors;
-    const Client client;
-    EXPECT_EQ(lpc::kTimedOut, SendExError({}, 200)); // has read until the queue was full
-    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
-        [&](const lpcclient::LPCCallBackData&, void*) {
-            if (errors.Size() == 0)
-                errors.Add(SendExError({}, 10000));
-            return true;
-        },
-        nullptr));
-    EXPECT_EQ(std::vector<int>{lpc::kTryAgain}, errors.WaitFor(1));
-    EXPECT_EQ(0, SendExError({}, 20000));
+                errors.Add(SendExError({}, isFullBefore ? 10000 : 0));
+        });
+        EXPECT_EQ(std::vector<int>{lpc::kTryAgain}, errors.WaitFor(1));
+        EXPECT_EQ(0, SendExError({}, 20000));
+    }
 }
 
 TEST_F(ClientFaults, TheEndOfTheServerIsSeenThoughTheReceiveQueueIsFull)
 {
     constexpr int kFull = 34;
     RawServer server([](RawPeer& peer) {
-        for (int i = 0; i < kFull; ++i)
-            peer.Send(Kind::Notification, 0, {{"n", std::to_string(i)}}, std::string(1000000, 'n'));
+        SendNumbered(peer, 0, kFull);
         peer.Send(Kind::Notification, 0, {{"n", std::to_string(kFull)}}, "what the socket still holds");
         peer.Receive();
     });
@@ -335,13 +295,12 @@ TEST_F(ClientFaults, DisconnectingDoesNotWaitLongForAServerThatReadsNothing)
     RawServer server([&](RawPeer&) { disconnected.Wait(); });
     const Client client;
     ASSERT_TRUE(lpcclient::Notify({{}, std::string(20000000, 'x')}));
-    auto waiting = std::async(std::launch::async, [] { return SendExError({}, 0); });
+    auto waiting = SendExLater({}, 0);
     const auto start = std::chrono::steady_clock::now();
     EXPECT_TRUE(lpcclient::DisconnectToServer());
     EXPECT_LT(std::chrono::steady_clock::now() - start, kLimit / 2);
     disconnected.Happens();
-    ASSERT_EQ(std::future_status::ready, waiting.wait_for(kLimit));
-    EXPECT_NE(0, waiting.get());
+    EXPECT_NE(0, InTime(waiting));
 }
 
 /// A signal that some library of the program handles is no time limit.
@@ -371,8 +330,7 @@ TEST(LocalSocket, SignalsDoNotEndAWait)
 /// While a caller reads, the library's thread does not watch the socket; it has to take it up again.
 TEST_F(ClientFaults, NotificationsArriveAlsoAfterARunOfCalls)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     const Client client;
     CollectNumbers();
     for (int round = 0; round < 20; ++round) {

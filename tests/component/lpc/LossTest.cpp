@@ -27,17 +27,15 @@ protected:
     {
         std::vector<std::future<int>> callers;
         for (int i = 0; i < count; ++i)
-            callers.push_back(std::async(std::launch::async, [] { return SendExError({}, 0); }));
+            callers.push_back(SendExLater({}, 0));
         requests.WaitFor(static_cast<std::size_t>(count));
         return callers;
     }
 
     static void ExpectAll(int error, std::vector<std::future<int>>& callers)
     {
-        for (auto& caller : callers) {
-            ASSERT_EQ(std::future_status::ready, caller.wait_for(kLimit));
-            EXPECT_EQ(error, caller.get());
-        }
+        for (auto& caller : callers)
+            EXPECT_EQ(error, InTime(caller));
     }
 
     Collected<lpc::RequestId> requests;
@@ -95,18 +93,15 @@ TEST_F(Loss, EveryEndMayBeCalledTwiceFromWithinTheCallback)
     StartSilentServer();
     Once done;
     const Client client;
-    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
-        [&](const lpcclient::LPCCallBackData&, void*) {
-            EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
-            EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
-            EXPECT_TRUE(lpcclient::DisconnectToServer());
-            EXPECT_TRUE(lpcclient::DisconnectToServer());
-            EXPECT_TRUE(lpcclient::Uninit());
-            EXPECT_FALSE(lpcclient::Uninit());
-            done.Happens();
-            return true;
-        },
-        nullptr));
+    Receive([&](const lpc::CallBackData&) {
+        EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
+        EXPECT_TRUE(lpcclient::SetInvokeCallBack({}, nullptr));
+        EXPECT_TRUE(lpcclient::DisconnectToServer());
+        EXPECT_TRUE(lpcclient::DisconnectToServer());
+        EXPECT_TRUE(lpcclient::Uninit());
+        EXPECT_FALSE(lpcclient::Uninit());
+        done.Happens();
+    });
     ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), {}));
     ASSERT_TRUE(done.Wait());
     EXPECT_EQ(1U, server.disconnected.WaitFor(1).size());
@@ -121,14 +116,11 @@ TEST_F(Loss, ClearingTheReceiverWaitsForTheCallUnderWay)
     std::promise<void> go;
     std::atomic<bool> left{false};
     const Client client;
-    ASSERT_TRUE(lpcclient::SetInvokeCallBack(
-        [&](const lpcclient::LPCCallBackData&, void*) {
-            entered.Happens();
-            go.get_future().wait_for(kLimit);
-            left = true;
-            return true;
-        },
-        nullptr));
+    Receive([&](const lpc::CallBackData&) {
+        entered.Happens();
+        go.get_future().wait_for(kLimit);
+        left = true;
+    });
     ASSERT_EQ(lpc::kNoError, server.server.Notify(server.Client(), {}));
     ASSERT_TRUE(entered.Wait());
     auto clearing =
@@ -232,16 +224,6 @@ TEST_F(Loss, WithoutDescriptorsEveryStartFailsWithTheReason)
     }
     ASSERT_EQ(lpc::kNoError, server.Start());
     const Client client;
-}
-
-TEST_F(Loss, ServersOfAnotherDataRootAreNotMet)
-{
-    ASSERT_EQ(lpc::kNoError, server.Start());
-    setenv("VANTOR_USER_DATA", (root.Path() + "other").c_str(), 1);
-    ASSERT_TRUE(lpcclient::Init("client", false));
-    EXPECT_FALSE(lpcclient::ConnectToServer(kServerName));
-    EXPECT_EQ(lpc::kCannotConnect, lpcclient::GetLPCLastError());
-    EXPECT_TRUE(lpcclient::Uninit());
 }
 
 } // namespace

@@ -71,6 +71,8 @@ private:
 class EchoServer : public lpcserver::IServerEvents
 {
 public:
+    using OnDataFunction = std::function<void(lpcserver::ClientId, const lpc::CallBackData&)>;
+
     explicit EchoServer(const lpcserver::ServerLimits& limits = {}) : server(*this, limits) {}
     ~EchoServer() override { server.Stop(); }
 
@@ -100,11 +102,26 @@ public:
         return lastClient;
     }
 
-    std::function<void(lpcserver::ClientId, const lpc::CallBackData&)> onData; ///< set before Start
+    OnDataFunction onData; ///< set before Start
     Collected<std::string> connected;
     Collected<lpcserver::ClientId> disconnected;
     std::atomic<lpcserver::ClientId> lastClient{0};
     lpcserver::CLPCServer server;
+};
+
+/// The same, started when it is made.
+class StartedServer : public EchoServer
+{
+public:
+    explicit StartedServer(const lpcserver::ServerLimits& limits = {}) : EchoServer(limits)
+    {
+        EXPECT_EQ(lpc::kNoError, Start());
+    }
+    explicit StartedServer(OnDataFunction handler)
+    {
+        onData = std::move(handler);
+        EXPECT_EQ(lpc::kNoError, Start());
+    }
 };
 
 /// The process's client end, connected to the test's server. Made after what its callbacks use, so that it
@@ -131,9 +148,16 @@ protected:
     /// Collects the "n" header of everything that arrives.
     void CollectNumbers()
     {
+        Receive([this](const lpc::CallBackData& data) {
+            received.Add(data.headers.count("n") ? data.Header("n") : data.Header("method"));
+        });
+    }
+
+    static void Receive(std::function<void(const lpc::CallBackData&)> receiver)
+    {
         ASSERT_TRUE(lpcclient::SetInvokeCallBack(
-            [this](const lpcclient::LPCCallBackData& data, void*) {
-                received.Add(data.headers.count("n") ? data.Header("n") : data.Header("method"));
+            [receiver = std::move(receiver)](const lpcclient::LPCCallBackData& data, void*) {
+                receiver(data);
                 return true;
             },
             nullptr));
@@ -145,6 +169,18 @@ protected:
         lpc::Message answer;
         lpc::RequestId id = 0;
         return lpcclient::SendEx(answer, request, id, timeoutMs) ? 0 : lpcclient::GetLPCLastError();
+    }
+
+    /// The same from another thread.
+    static std::future<int> SendExLater(const lpc::Message& request, std::uint32_t timeoutMs)
+    {
+        return std::async(std::launch::async, [=] { return SendExError(request, timeoutMs); });
+    }
+
+    static int InTime(std::future<int>& error)
+    {
+        EXPECT_EQ(std::future_status::ready, error.wait_for(kLimit));
+        return error.get();
     }
 
     static lpc::Message Numbered(int n, std::string body = {})

@@ -1,7 +1,5 @@
 #include "RawPeer.h"
 
-#include <algorithm>
-
 using namespace std::chrono_literals;
 
 namespace {
@@ -11,15 +9,6 @@ using lpc::Kind;
 class ServerFaults : public LpcTest
 {
 protected:
-    /// The error lines that contain the text.
-    std::size_t Lines(const std::string& text) const
-    {
-        const auto lines = log.Messages(Base::LogLevel::Error);
-        return static_cast<std::size_t>(
-            std::count_if(lines.begin(), lines.end(),
-                          [&](const std::string& line) { return line.find(text) != std::string::npos; }));
-    }
-
     static void ExpectServed(RawPeer& peer)
     {
         EXPECT_TRUE(peer.Send(Kind::Request, 5, {}, "still served"));
@@ -30,19 +19,18 @@ protected:
 
 TEST_F(ServerFaults, EndOnlyTheirOwnConnectionWithOneLineThatNamesThem)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     RawPeer other = RawPeer::Greeted("other");
     std::vector<FaultRow> rows = FaultRows();
     rows.push_back({WireBytes(Kind::Hello, 0, lpc::HelloHeaders("again"), ""), "kind of frame not expected"});
     for (const FaultRow& row : rows) {
         SCOPED_TRACE(row.line);
-        const std::size_t faults = Lines("[faulty]: ");
+        const std::size_t faults = log.Count("[faulty]: ");
         RawPeer peer = RawPeer::Greeted("faulty");
         ASSERT_TRUE(peer.Send(row.bytes));
         EXPECT_TRUE(peer.SeesEnd());
-        EXPECT_GE(Lines(std::string("[faulty]: ") + row.line), 1U); // one a second of each kind
-        EXPECT_LE(Lines("[faulty]: "), faults + 1);
+        EXPECT_GE(log.Count(std::string("[faulty]: ") + row.line), 1U); // one a second of each kind
+        EXPECT_LE(log.Count("[faulty]: "), faults + 1);
         ExpectServed(other);
     }
 }
@@ -51,8 +39,7 @@ TEST_F(ServerFaults, UnfinishedBodiesOfAllClientsTogetherAreBounded)
 {
     lpcserver::ServerLimits limits;
     limits.unfinishedBytes = 4 * lpc::kMiB;
-    EchoServer server(limits);
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server(limits);
     RawPeer first = RawPeer::Greeted("first");
     ASSERT_TRUE(first.Send(LongBody(3)));
     ASSERT_TRUE(first.Send(Kind::Notification, 0, {}, "")); // and in between
@@ -63,7 +50,7 @@ TEST_F(ServerFaults, UnfinishedBodiesOfAllClientsTogetherAreBounded)
         second.Send(LongBody(2));
         EXPECT_TRUE(second.SeesEnd());
     }
-    EXPECT_EQ(1U, Lines("[second]: the unfinished bodies of all clients are over the limit"));
+    EXPECT_EQ(1U, log.Count("[second]: the unfinished bodies of all clients are over the limit"));
     ASSERT_TRUE(first.Send(Frame(Kind::Request, 1, 0, "", "end")));
     const auto answer = first.Receive();
     ASSERT_TRUE(answer);
@@ -75,8 +62,7 @@ TEST_F(ServerFaults, UnfinishedBodiesOfAllClientsTogetherAreBounded)
 
 TEST_F(ServerFaults, AClientOfAnotherUserIsClosed)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     RawPeer other = RawPeer::Greeted("other");
     std::string why;
     const std::string path = lpc::SocketPath(kServerName, why);
@@ -88,15 +74,14 @@ TEST_F(ServerFaults, AClientOfAnotherUserIsClosed)
         stranger = RawPeer::ToPath(path);
     }
     EXPECT_TRUE(stranger->SeesEnd());
-    EXPECT_EQ(1U, Lines("[]: belongs to another user"));
+    EXPECT_EQ(1U, log.Count("[]: belongs to another user"));
     ExpectServed(other);
 }
 
 TEST_F(ServerFaults, AServerThatStopsStillWritesToClientsThatRead)
 {
     const std::string large(3000000, 'x');
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     RawPeer mute = RawPeer::Greeted("mute");
     const lpcserver::ClientId muteId = server.Client();
     RawPeer reader = RawPeer::Greeted("reader");
@@ -118,8 +103,7 @@ TEST_F(ServerFaults, AServerThatStopsStillWritesToClientsThatRead)
 
 TEST_F(ServerFaults, ThatRepeatDoNotFillTheLog)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     const auto start = std::chrono::steady_clock::now();
     for (int i = 0; i < 100; ++i) {
         RawPeer peer = RawPeer::Greeted("faulty");
@@ -128,19 +112,18 @@ TEST_F(ServerFaults, ThatRepeatDoNotFillTheLog)
     }
     const auto seconds =
         std::chrono::duration_cast<std::chrono::seconds>(std::chrono::steady_clock::now() - start);
-    EXPECT_GE(Lines("bad magic"), 1U);
-    EXPECT_LE(Lines("bad magic"), 1U + static_cast<std::size_t>(seconds.count()));
+    EXPECT_GE(log.Count("bad magic"), 1U);
+    EXPECT_LE(log.Count("bad magic"), 1U + static_cast<std::size_t>(seconds.count()));
 }
 
 TEST_F(ServerFaults, ADisconnectInsideAMessageIsNamed)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     RawPeer peer = RawPeer::Greeted("faulty");
     ASSERT_TRUE(peer.Send(WireBytes(Kind::Request, 1, {}, "whole").substr(0, 27)));
     peer.Close();
     EXPECT_EQ(1U, server.disconnected.WaitFor(1).size());
-    EXPECT_EQ(1U, Lines("[faulty]: ended inside a message"));
+    EXPECT_EQ(1U, log.Count("[faulty]: ended inside a message"));
 }
 
 TEST_F(ServerFaults, AHelloThatDoesNotFitIsRefused)
@@ -161,8 +144,7 @@ TEST_F(ServerFaults, AHelloThatDoesNotFitIsRefused)
         {"a long name", WireBytes(Kind::Hello, 0, lpc::HelloHeaders(std::string(129, 'n')), ""), true},
         {"a request first", WireBytes(Kind::Request, 1, {}, ""), false},
     };
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         RawPeer peer = RawPeer::ToServer();
@@ -182,19 +164,17 @@ TEST_F(ServerFaults, AClientWithoutHelloIsDroppedInTime)
 {
     lpcserver::ServerLimits limits;
     limits.helloTimeout = 50ms;
-    EchoServer server(limits);
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server(limits);
     RawPeer peer = RawPeer::ToServer();
     EXPECT_TRUE(peer.SeesEnd());
-    EXPECT_EQ(1U, Lines("said no hello in time"));
+    EXPECT_EQ(1U, log.Count("said no hello in time"));
 }
 
 TEST_F(ServerFaults, TooManyClientsAreToldToTryAgain)
 {
     lpcserver::ServerLimits limits;
     limits.clients = 2;
-    EchoServer server(limits);
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server(limits);
     RawPeer first = RawPeer::Greeted("first");
     RawPeer second = RawPeer::Greeted("second");
     ASSERT_TRUE(lpcclient::Init("third", false));
@@ -208,16 +188,12 @@ TEST_F(ServerFaults, TooManyClientsAreToldToTryAgain)
 
 TEST_F(ServerFaults, AnAnswerNobodyAskedForIsDroppedWithOneLine)
 {
-    EchoServer server;
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server;
     RawPeer peer = RawPeer::Greeted("eager");
     for (int i = 0; i < 10; ++i)
         ASSERT_TRUE(peer.Send(Kind::Answer, 12345, {}, "unasked"));
-    ASSERT_TRUE(peer.Send(Kind::Request, 1, {}, "served"));
-    const auto answer = peer.Receive();
-    ASSERT_TRUE(answer);
-    EXPECT_EQ("served", answer->body);
-    EXPECT_EQ(1U, Lines("[eager]: answered a request that was never sent"));
+    ExpectServed(peer);
+    EXPECT_EQ(1U, log.Count("[eager]: answered a request that was never sent"));
 }
 
 TEST_F(ServerFaults, AClientThatNeverReadsCostsABoundedQueueAndIsDropped)
@@ -225,8 +201,7 @@ TEST_F(ServerFaults, AClientThatNeverReadsCostsABoundedQueueAndIsDropped)
     lpcserver::ServerLimits limits;
     limits.sendQueueBytes = 1024 * 1024;
     limits.stallTimeout = 300ms;
-    EchoServer server(limits);
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server(limits);
     RawPeer mute = RawPeer::Greeted("mute");
     const lpcserver::ClientId muteId = server.Client();
     RawPeer other = RawPeer::Greeted("other");
@@ -239,10 +214,9 @@ TEST_F(ServerFaults, AClientThatNeverReadsCostsABoundedQueueAndIsDropped)
         ++sent;
     }
     EXPECT_EQ(lpc::kTryAgain, error);
-    ASSERT_TRUE(other.Send(Kind::Request, 1, {}, "served"));
-    ASSERT_TRUE(other.Receive());
+    ExpectServed(other);
     EXPECT_EQ(std::vector<lpcserver::ClientId>{muteId}, server.disconnected.WaitFor(1));
-    EXPECT_EQ(1U, Lines("[mute]: does not read what it is sent"));
+    EXPECT_EQ(1U, log.Count("[mute]: does not read what it is sent"));
     EXPECT_EQ(lpc::kNotConnected, server.server.Notify(muteId, notification));
 }
 
@@ -251,8 +225,7 @@ TEST_F(ServerFaults, RequestsInMassesToAServerThatDoesNotAcceptStayBounded)
 {
     lpcserver::ServerLimits limits;
     limits.sendQueueBytes = 64 * 1024;
-    EchoServer server(limits);
-    ASSERT_EQ(lpc::kNoError, server.Start());
+    StartedServer server(limits);
     server.server.SetAccepting(false);
     RawPeer peer = RawPeer::Greeted("flood");
     std::string requests;

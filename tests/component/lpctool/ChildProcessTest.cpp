@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <fstream>
 #include <future>
 
 namespace {
@@ -15,22 +16,18 @@ constexpr int kLongestMs = 20000;
 
 TEST(AChildProcess, TellsHowItEnded)
 {
-    const struct
-    {
-        const char* script;
-        int status;
-        const char* description;
-    } rows[] = {{"exit 0", 0, "exit code 0"},
-                {"exit 7", 7, "exit code 7"},
-                {"kill -SEGV $$", -SIGSEGV, "signal 11 (SIGSEGV)"}};
-    for (const auto& row : rows) {
+    const std::tuple<const char*, int, const char*> rows[] = {
+        {"exit 0", 0, "exit code 0"},
+        {"exit 7", 7, "exit code 7"},
+        {"kill -SEGV $$", -SIGSEGV, "signal 11 (SIGSEGV)"}};
+    for (const auto& [script, wanted, description] : rows) {
         std::promise<int> told;
         CChildProcess child([&](int status) { told.set_value(status); });
         std::string error;
-        ASSERT_TRUE(child.Start({"sh", "-c", row.script}, "", error)) << error;
-        EXPECT_EQ(child.WaitForExit(kLongestMs), row.status);
-        EXPECT_EQ(told.get_future().get(), row.status);
-        EXPECT_EQ(CChildProcess::DescribeStatus(row.status), row.description);
+        ASSERT_TRUE(child.Start({"sh", "-c", script}, "", error)) << error;
+        EXPECT_EQ(child.WaitForExit(kLongestMs), wanted);
+        EXPECT_EQ(told.get_future().get(), wanted);
+        EXPECT_EQ(CChildProcess::DescribeStatus(wanted), description);
         EXPECT_FALSE(child.Signal(SIGTERM));
     }
 }
@@ -49,33 +46,29 @@ TEST(AChildProcess, DoesNotOutliveItsObject)
     EXPECT_NE(kill(static_cast<pid_t>(id), 0), 0);
 }
 
+/// What a shell wrote to the file for its output.
+std::string OutputOf(const TestDataRoot& root, const std::string& command)
+{
+    CChildProcess child;
+    std::string text;
+    EXPECT_TRUE(child.Start({"sh", "-c", command}, root.Path() + "output", text)) << text;
+    EXPECT_EQ(child.WaitForExit(kLongestMs), 0);
+    EXPECT_TRUE(Base::FileUtil::ReadFile(root.Path() + "output", text));
+    return text;
+}
+
 TEST(AChildProcess, WritesBothOutputsToTheFile)
 {
-    const TestDataRoot root;
-    const std::string path = root.Path() + "output";
-    CChildProcess child;
-    std::string error;
-    ASSERT_TRUE(child.Start({"sh", "-c", "echo one; echo two >&2"}, path, error)) << error;
-    EXPECT_EQ(child.WaitForExit(kLongestMs), 0);
-    std::string text;
-    ASSERT_TRUE(Base::FileUtil::ReadFile(path, text));
-    EXPECT_EQ(text, "one\ntwo\n");
+    EXPECT_EQ(OutputOf(TestDataRoot(), "echo one; echo two >&2"), "one\ntwo\n");
 }
 
 TEST(AChildProcess, InheritsNoOpenFileOfItsParent)
 {
     const TestDataRoot root;
-    const std::string path = root.Path() + "output";
-    std::FILE* open = std::fopen((root.Path() + "other").c_str(), "w");
-    CChildProcess child;
-    std::string error;
-    ASSERT_TRUE(child.Start({"sh", "-c", "ls -l /proc/$$/fd"}, path, error)) << error;
-    EXPECT_EQ(child.WaitForExit(kLongestMs), 0);
-    std::fclose(open);
-    std::string text;
-    ASSERT_TRUE(Base::FileUtil::ReadFile(path, text));
-    EXPECT_NE(text.find("output"), std::string::npos) << text;
-    EXPECT_EQ(text.find("other"), std::string::npos) << text;
+    const std::ofstream open(root.Path() + "other");
+    const std::string files = OutputOf(root, "ls -l /proc/$$/fd");
+    EXPECT_NE(files.find("output"), std::string::npos) << files;
+    EXPECT_EQ(files.find("other"), std::string::npos) << files;
 }
 
 TEST(AChildProcess, SaysWhyItCannotStart)

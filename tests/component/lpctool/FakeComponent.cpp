@@ -13,13 +13,12 @@
 #include "lpc/Names.h"
 #include "lpc/json/Json.h"
 
-#include <condition_variable>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <deque>
-#include <mutex>
+#include <future>
 #include <thread>
+#include <utility>
 
 namespace {
 
@@ -27,32 +26,6 @@ using lpctool::JsonValue;
 
 constexpr const char* kRegistration =
     R"({"componentRegisterInfo":{"supportUrlList":["/fake/echo","/fake/silent","ask","tell"]}})";
-
-/// Brings what the library's thread receives to the main thread.
-class CMail
-{
-public:
-    void Put(const lpc::CallBackData& data)
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_waiting.push_back(data);
-        m_changed.notify_all();
-    }
-
-    lpc::CallBackData Take()
-    {
-        std::unique_lock<std::mutex> lock(m_mutex);
-        m_changed.wait(lock, [this] { return !m_waiting.empty(); });
-        lpc::CallBackData data = m_waiting.front();
-        m_waiting.pop_front();
-        return data;
-    }
-
-private:
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    std::deque<lpc::CallBackData> m_waiting;
-};
 
 /// The message that a body {"headers": {...}, "body": ...} describes.
 lpc::Message Described(const cJSON* body)
@@ -107,10 +80,16 @@ void Serve(const lpc::CallBackData& call)
         Die(body.get());
 }
 
-bool Join(CMail& mail)
+/// Serves on the library's thread; the promise is kept by the first call that ends a component.
+bool Join(std::promise<void>& end, bool isStubborn)
 {
-    const auto put = [&mail](const lpc::CallBackData& data, void*) {
-        mail.Put(data);
+    static bool isOver = false;
+    const auto serve = [&end, isStubborn](const lpc::CallBackData& call, void*) {
+        const std::string method = call.Header("method");
+        if (isStubborn || (method != lpctool::kEndMethod && method != lpctool::kLostMethod))
+            Serve(call);
+        else if (!std::exchange(isOver, true))
+            end.set_value();
         return true;
     };
     lpc::Message answer;
@@ -118,7 +97,7 @@ bool Join(CMail& mail)
     const lpc::Message registration{
         {{"protocol", "http"}, {"url", lpctool::kRegisterUrl}, {"method", "POST"}}, kRegistration};
     return lpcclient::Init(lpctool::kComponentName, false) &&
-           lpcclient::ConnectToServer(lpctool::kServerName) && lpcclient::SetInvokeCallBack(put, nullptr) &&
+           lpcclient::ConnectToServer(lpctool::kServerName) && lpcclient::SetInvokeCallBack(serve, nullptr) &&
            lpcclient::SendEx(answer, registration, id, 5000) &&
            lpcclient::Notify({{{"method", "initFinish"}}, R"({"method":"initFinish"})"});
 }
@@ -136,16 +115,10 @@ int main(int argc, char* argv[])
         return 3;
     while (way == "unconnected")
         std::this_thread::sleep_for(std::chrono::hours(1));
-    CMail mail;
-    if (!Join(mail))
+    std::promise<void> end;
+    if (!Join(end, way == "stubborn"))
         return 4;
-    for (;;) {
-        const lpc::CallBackData call = mail.Take();
-        const std::string method = call.Header("method");
-        if ((method == lpctool::kEndMethod || method == lpctool::kLostMethod) && way != "stubborn")
-            break;
-        Serve(call);
-    }
+    end.get_future().wait();
     (void)lpcclient::SetInvokeCallBack({}, nullptr);
     (void)lpcclient::DisconnectToServer();
     (void)lpcclient::Uninit();

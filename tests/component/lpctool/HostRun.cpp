@@ -5,26 +5,9 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <fstream>
-#include <thread>
 
-namespace {
-
-constexpr int kLongestMs = 30000;
-
-} // namespace
-
-bool WaitUntil(const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(kLongestMs);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > end)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return true;
-}
+static constexpr int kLongestMs = 30000;
 
 CProgramRun::CProgramRun(const TestDataRoot& root, const std::vector<std::string>& command)
     : m_outputPath(root.Path() + "output-" + Base::GuidUtil::CreateGuid())
@@ -49,7 +32,7 @@ std::string CProgramRun::Output() const
 
 bool CProgramRun::WaitForOutput(const std::string& text) const
 {
-    return WaitUntil([&] { return Output().find(text) != std::string::npos; });
+    return WaitUntil([&] { return Says(text); }, std::chrono::milliseconds(kLongestMs));
 }
 
 std::string CHostRun::WriteScript(const std::string& script) const

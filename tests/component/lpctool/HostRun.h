@@ -2,8 +2,8 @@
 
 #include "ChildProcess/ChildProcess.h"
 #include "support/TestDataRoot.h"
+#include "support/WaitUntil.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -17,6 +17,7 @@ public:
     /// The exit status; fails the test when it does not end in time.
     int Status();
     std::string Output() const;
+    bool Says(const std::string& text) const { return Output().find(text) != std::string::npos; }
 
     /// Waits until the output holds the text; false after the time.
     bool WaitForOutput(const std::string& text) const;
@@ -42,6 +43,7 @@ public:
 
     int Status() { return m_host->Status(); }
     std::string Output() const { return m_host->Output(); }
+    bool Says(const std::string& text) const { return m_host->Says(text); }
     CProgramRun& Host() { return *m_host; }
     const TestDataRoot& Root() const { return m_root; }
 
@@ -51,6 +53,3 @@ private:
     TestDataRoot m_root;
     std::unique_ptr<CProgramRun> m_host;
 };
-
-/// Asks again and again until the condition holds; false after half a minute.
-bool WaitUntil(const std::function<bool()>& condition);

@@ -1,7 +1,6 @@
 #include "component/translations/TsFile.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QDir>
 #include <QProcess>

@@ -26,22 +26,17 @@ Act Key(int key)
 
 TEST(WarningDlg, OneMeansYesAndEverythingElseIsNo)
 {
-    const struct
-    {
-        const char* name;
-        Act act;
-        int answer;
-    } rows[] = {
+    const std::tuple<const char*, Act, int> rows[] = {
         {"yes", ClickOn("yesButton"), 1},
         {"no", ClickOn("noButton"), 0},
         {"return", Key(Qt::Key_Return), 1},
         {"escape", Key(Qt::Key_Escape), 0},
         {"closed", [](QWidget* dialog) { dialog->close(); }, 0},
     };
-    for (const auto& row : rows) {
+    for (const auto& [name, act, answer] : rows) {
         QWidget parent;
-        WhenDialogOpens(row.act);
-        EXPECT_EQ(CWarningDlg::CheckMessageInfo("Save?", "Information", &parent), row.answer) << row.name;
+        WhenDialogOpens(act);
+        EXPECT_EQ(CWarningDlg::CheckMessageInfo("Save?", "Information", &parent), answer) << name;
     }
 }
 

@@ -2,6 +2,8 @@
 #include "Base/FileUtil.h"
 #include "Base/ProcessUtil.h"
 #include "support/CapturedLog.h"
+#include "support/FileContent.h"
+#include "support/FileLog.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -22,22 +24,8 @@ namespace {
 std::string FileLog(const std::string& folder)
 {
     const std::string properties = folder + "log.properties";
-    Base::FileUtil::WriteFileAtomically(properties,
-                                        "log4j.rootLogger=INFO, F\n"
-                                        "log4j.appender.F=org.apache.log4j.FileAppender\n"
-                                        "log4j.appender.F.File=" +
-                                            folder +
-                                            "out.log\n"
-                                            "log4j.appender.F.layout=org.apache.log4j.PatternLayout\n"
-                                            "log4j.appender.F.layout.ConversionPattern=%p|%c|%F|%m%n\n");
+    WriteLogSettings(properties, folder + "out.log", "%p|%c|%F|%m%n", "INFO");
     return properties;
-}
-
-std::string Content(const std::string& path)
-{
-    std::string text;
-    Base::FileUtil::ReadFile(path, text);
-    return text;
 }
 
 TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
@@ -52,7 +40,7 @@ TEST(TheLog, WritesLevelLoggerAndPlaceUntilItIsClosed)
     BASE_ERROR("lost after");
     Base::CLog::Instance().UninitLog();
 
-    const std::string text = Content(root.Path() + "out.log");
+    const std::string text = FileContent(root.Path() + "out.log");
     EXPECT_NE(text.find("FATAL|root|"), std::string::npos) << text;
     EXPECT_NE(text.find("LogTest.cpp|[x] is not exist."), std::string::npos) << text;
     EXPECT_NE(text.find("ERROR|VideoLogger|"), std::string::npos) << text;
@@ -88,7 +76,7 @@ TEST(ClosingTheLog, WaitsForALineThatAnotherThreadIsWriting)
     helper.join();
     writer.join();
     Base::SetLogObserver(nullptr);
-    EXPECT_NE(Content(root.Path() + "out.log").find("|slow"), std::string::npos);
+    EXPECT_NE(FileContent(root.Path() + "out.log").find("|slow"), std::string::npos);
 }
 
 TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
@@ -100,39 +88,32 @@ TEST(TheLog, GoesToStandardErrorWithoutAPropertiesFile)
     EXPECT_NE(testing::internal::GetCapturedStderr().find("ERROR root seen all the same"), std::string::npos);
 }
 
-struct BadSettings
-{
-    const char* name;
-    const char* text;
-    const char* reason;
-};
-
 /// One line says so, and the installed settings hold.
 TEST(TheLog, FollowsTheInstalledSettingsWhenTheUsersGiveNone)
 {
-    const BadSettings rows[] = {
-        {"empty", "", "it sets up no appender for the root logger"},
-        {"noise", "\1\xff=\n\n=\xfe\\", "it sets up no appender for the root logger"},
-        {"unknown class", "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.NoAppender\n",
-         "it sets up no appender for the root logger"},
+    constexpr const char* kNone = "it sets up no appender for the root logger";
+    const std::tuple<const char*, const char*, const char*> rows[] = {
+        {"empty", "", kNone},
+        {"noise", "\1\xff=\n\n=\xfe\\", kNone},
+        {"unknown class", "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.NoAppender\n", kNone},
         {"no such place",
          "log4j.rootLogger=INFO, F\nlog4j.appender.F=org.apache.log4j.FileAppender\n"
          "log4j.appender.F.layout=org.apache.log4j.SimpleLayout\nlog4j.appender.F.File=/proc/no/file\n",
          "the file [/proc/no/file] cannot be written"},
     };
-    for (const BadSettings& row : rows) {
+    for (const auto& [name, settings, reason] : rows) {
         TestDataRoot root;
         const std::string bad = root.Path() + "bad.properties";
-        Base::FileUtil::WriteFileAtomically(bad, row.text);
+        Base::FileUtil::WriteFileAtomically(bad, settings);
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(Base::CLog::Instance().InitLog(bad, FileLog(root.Path()))) << row.name;
+        EXPECT_FALSE(Base::CLog::Instance().InitLog(bad, FileLog(root.Path()))) << name;
         BASE_ERROR("seen all the same");
         Base::CLog::Instance().UninitLog();
         EXPECT_NE(testing::internal::GetCapturedStderr().find("Log: [" + bad +
-                                                              "] cannot be followed: " + row.reason + ".\n"),
+                                                              "] cannot be followed: " + reason + ".\n"),
                   std::string::npos)
-            << row.name;
-        EXPECT_NE(Content(root.Path() + "out.log").find("seen all the same"), std::string::npos) << row.name;
+            << name;
+        EXPECT_NE(FileContent(root.Path() + "out.log").find("seen all the same"), std::string::npos) << name;
     }
 }
 
@@ -191,7 +172,7 @@ TEST(TheLog, SaysHowManyLinesCouldNotBeWritten)
     EXPECT_EQ(std::count(told.begin(), told.end(), '\n'), 1) << told;
     BASE_INFO("after");
     Base::CLog::Instance().UninitLog();
-    const std::string text = Content(root.Path() + "out.log");
+    const std::string text = FileContent(root.Path() + "out.log");
     EXPECT_EQ(text.find("|lost"), std::string::npos) << text;
     EXPECT_NE(text.find("|Here 1000 lines are missing that could not be written.\nINFO|"), std::string::npos)
         << text;

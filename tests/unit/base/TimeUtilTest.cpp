@@ -6,28 +6,21 @@ using namespace Base::TimeUtil;
 
 namespace {
 
-struct TimeText
+TEST(ATimeWithItsText, ConvertsInBothDirections)
 {
-    std::int64_t seconds;
-    const char* text;
-};
-
-class ATimeWithItsText : public testing::TestWithParam<TimeText>
-{};
-
-TEST_P(ATimeWithItsText, ConvertsInBothDirections)
-{
-    EXPECT_EQ(TimeT2StrDatetime(GetParam().seconds), GetParam().text);
-    EXPECT_EQ(StrDatetime2TimeT(GetParam().text), GetParam().seconds);
+    const std::pair<std::int64_t, const char*> rows[] = {{0, "1970-01-01 00:00:00"},
+                                                         {-1, "1969-12-31 23:59:59"},
+                                                         {951782400, "2000-02-29 00:00:00"},
+                                                         {1583020799, "2020-02-29 23:59:59"},
+                                                         {4107542400, "2100-03-01 00:00:00"},
+                                                         {2147483648, "2038-01-19 03:14:08"},
+                                                         {kFirstSecond, "0000-01-01 00:00:00"},
+                                                         {kLastSecond, "9999-12-31 23:59:59"}};
+    for (const auto& [seconds, text] : rows) {
+        EXPECT_EQ(TimeT2StrDatetime(seconds), text);
+        EXPECT_EQ(StrDatetime2TimeT(text), seconds);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, ATimeWithItsText,
-    testing::Values(TimeText{0, "1970-01-01 00:00:00"}, TimeText{-1, "1969-12-31 23:59:59"},
-                    TimeText{951782400, "2000-02-29 00:00:00"}, TimeText{1583020799, "2020-02-29 23:59:59"},
-                    TimeText{4107542400, "2100-03-01 00:00:00"}, TimeText{2147483648, "2038-01-19 03:14:08"},
-                    TimeText{kFirstSecond, "0000-01-01 00:00:00"},
-                    TimeText{kLastSecond, "9999-12-31 23:59:59"}));
 
 TEST(TimesOutsideTheRange, GiveItsNearerEnd)
 {
@@ -47,20 +40,14 @@ TEST(EveryDayOfTwoCenturies, ComesBackAndSortsAfterTheDayBefore)
     }
 }
 
-class ATextThatIsNoTime : public testing::TestWithParam<const char*>
-{};
-
-TEST_P(ATextThatIsNoTime, IsRefused)
+TEST(ATextThatIsNoTime, IsRefused)
 {
-    EXPECT_EQ(StrDatetime2TimeT(GetParam()), std::nullopt);
+    for (const char* text :
+         {"", "2020-01-01", "2020-01-01T00:00:00", "2020-1-01 00:00:00 ", "2020-00-01 00:00:00",
+          "2020-13-01 00:00:00", "2020-01-00 00:00:00", "2021-02-29 00:00:00", "2100-02-29 00:00:00",
+          "2020-04-31 00:00:00", "2020-01-01 24:00:00", "2020-01-01 00:60:00", "2020-01-01 00:00:60",
+          "+020-01-01 00:00:00", "2020-01-01 00:00:0x", "2020-01-01 00:00:000"})
+        EXPECT_EQ(StrDatetime2TimeT(text), std::nullopt) << text;
 }
-
-INSTANTIATE_TEST_SUITE_P(Rows, ATextThatIsNoTime,
-                         testing::Values("", "2020-01-01", "2020-01-01T00:00:00", "2020-1-01 00:00:00 ",
-                                         "2020-00-01 00:00:00", "2020-13-01 00:00:00", "2020-01-00 00:00:00",
-                                         "2021-02-29 00:00:00", "2100-02-29 00:00:00", "2020-04-31 00:00:00",
-                                         "2020-01-01 24:00:00", "2020-01-01 00:60:00", "2020-01-01 00:00:60",
-                                         "+020-01-01 00:00:00", "2020-01-01 00:00:0x",
-                                         "2020-01-01 00:00:000"));
 
 } // namespace

@@ -2,11 +2,9 @@
 #include "framework/core/NewestOnly.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <map>
 #include <optional>
-#include <ostream>
 
 using framework::ComponentState;
 using testing::ElementsAre;
@@ -112,11 +110,6 @@ struct Row
     const char* detail;
 };
 
-std::ostream& operator<<(std::ostream& out, const Row& row)
-{
-    return out << row.name;
-}
-
 const Row kRows[] = {
     {"lives", {1, {}}, {0}, ComponentState::Ready, "is ready"},
     {"dies at once", {{}, 0}, {0, 1, 3, 7, 15}, ComponentState::GivenUp, "is given up"},
@@ -131,20 +124,18 @@ const Row kRows[] = {
     {"dies after a long life", {1, 100}, {0, 101, 202}, ComponentState::Ready, "is ready"},
 };
 
-class Components : public testing::TestWithParam<Row>
-{};
-
-TEST_P(Components, AreStartedAgainWithGrowingPausesAtMostFiveTimesAMinute)
+TEST(AComponent, IsStartedAgainWithGrowingPausesAtMostFiveTimesAMinute)
 {
-    World world(GetParam().life);
-    world.supervisor.Start();
-    world.timer.Pass(300s - 1ms);
-    EXPECT_EQ(world.starts, GetParam().starts) << GetParam().name;
-    EXPECT_EQ(world.supervisor.State(), GetParam().state) << world.detail;
-    EXPECT_THAT(world.detail, HasSubstr(GetParam().detail));
+    for (const Row& row : kRows) {
+        SCOPED_TRACE(row.name);
+        World world(row.life);
+        world.supervisor.Start();
+        world.timer.Pass(300s - 1ms);
+        EXPECT_EQ(world.starts, row.starts);
+        EXPECT_EQ(world.supervisor.State(), row.state) << world.detail;
+        EXPECT_THAT(world.detail, HasSubstr(row.detail));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Supervised, Components, testing::ValuesIn(kRows));
 
 TEST(AComponent, ThatIsEndedOnPurposeIsNotStartedAgain)
 {

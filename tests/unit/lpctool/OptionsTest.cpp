@@ -15,7 +15,7 @@ const std::vector<OptionSpec> kSpecs = {{"--flag", OptionSpec::Kind::Flag},
                                         {"--name", OptionSpec::Kind::Value},
                                         {"--run", OptionSpec::Kind::Words}};
 
-TEST(Options, TakeTheirWords)
+TEST(Options, TakeTheirWordsAndEverythingBehindTwoDashes)
 {
     std::string error;
     const auto options = COptions::Parse({"--run", "p", "-x", "", "--name", "n", "--flag"}, kSpecs, error);
@@ -23,23 +23,14 @@ TEST(Options, TakeTheirWords)
     EXPECT_EQ(options->Words("--run"), (Words{"p", "-x", ""}));
     EXPECT_EQ(options->Value("--name"), "n");
     EXPECT_TRUE(options->Has("--flag"));
-}
-
-TEST(Options, TakeEverythingBehindTwoDashes)
-{
-    std::string error;
-    const auto options = COptions::Parse({"--flag", "--run", "--", "p", "--flag", "--other"}, kSpecs, error);
-    ASSERT_TRUE(options) << error;
-    EXPECT_EQ(options->Words("--run"), (Words{"p", "--flag", "--other"}));
+    const auto behind = COptions::Parse({"--flag", "--run", "--", "p", "--flag", "--other"}, kSpecs, error);
+    ASSERT_TRUE(behind) << error;
+    EXPECT_EQ(behind->Words("--run"), (Words{"p", "--flag", "--other"}));
 }
 
 TEST(Options, ComplainAboutWhatTheyDoNotKnow)
 {
-    const struct
-    {
-        Words arguments;
-        const char* complaint;
-    } rows[] = {
+    const std::pair<Words, const char*> rows[] = {
         {{"--other"}, "unknown argument --other"},
         {{"word"}, "unknown argument word"},
         {{"--flag", "word"}, "unknown argument word"},
@@ -49,10 +40,10 @@ TEST(Options, ComplainAboutWhatTheyDoNotKnow)
         {{"--name", "a", "b"}, "unknown argument b"},
         {{"--name", "a", "--name", "b"}, "--name is given twice"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [arguments, complaint] : rows) {
         std::string error;
-        EXPECT_FALSE(COptions::Parse(row.arguments, kSpecs, error));
-        EXPECT_EQ(error, row.complaint);
+        EXPECT_FALSE(COptions::Parse(arguments, kSpecs, error));
+        EXPECT_EQ(error, complaint);
     }
 }
 
@@ -67,12 +58,23 @@ TEST(Options, CheckNumbers)
     }
 }
 
-TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
+/// The tool's exit code, and what it wrote to its output and error output.
+std::tuple<int, std::string, std::string> RunWith(const Words& arguments, const char* input = "")
+{
+    std::istringstream in(input);
+    std::ostringstream out;
+    std::ostringstream err;
+    const int code = RunTool(arguments, in, out, err);
+    return {code, out.str(), err.str()};
+}
+
+TEST(TheTool, RefusesAWrongCommandLineOrScriptWithExitCode2BeforeAnythingStarts)
 {
     const struct
     {
         Words arguments;
         const char* complaint;
+        const char* input = "";
     } rows[] = {
         {{}, "vantor-lpc drives"},
         {{"dance"}, "unknown command dance"},
@@ -80,6 +82,8 @@ TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
         {{"host", "--language", "x"}, "--language must be"},
         {{"host", "--skin", "Red Skin"}, "--skin cannot hold a blank"},
         {{"host", "--script", "/nowhere/s.jsonl"}, "/nowhere/s.jsonl: cannot be read"},
+        {{"host", "--script", "-"}, "-:2: \"sleep_ms\" must be", "\n{\"sleep_ms\": 0}"},
+        {{"host", "--script", "-"}, "-:3: needs a program started", "# a\n\n{\"expect_exit\": 0}"},
         {{"call"}, "--url or --method is needed"},
         {{"call", "--url", "/u", "--body", "{"}, "--body is not valid JSON at column 2"},
         {{"call", "--url", "/u", "--timeout", "0"}, "--timeout must be"},
@@ -87,43 +91,20 @@ TEST(TheTool, RefusesAWrongCommandLineWithExitCode2)
         {{"watch", "--count", "0"}, "--count must be"},
     };
     for (const auto& row : rows) {
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool(row.arguments, in, out, err), kWrongUse) << row.complaint;
-        EXPECT_NE(err.str().find(row.complaint), std::string::npos) << err.str();
-        EXPECT_EQ(out.str(), "");
-    }
-}
-
-TEST(TheTool, ReportsAFaultOfTheScriptBeforeAnythingStarts)
-{
-    const struct
-    {
-        const char* script;
-        const char* complaint;
-    } rows[] = {{"\n{\"sleep_ms\": 0}", "-:2: \"sleep_ms\" must be"},
-                {"# a\n\n{\"expect_exit\": 0}", "-:3: needs a program started with --spawn"}};
-    for (const auto& row : rows) {
-        std::istringstream in(row.script);
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool({"host", "--script", "-"}, in, out, err), kWrongUse);
-        EXPECT_NE(err.str().find(row.complaint), std::string::npos) << err.str();
-        EXPECT_EQ(out.str(), "");
+        const auto [code, output, complaint] = RunWith(row.arguments, row.input);
+        EXPECT_EQ(code, kWrongUse) << row.complaint;
+        EXPECT_NE(complaint.find(row.complaint), std::string::npos) << complaint;
+        EXPECT_EQ(output, "");
     }
 }
 
 TEST(TheTool, HasHelpForEveryCommand)
 {
-    for (const Words& arguments : {Words{"--help"}, Words{"host", "--help"}, Words{"call", "--help"},
-                                   Words{"notify", "--help"}, Words{"watch", "--help"}}) {
-        std::istringstream in;
-        std::ostringstream out;
-        std::ostringstream err;
-        EXPECT_EQ(RunTool(arguments, in, out, err), kGood);
-        const std::string wanted = arguments.size() == 1 ? "vantor-lpc drives" : "vantor-lpc " + arguments[0];
-        EXPECT_EQ(out.str().rfind(wanted, 0), 0u) << out.str();
+    for (const std::string command : {"", "host", "call", "notify", "watch"}) {
+        const auto [code, output, complaint] =
+            RunWith(command.empty() ? Words{"--help"} : Words{command, "--help"});
+        EXPECT_EQ(code, kGood) << complaint;
+        EXPECT_EQ(output.rfind("vantor-lpc " + (command.empty() ? "drives" : command), 0), 0u) << output;
     }
 }
 

@@ -30,21 +30,16 @@ protected:
         Base::Encrypt::ParamsOf(std::string(2 * Base::Encrypt::kKeyBytes, '7'), "devices").value();
 };
 
-TEST_F(DeviceCredentials, AreOpened)
+TEST_F(DeviceCredentials, AreOpenedAndMayBeAbsent)
 {
-    auto device = Device(Seal(params, "admin"), Seal(params, "secret"));
     const CapturedLog log;
-    EXPECT_TRUE(decryptDeviceResponse(device));
-    EXPECT_EQ(device.userName, "admin");
-    EXPECT_EQ(device.password, "secret");
+    for (const char* password : {"secret", ""}) {
+        auto device = Device(Seal(params, "admin"), *password ? Seal(params, password) : "");
+        EXPECT_TRUE(decryptDeviceResponse(device));
+        EXPECT_EQ(device.userName, "admin");
+        EXPECT_EQ(device.password, password);
+    }
     EXPECT_TRUE(log.Lines().empty());
-}
-
-TEST_F(DeviceCredentials, MayBeAbsent)
-{
-    auto device = Device("", "");
-    EXPECT_TRUE(decryptDeviceResponse(device));
-    EXPECT_EQ(device.userName + device.password, "");
 }
 
 TEST_F(DeviceCredentials, AreBothEmptiedWhenOneDoesNotOpen)
@@ -64,7 +59,7 @@ TEST_F(DeviceCredentials, AreBothEmptiedWhenOneDoesNotOpen)
         EXPECT_FALSE(decryptDeviceResponse(device));
         EXPECT_EQ(device.userName + device.password, "");
         EXPECT_EQ(device.guid, "d");
-        EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+        EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
     }
 }
 
@@ -75,7 +70,7 @@ TEST_F(DeviceCredentials, DoNotOpenWithoutParameters)
     const CapturedLog log;
     EXPECT_FALSE(decryptDeviceResponse(device));
     EXPECT_EQ(device.userName + device.password, "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+    EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
 }
 
 TEST_F(DeviceCredentials, OfAListOpenEachForItself)
@@ -88,7 +83,7 @@ TEST_F(DeviceCredentials, OfAListOpenEachForItself)
     EXPECT_EQ(list.devices[0].userName, "");
     EXPECT_EQ(list.devices[1].password, "secret");
     EXPECT_EQ(list.devices[2].password, "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error), Lines{"CDecryptionComm failed!"});
+    EXPECT_EQ(log.Errors(), Lines{"CDecryptionComm failed!"});
 }
 
 } // namespace

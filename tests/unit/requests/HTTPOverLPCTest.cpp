@@ -66,54 +66,47 @@ std::string Failed(int error)
     return "Failed to request [url-/a]. lpcclient::SendEx failed. [error-" + std::to_string(error) + "].";
 }
 
-struct SendRow
+TEST(SendingARequest, IsRepeatedOnlyWhenAllowedAndOnlyOn1015)
 {
-    const char* name;
-    bool retry;
-    std::vector<int> errors;
-    std::size_t attempts;
-    int pauses;
-    Lines lines; ///< in their order; all but the last are warnings when there is a failure
-    int lastError;
-};
-
-class SendingARequest : public ::testing::TestWithParam<SendRow>
-{};
-
-TEST_P(SendingARequest, IsRepeatedOnlyWhenAllowedAndOnlyOn1015)
-{
-    const SendRow& row = GetParam();
-    FakeChannel channel(row.errors);
-    Base::Error::SetLastError(0);
-    const CapturedLog log;
-    RspInfos answer;
-    EXPECT_EQ(channel.Client().request(answer, ParamsFor("/a"), row.retry), row.lastError == 0);
-    EXPECT_EQ(channel.requests.size(), row.attempts);
-    EXPECT_EQ(channel.pauses, row.pauses);
-    EXPECT_EQ(Base::Error::GetLastError(), row.lastError);
-    EXPECT_EQ(answer.status, row.lastError == 0 ? 200 : 0);
-
-    Lines lines;
-    for (const CapturedLog::Line& line : log.Lines()) {
-        const bool isRetry = line.message.find("Retry") != std::string::npos;
-        EXPECT_EQ(line.level, isRetry ? Base::LogLevel::Warn : Base::LogLevel::Error);
-        EXPECT_EQ(line.logger, "VideoLogger");
-        lines.push_back(line.message);
+    const struct
+    {
+        const char* name;
+        bool retry;
+        std::vector<int> errors;
+        std::size_t attempts;
+        int pauses;
+        Lines lines; ///< in their order; all but the last are warnings when there is a failure
+        int lastError;
+    } rows[] = {
+        {"first attempt good", true, {}, 1, 0, {}, 0},
+        {"forbidden retry", false, {1015, 1015}, 1, 0, {Failed(1015)}, 1015},
+        {"failures", true, {1015, 1015, 1015}, 3, 2, {Retry(1), Retry(2), Retry(3), Failed(1015)}, 1015},
+        {"second attempt good", true, {1015}, 2, 1, {Retry(1)}, 0},
+        {"third attempt good", true, {1015, 1015}, 3, 2, {Retry(1), Retry(2)}, 0},
+        {"other error", true, {1007}, 1, 0, {Failed(1007)}, 1007},
+        {"other error after a retry", true, {1015, 1006}, 2, 1, {Retry(1), Failed(1006)}, 1006},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        FakeChannel channel(row.errors);
+        Base::Error::SetLastError(0);
+        const CapturedLog log;
+        RspInfos answer;
+        EXPECT_EQ(channel.Client().request(answer, ParamsFor("/a"), row.retry), row.lastError == 0);
+        EXPECT_EQ(channel.requests.size(), row.attempts);
+        EXPECT_EQ(channel.pauses, row.pauses);
+        EXPECT_EQ(Base::Error::GetLastError(), row.lastError);
+        EXPECT_EQ(answer.status, row.lastError == 0 ? 200 : 0);
+        Lines lines;
+        for (const CapturedLog::Line& line : log.Lines()) {
+            const bool isRetry = line.message.find("Retry") != std::string::npos;
+            EXPECT_EQ(line.level, isRetry ? Base::LogLevel::Warn : Base::LogLevel::Error);
+            EXPECT_EQ(line.logger, "VideoLogger");
+            lines.push_back(line.message);
+        }
+        EXPECT_EQ(lines, row.lines);
     }
-    EXPECT_EQ(lines, row.lines);
 }
-
-const SendRow kSendRows[] = {
-    {"FirstAttemptGood", true, {}, 1, 0, {}, 0},
-    {"ForbiddenRetry", false, {1015, 1015}, 1, 0, {Failed(1015)}, 1015},
-    {"ThreeFailures", true, {1015, 1015, 1015}, 3, 2, {Retry(1), Retry(2), Retry(3), Failed(1015)}, 1015},
-    {"SecondAttemptGood", true, {1015}, 2, 1, {Retry(1)}, 0},
-    {"ThirdAttemptGood", true, {1015, 1015}, 3, 2, {Retry(1), Retry(2)}, 0},
-    {"OtherError", true, {1007}, 1, 0, {Failed(1007)}, 1007},
-    {"OtherErrorAfterARetry", true, {1015, 1006}, 2, 1, {Retry(1), Failed(1006)}, 1006},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, SendingARequest, ::testing::ValuesIn(kSendRows),
-                         [](const auto& info) { return info.param.name; });
 
 TEST(SentRequest, CarriesRouteMethodTimeoutAndBody)
 {
@@ -147,34 +140,6 @@ TEST(SentRequest, HasNoContentTypeWithoutBodyAndARangeOnlyWhenAsked)
     EXPECT_EQ(channel.requests[1].headers["Range"], "bytes=0-99");
 }
 
-struct AnswerRow
-{
-    const char* name;
-    lpc::HeaderMap headers;
-    std::string body;
-    Lines lines;
-    int lastError;
-};
-
-class Answer : public ::testing::TestWithParam<AnswerRow>
-{};
-
-TEST_P(Answer, IsGoodOrReportedOnce)
-{
-    const AnswerRow& row = GetParam();
-    FakeChannel channel({}, {row.headers, row.body});
-    Base::Error::SetLastError(0);
-    const CapturedLog log;
-    RspInfos answer;
-    EXPECT_EQ(channel.Client().request(answer, ParamsFor("/a"), true), row.lastError == 0);
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error), row.lines);
-    EXPECT_EQ(log.Lines().size(), row.lines.size());
-    EXPECT_EQ(Base::Error::GetLastError(), row.lastError);
-    EXPECT_EQ(answer.body, row.body);
-    EXPECT_EQ(answer.headers, row.headers);
-    EXPECT_EQ(channel.requests.size(), 1u);
-}
-
 std::string Error(int status, int code)
 {
     return "Failed to request [url-/a]. [error-" + std::to_string(status) + "-" + std::to_string(code) + "].";
@@ -185,40 +150,46 @@ std::string Unparsed(const std::string& body)
     return "Failed to request [url-/a]. JSON paring failed. [body-" + body + "].";
 }
 
-const std::string kPicture = std::string("\xFF\xD8\xFF\0{", 5);
-
-const AnswerRow kAnswerRows[] = {
-    {"Json", {{"status", "200"}}, "{}", {}, 0},
-    {"NoHeaders", {}, "{\"a\":1}", {}, 0},
-    {"Empty", {{"status", "204"}, {"Content-Type", "application/json"}}, "", {}, 0},
-    {"NotFound", {{"status", "404"}}, "", {Error(404, 0)}, 404},
-    {"ErrorNumber", {{"errorCode", "17"}}, "{}", {Error(200, 17)}, 17},
-    {"ErrorNumberAndStatus", {{"status", "500"}, {"errorCode", "17"}}, "{}", {Error(500, 17)}, 17},
-    {"Redirection", {{"status", "302"}}, "{}", {Error(302, 0)}, 302},
-    {"StatusThatIsNoNumber", {{"status", "2xx"}}, "{}", {Error(-1, 0)}, -1},
-    {"ErrorThatIsNoNumber", {{"errorCode", "0x"}}, "{}", {Error(200, -1)}, -1},
-    {"NoJson", {}, "{", {Unparsed("{")}, commlayer::kBadAnswer},
-    {"NoJsonOfStatedType",
-     {{"Content-Type", "application/json; charset=\"UTF-8\""}},
-     "x",
-     {Unparsed("x")},
-     commlayer::kBadAnswer},
-    {"NoJsonWithCredentials",
-     {},
-     "{\"password\":\"a\"",
-     {Unparsed("{\"password\":***")},
-     commlayer::kBadAnswer},
-    {"LongNoJson", {}, std::string(9000, 'x'), {Unparsed(std::string(4096, 'x'))}, commlayer::kBadAnswer},
-    {"ErrorBeforeNoJson", {{"status", "500"}}, "x", {Error(500, 0)}, 500},
-    {"Picture", {{"Content-Type", "image/jpeg"}}, kPicture, {}, 0},
-    {"PartOfAPicture",
-     {{"Content-Type", "image/jpeg"}, {"Content-Range", "bytes 0-4/100"}, {"status", "206"}},
-     kPicture,
-     {},
-     0},
-};
-INSTANTIATE_TEST_SUITE_P(Rows, Answer, ::testing::ValuesIn(kAnswerRows),
-                         [](const auto& info) { return info.param.name; });
+TEST(Answer, IsGoodOrReportedOnce)
+{
+    constexpr int kBad = commlayer::kBadAnswer;
+    const std::string picture("\xFF\xD8\xFF\0{", 5);
+    const lpc::HeaderMap json = {{"Content-Type", "application/json; charset=\"UTF-8\""}};
+    const lpc::HeaderMap partOfAPicture = {
+        {"Content-Type", "image/jpeg"}, {"Content-Range", "bytes 0-4/100"}, {"status", "206"}};
+    const std::tuple<const char*, lpc::HeaderMap, std::string, Lines, int> rows[] = {
+        {"JSON", {{"status", "200"}}, "{}", {}, 0},
+        {"no headers", {}, "{\"a\":1}", {}, 0},
+        {"empty", {{"status", "204"}, {"Content-Type", "application/json"}}, "", {}, 0},
+        {"not found", {{"status", "404"}}, "", {Error(404, 0)}, 404},
+        {"error number", {{"errorCode", "17"}}, "{}", {Error(200, 17)}, 17},
+        {"number and status", {{"status", "500"}, {"errorCode", "17"}}, "{}", {Error(500, 17)}, 17},
+        {"redirection", {{"status", "302"}}, "{}", {Error(302, 0)}, 302},
+        {"status that is no number", {{"status", "2xx"}}, "{}", {Error(-1, 0)}, -1},
+        {"error that is no number", {{"errorCode", "0x"}}, "{}", {Error(200, -1)}, -1},
+        {"no JSON", {}, "{", {Unparsed("{")}, kBad},
+        {"no JSON of stated type", json, "x", {Unparsed("x")}, kBad},
+        {"no JSON, a secret", {}, "{\"password\":\"a\"", {Unparsed("{\"password\":***")}, kBad},
+        {"long no JSON", {}, std::string(9000, 'x'), {Unparsed(std::string(4096, 'x'))}, kBad},
+        {"error before no JSON", {{"status", "500"}}, "x", {Error(500, 0)}, 500},
+        {"picture", {{"Content-Type", "image/jpeg"}}, picture, {}, 0},
+        {"part of a picture", partOfAPicture, picture, {}, 0},
+    };
+    for (const auto& [name, headers, body, lines, lastError] : rows) {
+        SCOPED_TRACE(name);
+        FakeChannel channel({}, {headers, body});
+        Base::Error::SetLastError(0);
+        const CapturedLog log;
+        RspInfos answer;
+        EXPECT_EQ(channel.Client().request(answer, ParamsFor("/a"), true), lastError == 0);
+        EXPECT_EQ(log.Errors(), lines);
+        EXPECT_EQ(log.Lines().size(), lines.size());
+        EXPECT_EQ(Base::Error::GetLastError(), lastError);
+        EXPECT_EQ(answer.body, body);
+        EXPECT_EQ(answer.headers, headers);
+        EXPECT_EQ(channel.requests.size(), 1u);
+    }
+}
 
 TEST(FailedAnswer, LeavesNothingOfAnEarlierOne)
 {

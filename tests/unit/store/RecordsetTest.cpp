@@ -27,13 +27,7 @@ protected:
 
 TEST_F(Recordset, ReadsEveryKindOfColumnInEveryWay)
 {
-    const struct
-    {
-        const char* value;
-        std::string text;
-        int number;
-        std::int64_t time;
-    } rows[] = {
+    const std::tuple<const char*, std::string, int, std::int64_t> rows[] = {
         {"NULL", "", 0, 0},
         {"''", "", 0, 0},
         {"x''", "", 0, 0},
@@ -51,12 +45,12 @@ TEST_F(Recordset, ReadsEveryKindOfColumnInEveryWay)
         {"'1970-13-02 00:00:01'", "1970-13-02 00:00:01", 1970, 0},
         {"x'410042'", std::string("A\0B", 3), 0, 0},
     };
-    for (const auto& row : rows) {
-        CSQLite3Recordset result = Query(std::string("SELECT ") + row.value);
+    for (const auto& [value, text, number, time] : rows) {
+        CSQLite3Recordset result = Query(std::string("SELECT ") + value);
         ASSERT_TRUE(result.Next());
-        EXPECT_EQ(result.GetString(0), row.text) << row.value;
-        EXPECT_EQ(result.GetInt(0), row.number) << row.value;
-        EXPECT_EQ(result.GetDateTime(0), row.time) << row.value;
+        EXPECT_EQ(result.GetString(0), text) << value;
+        EXPECT_EQ(result.GetInt(0), number) << value;
+        EXPECT_EQ(result.GetDateTime(0), time) << value;
     }
 }
 
@@ -111,11 +105,7 @@ TEST_F(Recordset, RefusesRowsThatNeedTooMuchMemory)
 
 TEST_F(Recordset, RunsExactlyOneStatement)
 {
-    const struct
-    {
-        std::string sql;
-        bool runs;
-    } rows[] = {
+    const std::pair<std::string, bool> rows[] = {
         {"SELECT 1", true},
         {"SELECT 1;", true},
         {"SELECT 1; ; -- done\n /* really */", true},
@@ -126,11 +116,11 @@ TEST_F(Recordset, RunsExactlyOneStatement)
         {std::string("SELECT 1\0", 9), false},
         {"CREATE TABLE Made (a); CREATE TABLE MadeToo (a)", false},
     };
-    for (const auto& row : rows) {
-        if (row.runs)
-            EXPECT_NO_THROW(m_engine.Run(row.sql)) << row.sql;
+    for (const auto& [sql, runs] : rows) {
+        if (runs)
+            EXPECT_NO_THROW(m_engine.Run(sql)) << sql;
         else
-            EXPECT_THROW(m_engine.Run(row.sql), CSQLite3Exception) << row.sql;
+            EXPECT_THROW(m_engine.Run(sql), CSQLite3Exception) << sql;
     }
     EXPECT_EQ(m_engine.QueryInt("SELECT count(*) FROM sqlite_master"), 0)
         << "the first of two statements ran";

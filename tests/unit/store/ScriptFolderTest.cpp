@@ -23,14 +23,9 @@ TEST(ScriptFolder, GivesTheStepsInOrder)
     EXPECT_EQ((*scripts)[1].version, 2);
 }
 
-TEST(ScriptFolder, RefusesAFolderWhoseNumbersDoNotRunFromOne)
+TEST(ScriptFolder, RefusesAFolderWhoseNumbersDoNotRunFromOneOrWithTooLongAScript)
 {
-    const struct
-    {
-        const char* what;
-        std::vector<std::string> files;
-        const char* named;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<std::string>, const char*> rows[] = {
         {"no script", {}, "no script"},
         {"a gap", {"0001_a.sql", "0003_c.sql"}, "0003_c.sql"},
         {"a number twice", {"0001_a.sql", "0002_b.sql", "0002_c.sql"}, "0002_c.sql"},
@@ -39,22 +34,15 @@ TEST(ScriptFolder, RefusesAFolderWhoseNumbersDoNotRunFromOne)
         {"no number", {"0001_a.sql", "fix.sql"}, "fix.sql"},
         {"three digits", {"001_a.sql"}, "001_a.sql"},
         {"five digits", {"00001_a.sql"}, "00001_a.sql"},
+        {"a script over the limit", {"0001_big.sql"}, "0001_big.sql"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, files, named] : rows) {
         const TestDataRoot root;
-        for (const std::string& file : row.files)
-            std::ofstream(root.Path() + file) << "SELECT 1;";
+        for (const std::string& file : files)
+            std::ofstream(root.Path() + file)
+                << std::string(file == "0001_big.sql" ? 1024 * 1024 + 1 : 9, ' ');
         std::string message;
-        EXPECT_FALSE(ReadScripts(root.Path(), message)) << row.what;
-        EXPECT_NE(message.find(row.named), std::string::npos) << row.what << ": " << message;
+        EXPECT_FALSE(ReadScripts(root.Path(), message)) << what;
+        EXPECT_NE(message.find(named), std::string::npos) << what << ": " << message;
     }
-}
-
-TEST(ScriptFolder, RefusesAScriptOverTheLimit)
-{
-    const TestDataRoot root;
-    std::ofstream(root.Path() + "0001_big.sql") << std::string(1024 * 1024 + 1, ' ');
-    std::string message;
-    EXPECT_FALSE(ReadScripts(root.Path(), message));
-    EXPECT_NE(message.find("0001_big.sql"), std::string::npos);
 }

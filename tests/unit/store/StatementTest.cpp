@@ -8,11 +8,7 @@ using Sqlite3DO::Quoted;
 
 TEST(Quoted, DoublesEveryQuoteAndLeavesTheRest)
 {
-    const struct
-    {
-        std::string text;
-        std::string quoted;
-    } rows[] = {
+    const std::pair<std::string, std::string> rows[] = {
         {"", ""},
         {"plain", "plain"},
         {"O'Hara's", "O''Hara''s"},
@@ -22,8 +18,8 @@ TEST(Quoted, DoublesEveryQuoteAndLeavesTheRest)
         {std::string("a\0b", 3), "a\xEF\xBF\xBD"
                                  "b"},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(Quoted(row.text), row.quoted);
+    for (const auto& [text, quoted] : rows)
+        EXPECT_EQ(Quoted(text), quoted);
 }
 
 TEST(FormatStatement, GivesTheStatementThatFitsWithItsClosingByte)
@@ -35,5 +31,5 @@ TEST(FormatStatement, RefusesAStatementThatIsOneByteTooLongWithOneLine)
 {
     const CapturedLog log;
     EXPECT_EQ(FormatStatement<8>("%s=%d", "abcde", 12), "");
-    EXPECT_EQ(log.Messages(Base::LogLevel::Error).size(), 1u);
+    EXPECT_EQ(log.Errors().size(), 1u);
 }

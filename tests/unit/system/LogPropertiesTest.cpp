@@ -5,7 +5,6 @@
 #include "support/TestDataRoot.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
@@ -82,16 +81,6 @@ TEST_F(LogProperties, FullFileRollsOverAndFewOldOnesAreKept)
     for (const auto& entry : std::filesystem::directory_iterator(m_paths.logPath()))
         files += entry.is_regular_file() ? 1 : 0;
     EXPECT_EQ(files, 5u);
-}
-
-TEST_F(LogProperties, OnlyTheUserMayReadTheLog)
-{
-    BASE_INFO("one line");
-    Written();
-    struct stat found
-    {};
-    ASSERT_EQ(::stat((m_paths.logPath() + "Video.C.log").c_str(), &found), 0);
-    EXPECT_EQ(found.st_mode & 0777, 0600u);
 }
 
 } // namespace

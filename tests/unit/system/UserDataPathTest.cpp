@@ -1,12 +1,10 @@
 #include "CommonMethodLib/UserDataPath.h"
-#include "CommonMethodLib/EventUploadMgr.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
-#include <cstdio>
 #include <fstream>
 
 namespace {
@@ -64,26 +62,22 @@ TEST_F(UserDataPath, EveryFolderLiesBelowTheDataRootAndExists)
 
 TEST_F(UserDataPath, ModesHoldForItsFoldersAndForWhatTheProcessCreatesLater)
 {
-    struct Row
-    {
-        int dirMode, fileMode, folder, laterFile, laterFolder;
-    };
-    const Row rows[] = {
+    const std::tuple<int, int, int, int, int> rows[] = {
         {-1, -1, 0700, 0600, 0700},
         {0750, 0640, 0750, 0640, 0750},
         {0755, 0600, 0755, 0600, 0711}, // Later folders share the umask that protects the files.
     };
-    for (const Row& row : rows) {
+    for (const auto& [dirMode, fileMode, folder, laterFile, laterFolder] : rows) {
         TestDataRoot data;
         CUserDataPath paths;
-        ASSERT_TRUE(paths.init("/opt/", "Video.C", row.dirMode, row.fileMode));
+        ASSERT_TRUE(paths.init("/opt/", "Video.C", dirMode, fileMode));
         Touch(paths.logPath() + "later");
         fs::create_directory(paths.logPath() + "folder");
 
-        EXPECT_EQ(ModeOf(paths.componentPath()), row.folder);
-        EXPECT_EQ(ModeOf(paths.dumpPath()), row.folder);
-        EXPECT_EQ(ModeOf(paths.logPath() + "later"), row.laterFile);
-        EXPECT_EQ(ModeOf(paths.logPath() + "folder"), row.laterFolder);
+        EXPECT_EQ(ModeOf(paths.componentPath()), folder);
+        EXPECT_EQ(ModeOf(paths.dumpPath()), folder);
+        EXPECT_EQ(ModeOf(paths.logPath() + "later"), laterFile);
+        EXPECT_EQ(ModeOf(paths.logPath() + "folder"), laterFolder);
     }
 }
 
@@ -109,12 +103,8 @@ TEST_F(UserDataPath, PropertiesThatTheUserPutThereWinOverTheInstalledOnes)
 
 TEST_F(UserDataPath, WhatCannotBeUsedIsRefusedWithOneLineAndLogsToStandardError)
 {
-    struct Row
-    {
-        std::string root, component, line;
-    };
     Touch(m_data.Path() + "file");
-    const Row rows[] = {
+    const std::tuple<std::string, std::string, std::string> rows[] = {
         {m_data.Path() + "file", "Video.C",
          "User data: cannot write in [" + m_data.Path() + "file/]: Not a directory.\n"},
         {"/proc/vantor", "Video.C",
@@ -123,25 +113,14 @@ TEST_F(UserDataPath, WhatCannotBeUsedIsRefusedWithOneLineAndLogsToStandardError)
         {m_data.Path(), "..", "User data: [..] is not the name of a component.\n"},
         {m_data.Path(), "", "User data: [] is not the name of a component.\n"},
     };
-    for (const Row& row : rows) {
-        setenv("VANTOR_USER_DATA", row.root.c_str(), 1);
+    for (const auto& [root, component, line] : rows) {
+        setenv("VANTOR_USER_DATA", root.c_str(), 1);
         CUserDataPath paths;
         testing::internal::CaptureStderr();
-        EXPECT_FALSE(paths.init("/opt/", row.component, -1, -1));
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), row.line);
+        EXPECT_FALSE(paths.init("/opt/", component, -1, -1));
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), line);
         EXPECT_EQ(paths.logPropertiesPath(), "");
     }
-}
-
-TEST_F(UserDataPath, FullDumpIsWantedOnlyWhileItsMarkerLiesInTheDumpFolder)
-{
-    ASSERT_TRUE(m_paths.init("/opt/", "Video.C", -1, -1));
-    auto& upload = comm_methodlib::CEventUploadMgr::Instance();
-    EXPECT_FALSE(upload.isCreateCrashDump(m_paths.dumpPath()));
-    Touch(m_paths.dumpPath() + "full-dump");
-    EXPECT_TRUE(upload.isCreateCrashDump(m_paths.dumpPath()));
-    fs::remove(m_paths.dumpPath() + "full-dump");
-    EXPECT_FALSE(upload.isCreateCrashDump(m_paths.dumpPath()));
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Base/Error.h"
 #include "XPR/XPR_File.h"
 #include "XPR/XPR_Mutex.h"
+#include "support/FileContent.h"
 #include "support/TestDataRoot.h"
 
 #include <gtest/gtest.h>
@@ -22,12 +23,6 @@ namespace fs = std::filesystem;
 void Put(const std::string& path, const std::string& content)
 {
     std::ofstream(path, std::ios::binary) << content;
-}
-
-std::string Get(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
 }
 
 class XprFile : public testing::Test
@@ -72,18 +67,13 @@ TEST_F(XprFile, ModeDecidesWhatTheFileMayBeBefore)
             continue;
         EXPECT_EQ(XPR_WriteFile(file, "+", 1), 1);
         EXPECT_TRUE(XPR_CloseFile(file));
-        EXPECT_EQ(Get(m_data.Path() + row.name), row.after);
+        EXPECT_EQ(FileContent(m_data.Path() + row.name), row.after);
     }
 }
 
 TEST_F(XprFile, WhatCannotBeOpenedGivesNoFileAndTheReason)
 {
-    struct Row
-    {
-        const char* name;
-        int flags, mode, error;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, int, int, int> rows[] = {
         {"missing", 1, 0x1000, ENOENT},
         {"folder", 1, 0x1000, EISDIR},
         {"pipe", 1, 0x1000, EINVAL},
@@ -95,14 +85,14 @@ TEST_F(XprFile, WhatCannotBeOpenedGivesNoFileAndTheReason)
         {"old", XPR_OPEN_READ, 0, EINVAL},
         {"old", XPR_OPEN_READ, 0x3000, EINVAL},
     };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(testing::Message() << row.name << " flags " << row.flags << " mode " << row.mode);
+    for (const auto& [name, flags, mode, error] : rows) {
+        SCOPED_TRACE(testing::Message() << name << " flags " << flags << " mode " << mode);
         Base::Error::SetLastError(0);
-        EXPECT_EQ(Open(row.name, row.flags, row.mode), nullptr);
-        EXPECT_EQ(Base::Error::GetLastError(), row.error);
+        EXPECT_EQ(Open(name, flags, mode), nullptr);
+        EXPECT_EQ(Base::Error::GetLastError(), error);
     }
     EXPECT_EQ(XPR_OpenFile(nullptr, 1, 0x1000), nullptr);
-    EXPECT_EQ(Get(m_data.Path() + "old"), "old");
+    EXPECT_EQ(FileContent(m_data.Path() + "old"), "old");
 }
 
 TEST_F(XprFile, ReadsToTheEndAndThenNothing)
@@ -124,21 +114,19 @@ TEST_F(XprFile, ReadsToTheEndAndThenNothing)
 
 TEST_F(XprFile, SizeAndTimeAreRightAlsoBeyondFourGiB)
 {
-    struct Row
-    {
-        std::int64_t size, modified;
-    };
     constexpr std::int64_t kGiB = std::int64_t{1} << 30;
-    for (const Row& row : {Row{0, 0}, Row{3, 1700000000}, Row{4 * kGiB, 1}, Row{5 * kGiB + 7, 4102444800}}) {
-        fs::resize_file(m_data.Path() + "old", static_cast<std::uintmax_t>(row.size));
-        const timespec times[] = {{row.modified, 0}, {row.modified, 0}};
+    const std::pair<std::int64_t, std::int64_t> rows[] = {
+        {0, 0}, {3, 1700000000}, {4 * kGiB, 1}, {5 * kGiB + 7, 4102444800}};
+    for (const auto& [size, modified] : rows) {
+        fs::resize_file(m_data.Path() + "old", static_cast<std::uintmax_t>(size));
+        const timespec times[] = {{modified, 0}, {modified, 0}};
         ASSERT_EQ(::utimensat(AT_FDCWD, (m_data.Path() + "old").c_str(), times, 0), 0);
         const XPR_FileHandle file = Open("old", 1, 0x1000);
         ASSERT_NE(file, nullptr);
         XPR_STAT stat{-1, -1};
         EXPECT_TRUE(XPR_FileStat(file, &stat));
-        EXPECT_EQ(stat.size, row.size);
-        EXPECT_EQ(stat.modified, row.modified);
+        EXPECT_EQ(stat.size, size);
+        EXPECT_EQ(stat.modified, modified);
         EXPECT_TRUE(XPR_CloseFile(file));
     }
 }
