@@ -693,6 +693,45 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileChoices</name>
+    <message>
+        <source>Search</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>كاميرا أو مجموعة</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>الأيام</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>اليوم</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>آخر ٧ أيام</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>آخر ٣٠ يومًا</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>كل الأيام</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>الصور</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>المقاطع</translation>
+    </message>
+</context>
+<context>
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
@@ -752,42 +791,6 @@
     <message>
         <source>Refresh</source>
         <translation>تحديث</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>بحث</translation>
-    </message>
-    <message>
-        <source>Camera or group</source>
-        <translation>كاميرا أو مجموعة</translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <translation>الأيام</translation>
-    </message>
-    <message>
-        <source>Today</source>
-        <translation>اليوم</translation>
-    </message>
-    <message>
-        <source>Last 7 days</source>
-        <translation>آخر ٧ أيام</translation>
-    </message>
-    <message>
-        <source>Last 30 days</source>
-        <translation>آخر ٣٠ يومًا</translation>
-    </message>
-    <message>
-        <source>All days</source>
-        <translation>كل الأيام</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>الصور</translation>
-    </message>
-    <message>
-        <source>Clips</source>
-        <translation>المقاطع</translation>
     </message>
     <message>
         <source>Nothing found</source>

@@ -693,6 +693,45 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileChoices</name>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>Kamera oder Gruppe</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Tage</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Letzte 7 Tage</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Letzte 30 Tage</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>Alle Tage</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+</context>
+<context>
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
@@ -752,42 +791,6 @@
     <message>
         <source>Refresh</source>
         <translation>Aktualisieren</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Camera or group</source>
-        <translation>Kamera oder Gruppe</translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <translation>Tage</translation>
-    </message>
-    <message>
-        <source>Today</source>
-        <translation>Heute</translation>
-    </message>
-    <message>
-        <source>Last 7 days</source>
-        <translation>Letzte 7 Tage</translation>
-    </message>
-    <message>
-        <source>Last 30 days</source>
-        <translation>Letzte 30 Tage</translation>
-    </message>
-    <message>
-        <source>All days</source>
-        <translation>Alle Tage</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>Bilder</translation>
-    </message>
-    <message>
-        <source>Clips</source>
-        <translation>Clips</translation>
     </message>
     <message>
         <source>Nothing found</source>

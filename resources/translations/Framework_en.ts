@@ -693,6 +693,45 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileChoices</name>
+    <message>
+        <source>Search</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>Camera or group</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>Last 7 days</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>Last 30 days</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>All days</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>Clips</translation>
+    </message>
+</context>
+<context>
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
@@ -752,42 +791,6 @@
     <message>
         <source>Refresh</source>
         <translation>Refresh</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>Search</translation>
-    </message>
-    <message>
-        <source>Camera or group</source>
-        <translation>Camera or group</translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <translation>Days</translation>
-    </message>
-    <message>
-        <source>Today</source>
-        <translation>Today</translation>
-    </message>
-    <message>
-        <source>Last 7 days</source>
-        <translation>Last 7 days</translation>
-    </message>
-    <message>
-        <source>Last 30 days</source>
-        <translation>Last 30 days</translation>
-    </message>
-    <message>
-        <source>All days</source>
-        <translation>All days</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>Pictures</translation>
-    </message>
-    <message>
-        <source>Clips</source>
-        <translation>Clips</translation>
     </message>
     <message>
         <source>Nothing found</source>

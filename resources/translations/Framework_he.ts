@@ -693,6 +693,45 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileChoices</name>
+    <message>
+        <source>Search</source>
+        <translation>חיפוש</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>מצלמה או קבוצה</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>ימים</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>היום</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>7 הימים האחרונים</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>30 הימים האחרונים</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>כל הימים</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>תמונות</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>סרטונים</translation>
+    </message>
+</context>
+<context>
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
@@ -752,42 +791,6 @@
     <message>
         <source>Refresh</source>
         <translation>רענון</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>חיפוש</translation>
-    </message>
-    <message>
-        <source>Camera or group</source>
-        <translation>מצלמה או קבוצה</translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <translation>ימים</translation>
-    </message>
-    <message>
-        <source>Today</source>
-        <translation>היום</translation>
-    </message>
-    <message>
-        <source>Last 7 days</source>
-        <translation>7 הימים האחרונים</translation>
-    </message>
-    <message>
-        <source>Last 30 days</source>
-        <translation>30 הימים האחרונים</translation>
-    </message>
-    <message>
-        <source>All days</source>
-        <translation>כל הימים</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>תמונות</translation>
-    </message>
-    <message>
-        <source>Clips</source>
-        <translation>סרטונים</translation>
     </message>
     <message>
         <source>Nothing found</source>

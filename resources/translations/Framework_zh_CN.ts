@@ -693,6 +693,45 @@
     </message>
 </context>
 <context>
+    <name>framework::CLocalFileChoices</name>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Camera or group</source>
+        <translation>摄像机或分组</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>日期范围</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>Last 7 days</source>
+        <translation>最近 7 天</translation>
+    </message>
+    <message>
+        <source>Last 30 days</source>
+        <translation>最近 30 天</translation>
+    </message>
+    <message>
+        <source>All days</source>
+        <translation>全部日期</translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Clips</source>
+        <translation>录像片段</translation>
+    </message>
+</context>
+<context>
     <name>framework::CLocalFileModel</name>
     <message>
         <source>under 1 KiB</source>
@@ -752,42 +791,6 @@
     <message>
         <source>Refresh</source>
         <translation>刷新</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <translation>搜索</translation>
-    </message>
-    <message>
-        <source>Camera or group</source>
-        <translation>摄像机或分组</translation>
-    </message>
-    <message>
-        <source>Days</source>
-        <translation>日期范围</translation>
-    </message>
-    <message>
-        <source>Today</source>
-        <translation>今天</translation>
-    </message>
-    <message>
-        <source>Last 7 days</source>
-        <translation>最近 7 天</translation>
-    </message>
-    <message>
-        <source>Last 30 days</source>
-        <translation>最近 30 天</translation>
-    </message>
-    <message>
-        <source>All days</source>
-        <translation>全部日期</translation>
-    </message>
-    <message>
-        <source>Pictures</source>
-        <translation>图片</translation>
-    </message>
-    <message>
-        <source>Clips</source>
-        <translation>录像片段</translation>
     </message>
     <message>
         <source>Nothing found</source>

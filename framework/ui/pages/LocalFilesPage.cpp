@@ -4,16 +4,13 @@
 #include "VantorGUIToolkit/Widgets/Banner.h"
 #include "VantorGUIToolkit/Widgets/EmptyState.h"
 #include "VantorGUIToolkit/Widgets/PageHeader.h"
-#include "VantorGUIToolkit/Widgets/SearchEdit.h"
 #include "VantorGUIToolkit/Widgets/TableView.h"
-#include "framework/ui/pages/CameraBox.h"
+#include "framework/ui/pages/LocalFileChoices.h"
 #include "framework/ui/pages/LocalFileModel.h"
 #include "framework/ui/pages/Thumbnails.h"
 #include "framework/ui/parts/StateText.h"
 #include "framework/ui/parts/WindowTable.h"
 
-#include <QButtonGroup>
-#include <QDateTime>
 #include <QDesktopServices>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -34,19 +31,12 @@ namespace {
 
 constexpr int kWidths[] = {336, 120, 144, 168, 80, 120};
 constexpr int kRowHeight = Grid::Huge + Grid::Medium;
-constexpr int kLeastCameraWidth = 144;
-constexpr int kMostCameraWidth = 280;
-constexpr int kCameraStretch = 16; ///< it grows first
-constexpr int kSearchWidth = 200;
 constexpr int kLeastCountWidth = 160; ///< so that nothing moves when it comes and goes
 constexpr int kSlowMs = 200;          ///< an answer that comes sooner is not worth a flicker
 
 /// Nothing else is given to the desktop, which would run programs: a path comes from the catalogue, which any
 /// program of the user can add to.
 const char* const kSuffixes[] = {"jpg", "jpeg", "png", "bmp", "avi", "mp4", "mkv", "mov", "ts"};
-
-/// The last second that has a year of four digits.
-constexpr std::int64_t kEndOfTime = 253402300799;
 
 bool IsPictureOrClip(const QString& path)
 {
@@ -65,10 +55,10 @@ CLocalFilesPage::CLocalFilesPage(ILocalFileSource& source, CResources& resources
           tr("Pictures and clips on this computer, as the component has catalogued them."), this)),
       m_refresh(m_header->AddAction(tr("Refresh"), ButtonKind::Normal)),
       m_openFolder(m_header->AddAction(tr("Show folder"), ButtonKind::Normal)),
-      m_openFile(m_header->AddAction(tr("Open"), ButtonKind::Primary)), m_kinds(new QButtonGroup(this)),
-      m_cameras(new CCameraBox(this)), m_span(new QComboBox(this)),
-      m_count(makeLabel({}, TextRole::Hint, this)), m_banner(new CBanner({}, Tone::Warn, this)),
-      m_states(new QStackedWidget(this)), m_table(new CTableView(this))
+      m_openFile(m_header->AddAction(tr("Open"), ButtonKind::Primary)),
+      m_choices(new CLocalFileChoices(this)), m_count(makeLabel({}, TextRole::Hint, this)),
+      m_banner(new CBanner({}, Tone::Warn, this)), m_states(new QStackedWidget(this)),
+      m_table(new CTableView(this))
 {
     setObjectName("localFilesPage");
     setSurface(this, Surface::Page);
@@ -80,7 +70,7 @@ CLocalFilesPage::CLocalFilesPage(ILocalFileSource& source, CResources& resources
     layout->setContentsMargins(Grid::Wide, Grid::Wide, Grid::Wide, Grid::Wide);
     layout->setSpacing(Grid::Large);
     layout->addWidget(m_header);
-    layout->addLayout(MakeChoices());
+    layout->addLayout(SetUpChoices());
     layout->addWidget(m_banner);
     layout->addWidget(m_states, 1);
     m_states->addWidget(m_table);
@@ -105,52 +95,19 @@ void CLocalFilesPage::SetUpHeader()
     connect(m_openFolder, &QPushButton::clicked, this, [this] { Open(Opening::Folder); });
 }
 
-QPushButton* CLocalFilesPage::AddKind(const QString& text, const char* iconName, const char* name,
-                                      LocalFileType type)
+QHBoxLayout* CLocalFilesPage::SetUpChoices()
 {
-    QPushButton* button = makeButton(text, ButtonKind::Normal, this);
-    button->setObjectName(name);
-    button->setIcon(icon(iconName));
-    button->setCheckable(true);
-    m_kinds->addButton(button, int(type));
-    return button;
-}
-
-QHBoxLayout* CLocalFilesPage::MakeChoices()
-{
-    auto* search = new CSearchEdit(this);
-    search->setObjectName("search");
-    search->setPlaceholderText(tr("Search"));
-    search->setMaximumWidth(kSearchWidth);
-    m_cameras->setObjectName("cameras");
-    m_cameras->setAccessibleName(tr("Camera or group"));
-    m_cameras->setMinimumWidth(kLeastCameraWidth);
-    m_cameras->setMaximumWidth(kMostCameraWidth);
-    m_span->setObjectName("span");
-    m_span->setAccessibleName(tr("Days"));
-    m_span->addItems({tr("Today"), tr("Last 7 days"), tr("Last 30 days"), tr("All days")});
-    m_span->setCurrentIndex(int(Span::Week));
     m_count->setObjectName("count");
     m_count->setWordWrap(false);
     m_count->setMinimumWidth(kLeastCountWidth);
     m_count->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    auto* kinds = new QHBoxLayout;
-    kinds->setSpacing(Grid::Tight);
-    kinds->addWidget(AddKind(tr("Pictures"), "picture", "pictures", LocalFileType::Picture));
-    kinds->addWidget(AddKind(tr("Clips"), "video", "clips", LocalFileType::Video));
-    m_kinds->button(int(LocalFileType::Picture))->setChecked(true);
+    connect(m_choices, &CLocalFileChoices::Changed, this, &CLocalFilesPage::Reload);
+    connect(m_choices, &CLocalFileChoices::SearchChanged, m_filter, &CLocalFileFilter::SetText);
+    connect(m_choices, &CLocalFileChoices::SearchChanged, this, &CLocalFilesPage::ShowCount);
     auto* row = new QHBoxLayout;
     row->setSpacing(Grid::Medium);
-    row->addLayout(kinds);
-    row->addWidget(m_cameras, kCameraStretch);
-    row->addWidget(m_span);
-    row->addWidget(search);
-    row->addWidget(m_count, 1);
-    connect(m_kinds, &QButtonGroup::idClicked, this, &CLocalFilesPage::Reload);
-    connect(m_cameras, &CCameraBox::ChoiceChanged, this, &CLocalFilesPage::Reload);
-    connect(m_span, qOverload<int>(&QComboBox::activated), this, &CLocalFilesPage::Reload);
-    connect(search, &QLineEdit::textChanged, m_filter, &CLocalFileFilter::SetText);
-    connect(search, &QLineEdit::textChanged, this, &CLocalFilesPage::ShowCount);
+    row->addWidget(m_choices, 1);
+    row->addWidget(m_count);
     return row;
 }
 
@@ -197,10 +154,9 @@ void CLocalFilesPage::OnComponentChanged()
 
 void CLocalFilesPage::OnResourcesChanged()
 {
-    const std::string before = m_cameras->Chosen().guid;
-    m_cameras->Fill(m_resources);
+    const bool isOther = m_choices->SetResources(m_resources);
     m_model->SetNames(m_resources);
-    if (isVisible() && m_cameras->Chosen().guid != before)
+    if (isVisible() && isOther)
         Reload();
 }
 
@@ -214,36 +170,12 @@ int CLocalFilesPage::FileCount() const
     return m_states->currentWidget() == m_table ? m_model->rowCount() : -1;
 }
 
-LocalFileType CLocalFilesPage::Type() const
-{
-    return static_cast<LocalFileType>(m_kinds->checkedId());
-}
-
-protocol::LocalFileQuery CLocalFilesPage::Query() const
-{
-    constexpr int kDays[] = {1, 7, 30};
-    const CCameraBox::Choice choice = m_cameras->Chosen();
-    protocol::LocalFileQuery query;
-    query.type = Type();
-    query.contition = choice.condition;
-    query.guid = choice.guid;
-    query.timeBegin.count = 0;
-    query.timeEnd.count = kEndOfTime;
-    if (m_span->currentIndex() != int(Span::All)) {
-        const QDate today = QDate::currentDate();
-        query.timeBegin.count =
-            today.addDays(1 - kDays[m_span->currentIndex()]).startOfDay().toSecsSinceEpoch();
-        query.timeEnd.count = today.endOfDay().toSecsSinceEpoch();
-    }
-    return query;
-}
-
 void CLocalFilesPage::Reload()
 {
     m_banner->hide();
     if (m_source.State() != ComponentState::Ready)
         return ShowAway();
-    const protocol::LocalFileQuery query = Query();
+    const protocol::LocalFileQuery query = m_choices->Query();
     if (query.guid.empty())
         return ShowReason("camera", tr("No camera yet"), tr("Add a device, or enter a camera's identifier."));
     if (!m_slow.isActive())
@@ -271,7 +203,7 @@ void CLocalFilesPage::Take(AskOutcome outcome, const ILocalFileSource::Files& fi
     }
     const auto* selected = SelectedRow();
     const std::string chosen = selected ? selected->fileGuid : std::string();
-    m_table->setColumnHidden(CLocalFileModel::Length, Type() == LocalFileType::Picture);
+    m_table->setColumnHidden(CLocalFileModel::Length, m_choices->Type() == LocalFileType::Picture);
     m_model->SetFiles(files);
     if (files->empty())
         return ShowEmpty();
@@ -285,7 +217,7 @@ void CLocalFilesPage::Take(AskOutcome outcome, const ILocalFileSource::Files& fi
 void CLocalFilesPage::ShowEmpty()
 {
     const QString sentence = tr("Nothing was catalogued for this camera or group in these days.");
-    if (Type() == LocalFileType::Picture)
+    if (m_choices->Type() == LocalFileType::Picture)
         ShowReason("picture", tr("No pictures"), sentence);
     else
         ShowReason("video", tr("No clips"), sentence);
@@ -333,7 +265,8 @@ void CLocalFilesPage::ShowFailure(const QString& sentence)
 void CLocalFilesPage::ShowCount()
 {
     const QLocale locale = QLocale();
-    const QString form = Type() == LocalFileType::Picture ? tr("Pictures: %1 (%2)") : tr("Clips: %1 (%2)");
+    const QString form =
+        m_choices->Type() == LocalFileType::Picture ? tr("Pictures: %1 (%2)") : tr("Clips: %1 (%2)");
     const QString number =
         m_filter->rowCount() == m_model->rowCount()
             ? locale.toString(m_model->rowCount())

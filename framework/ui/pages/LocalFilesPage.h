@@ -5,8 +5,6 @@
 #include <QTimer>
 #include <QWidget>
 
-class QButtonGroup;
-class QComboBox;
 class QHBoxLayout;
 class QLabel;
 class QPushButton;
@@ -20,7 +18,7 @@ class CTableView;
 
 namespace framework {
 
-class CCameraBox;
+class CLocalFileChoices;
 class CLocalFileFilter;
 class CLocalFileModel;
 class CResources;
@@ -47,17 +45,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    enum class Span { Today, Week, Month, All };
     enum class Opening { File, Folder };
 
     void SetUpHeader();
-    QHBoxLayout* MakeChoices();
-    QPushButton* AddKind(const QString& text, const char* iconName, const char* name,
-                         protocol::LocalFileType type);
+    QHBoxLayout* SetUpChoices();
     void SetUpTable();
     void AddShortcuts();
-    protocol::LocalFileType Type() const;
-    protocol::LocalFileQuery Query() const;
     void Take(AskOutcome outcome, const ILocalFileSource::Files& files);
     void Show(QWidget* state);
     /// Shows that there is no list, and why.
@@ -82,9 +75,7 @@ private:
     QPushButton* m_refresh;
     QPushButton* m_openFolder;
     QPushButton* m_openFile;
-    QButtonGroup* m_kinds;
-    CCameraBox* m_cameras;
-    QComboBox* m_span;
+    CLocalFileChoices* m_choices;
     QLabel* m_count;
     VantorGUIToolkit::CBanner* m_banner;
     QStackedWidget* m_states;
