@@ -7,6 +7,7 @@
 #include "framework/ui/Look.h"
 #include "framework/ui/StartDialog.h"
 #include "framework/ui/pages/SwitchUserDialog.h"
+#include "framework/ui/parts/DiskLook.h"
 #include "framework/ui/parts/WindowMemory.h"
 #include "framework/ui/shell/MainWindow.h"
 #include "framework/ui/tour/Tour.h"
@@ -53,6 +54,7 @@ CFrameworkApplication::~CFrameworkApplication()
     m_demonstration.reset();
     m_tour.reset();
     m_window.reset();
+    EndDiskLooks();
     VantorGUIToolkit::toolkit().UnInit();
 }
 

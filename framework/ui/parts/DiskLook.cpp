@@ -13,4 +13,11 @@ QThreadPool& DiskThreads()
     return *threads;
 }
 
+void EndDiskLooks()
+{
+    constexpr int kLongestWaitMs = 1000;
+    DiskThreads().clear();
+    DiskThreads().waitForDone(kLongestWaitMs);
+}
+
 } // namespace framework

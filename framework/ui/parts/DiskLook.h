@@ -6,9 +6,11 @@
 
 namespace framework {
 
-/// Threads that may wait for a slow or lost drive. They are never ended: the program's end does not wait for
-/// them.
+/// Threads that may wait for a slow or lost drive.
 QThreadPool& DiskThreads();
+
+/// At the program's end: what has been begun gets a second; what is stuck ends with the process.
+void EndDiskLooks();
 
 /// Runs look() on one of these threads, and then take(what it returned) on the GUI thread, where owner lives,
 /// if that is still there. Any thread while owner is there.
