@@ -100,7 +100,7 @@ TEST(TheTool, RefusesAWrongCommandLineOrScriptWithExitCode2BeforeAnythingStarts)
 
 TEST(TheTool, HasHelpForEveryCommand)
 {
-    for (const std::string& command : {"", "host", "call", "notify", "watch"}) {
+    for (const std::string command : {"", "host", "call", "notify", "watch"}) {
         const auto [code, output, complaint] =
             RunWith(command.empty() ? Words{"--help"} : Words{command, "--help"});
         EXPECT_EQ(code, kGood) << complaint;
