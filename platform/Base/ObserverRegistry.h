@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <memory>
 #include <mutex>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -172,9 +171,11 @@ public:
     }
 
 private:
+    using CObserverRegistry<Observer>::Notify;
+
     void Deliver(Param param)
     {
-        this->Notify([&param](Observer& observer) { (observer.*Hear)(param); });
+        Notify([&param](Observer& observer) { (observer.*Hear)(param); });
     }
 
     CMessageLoop& m_loop;

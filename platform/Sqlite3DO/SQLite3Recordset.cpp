@@ -122,6 +122,13 @@ void CSQLite3Recordset::Reset()
     *this = CSQLite3Recordset();
 }
 
+void CSQLite3Recordset::FailTooLarge()
+{
+    Reset();
+    m_tooLarge = true;
+    throw CSQLite3Exception(kErrorTooBig, "the rows of the query need too much memory");
+}
+
 void CSQLite3Recordset::AddInteger(std::int64_t value)
 {
     m_cells.emplace_back();
@@ -139,7 +146,7 @@ void CSQLite3Recordset::AddReal(double value)
 void CSQLite3Recordset::AddText(const char* text, std::size_t size)
 {
     if (m_text.size() + size > kLimitBytes)
-        throw CSQLite3Exception(kErrorTooBig, "the rows of the query need too much memory");
+        FailTooLarge();
     m_cells.emplace_back();
     m_cells.back().kind = Kind::Text;
     m_cells.back().text = {static_cast<std::uint32_t>(m_text.size()), static_cast<std::uint32_t>(size)};
@@ -152,7 +159,7 @@ void CSQLite3Recordset::EndRow(std::size_t columns)
     m_columns = columns;
     ++m_rows;
     if (m_cells.size() * sizeof(Cell) + m_text.size() > kLimitBytes)
-        throw CSQLite3Exception(kErrorTooBig, "the rows of the query need too much memory");
+        FailTooLarge();
 }
 
 } // namespace Sqlite3DO

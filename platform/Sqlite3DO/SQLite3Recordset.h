@@ -38,6 +38,9 @@ public:
 
     std::size_t RowCount() const { return m_rows; }
 
+    /// Whether the query failed because its rows need more than kLimitBytes.
+    bool TooLarge() const { return m_tooLarge; }
+
 private:
     friend class CSQLite3Engine;
 
@@ -60,6 +63,7 @@ private:
     };
 
     void Reset();
+    [[noreturn]] void FailTooLarge();
     void AddInteger(std::int64_t value);
     void AddReal(double value);
     void AddText(const char* text, std::size_t size);
@@ -76,6 +80,7 @@ private:
     std::size_t m_columns = 0;
     std::size_t m_rows = 0;
     std::size_t m_position = 0;
+    bool m_tooLarge = false;
 };
 
 } // namespace Sqlite3DO

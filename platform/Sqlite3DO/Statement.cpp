@@ -1,6 +1,7 @@
 #include "Sqlite3DO/Statement.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 
 #include <cstdio>
 
@@ -24,7 +25,8 @@ std::string FormatStatementV(std::size_t size, const char* format, std::va_list 
     std::string buffer(size, '\0');
     const int length = std::vsnprintf(buffer.data(), size, format, arguments);
     if (length < 0 || static_cast<std::size_t>(length) >= size) {
-        BASE_ERROR("The statement does not fit, needed: [%d], room: [%zu].", length, size);
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "The statement does not fit, needed: [%d], room: [%zu].",
+                     length, size);
         return std::string();
     }
     buffer.resize(static_cast<std::size_t>(length));

@@ -28,7 +28,8 @@ public:
     virtual void DeleteVideoByPath(const std::string& filePath) = 0;
     virtual VideoFileRecord GetVideoById(const std::string& id) = 0;
     virtual VideoFileRecord GetVideoByPath(const std::string& filePath) = 0;
-    /// The clips that occurred from begin to end, both included. Always true.
+    /// The clips that occurred from begin to end, both included. False, with no records, only when they are
+    /// more than a query may read, half a million or so.
     virtual bool QueryVideosOfCamera(const std::string& cameraId, TimeValue begin, TimeValue end,
                                      std::vector<VideoFileRecord>& records) = 0;
     virtual bool QueryVideosOfGroup(const std::string& groupId, TimeValue begin, TimeValue end,

@@ -5,6 +5,7 @@
 
 #include <boost/locale/utf.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <iterator>
@@ -20,8 +21,10 @@ using Utf8 = boost::locale::utf::utf_traits<char>;
 constexpr boost::locale::utf::code_point kReplacement = 0xFFFD;
 constexpr long long kLargestExact = (1LL << 53) - 1;
 
-/// Of a tree, which takes some 80 bytes for each: longer texts of many small values would take gigabytes.
-constexpr std::size_t kMostItems = 1000000;
+/// Of a tree, which takes some 80 bytes for each: long texts of many small values would take gigabytes. Lists
+/// of records, whose values have more bytes than these on average, are read at any length.
+constexpr std::size_t kMostSmallItems = 1000000;
+constexpr std::size_t kSmallItemBytes = 12;
 
 bool IsCharacter(boost::locale::utf::code_point point)
 {
@@ -58,18 +61,19 @@ bool CheckEscapes(const std::string& text, std::string& error)
     return true;
 }
 
-/// Whether the tree would have no more than kMostItems: each but the first stands behind one of "[{,".
+/// Whether the tree would not have too many items: each but the first stands behind one of "[{,".
 bool CheckItems(const std::string& text, std::string& error)
 {
+    const std::size_t most = std::max(kMostSmallItems, text.size() / kSmallItemBytes);
     std::size_t items = 1;
     bool inText = false;
-    for (std::size_t at = 0; at < text.size() && text.size() > kMostItems; ++at) {
+    for (std::size_t at = 0; at < text.size() && text.size() > most; ++at) {
         const char c = text[at];
         if (c == '"')
             inText = !inText;
         else if (inText)
             at += c == '\\' ? 1 : 0;
-        else if ((c == ',' || c == '[' || c == '{') && ++items > kMostItems) {
+        else if ((c == ',' || c == '[' || c == '{') && ++items > most) {
             error = AtByte("too many values", at);
             return false;
         }

@@ -16,9 +16,9 @@ struct TreeDeleter
 using Tree = std::unique_ptr<cJSON, TreeDeleter>;
 
 /// The tree of a whole JSON text. Nothing when the text is not JSON, is followed by anything but blanks, is
-/// nested deeper than CJSON_NESTING_LIMIT, has more than a million values, is not UTF-8, or holds a NUL (also
-/// as an escape, which a C string would cut); error then says what is wrong and at which byte. Writes no log
-/// line.
+/// nested deeper than CJSON_NESTING_LIMIT, has more than a million values of less than 12 bytes on average,
+/// is not UTF-8, or holds a NUL (also as an escape, which a C string would cut); error then says what is
+/// wrong and at which byte. Writes no log line.
 Tree ParseText(const std::string& text, std::string& error);
 
 /// The shortest text of an item.

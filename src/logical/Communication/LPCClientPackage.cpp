@@ -3,14 +3,11 @@
 #include "Base/AsyncTask.h"
 #include "Base/Log.h"
 #include "Base/RateLimit.h"
-#include "Base/StringUtil.h"
 #include "CommonMethodLib/WorkerPool.h"
 #include "CommunicationLayer/FrameworkRequests.h"
-#include "LPC_Wire/Limits.h"
-#include "Protocol/JSONStruct/HTTP/HTTPCommonJSONStruct.h"
 #include "Protocol/JSONStruct/LPC/LPCCommonJSONStruct.h"
-#include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "logical/Communication/LPCNames.h"
+#include "logical/Communication/RouteHandler.h"
 
 namespace video {
 
@@ -32,7 +29,6 @@ Result LoggedSend(Result result)
 }
 
 constexpr int kOk = 200;
-constexpr int kPayloadTooLarge = 413;
 
 lpc::HeaderMap AnswerHeaders(const lpcclient::LPCCallBackData& call, const RouteAnswer& answer)
 {
@@ -42,15 +38,6 @@ lpc::HeaderMap AnswerHeaders(const lpcclient::LPCCallBackData& call, const Route
     if (answer.error != 0)
         headers[lpc::kErrorCodeHeader] = std::to_string(answer.error);
     return headers;
-}
-
-std::string TooLongBody()
-{
-    protocol::CommonResponseData response;
-    response.result.errorCode = lpc::kTooLong;
-    response.message = Base::StringUtil::Format(
-        "The answer is longer than the %zu bytes that can be sent. Ask for less.", lpc::kMaxBody);
-    return protocol::WriteJSONStr(response);
 }
 
 /// Counts the tasks that live.
@@ -160,7 +147,7 @@ bool CLPCClientPackage::Answer(const lpcclient::LPCCallBackData& call, const Rou
         return true;
     if (lpcclient::GetLPCLastError() != lpc::kTooLong)
         return false;
-    const RouteAnswer tooLong{TooLongBody(), kPayloadTooLarge, lpc::kTooLong};
+    const RouteAnswer tooLong = TooLongAnswer();
     return Reply({call.requestId, AnswerHeaders(call, tooLong), tooLong.body});
 }
 

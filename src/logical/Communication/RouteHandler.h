@@ -3,14 +3,16 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "logical/Communication/RouteTable.h"
 
-#include <string>
 #include <type_traits>
 #include <utility>
 
 namespace video {
 
-/// A handler of a route whose body holds the structure Body, and whose answer is the structure, or the body
-/// of one, that work gives:
+/// Says that the answer is longer than the channel takes.
+RouteAnswer TooLongAnswer();
+
+/// A handler of a route whose body holds the structure Body, and whose answer is the one, or holds the
+/// structure, that work gives:
 ///
 ///     http.Bind(route::kLocalFileQuery, AnswerTo<LocalFileQuery>(answer, [&](const LocalFileQuery& query) {
 ///         return FilesOf(query);
@@ -24,8 +26,8 @@ LPCHandler AnswerTo(AnswerCall answer, Work work)
         Body body;
         if (!protocol::TParseJSONStr(body, call.body))
             return;
-        if constexpr (std::is_same_v<decltype(work(body)), std::string>)
-            answer(call, {work(body)});
+        if constexpr (std::is_same_v<decltype(work(body)), RouteAnswer>)
+            answer(call, work(body));
         else
             answer(call, {protocol::WriteJSONStr(work(body))});
     };

@@ -92,15 +92,16 @@ std::string ResultBody(const std::vector<Record>& records)
 
 /// ofCamera and ofGroup are the catalogue's queries for one kind of record.
 template<typename Record, typename Query>
-std::string FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query, Query ofCamera, Query ofGroup)
+RouteAnswer FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query, Query ofCamera, Query ofGroup)
 {
     std::vector<Record> records;
     const Query ask = query.contition == LocalFileCondition::Group ? ofGroup : ofCamera;
-    (files.*ask)(query.guid, query.timeBegin.count, query.timeEnd.count, records);
-    return ResultBody(records);
+    if (!(files.*ask)(query.guid, query.timeBegin.count, query.timeEnd.count, records))
+        return TooLongAnswer();
+    return {ResultBody(records)};
 }
 
-std::string FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query)
+RouteAnswer FilesOf(ILocalFile& files, const protocol::LocalFileQuery& query)
 {
     if (query.type == LocalFileType::Video)
         return FilesOf<VideoFileRecord>(files, query, &ILocalFile::QueryVideosOfCamera,

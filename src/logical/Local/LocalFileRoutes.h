@@ -17,7 +17,8 @@ using LocalFileSource = std::function<vantor::ILocalFile&()>;
 ///   as "localFile", is catalogued and answered with "fileNotifyResult"; a "localFile" with type and guid
 ///   alone is looked up and answered with "localFileResult", whose path is empty when there is no such
 ///   record;
-/// - "localFileQuery": the pictures or clips of a camera or group in a span of time.
+/// - "localFileQuery": the pictures or clips of a camera or group in a span of time; TooLongAnswer for more
+///   than can be read or sent.
 ///
 /// A file without its path (a clip's videoFilePath, a picture's picFilePath) could never be found or opened:
 /// it has its line in the log and is not catalogued. That, and a failure of the database, is answered with an

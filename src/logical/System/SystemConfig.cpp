@@ -164,12 +164,6 @@ bool CSystemConfig::ChangeAndSave(const SaveRule& rule, const std::function<void
     return SaveInTurn(rule);
 }
 
-bool CSystemConfig::Save(const SaveRule& rule)
-{
-    const std::lock_guard<std::mutex> saving(m_saveMutex);
-    return SaveInTurn(rule);
-}
-
 bool CSystemConfig::SaveInTurn(const SaveRule& rule)
 {
     Record record;
@@ -180,22 +174,14 @@ bool CSystemConfig::SaveInTurn(const SaveRule& rule)
         saved = m_saved;
         if (!rule.always && SameSettings(record, saved))
             return false;
-        m_writing = true;
     }
     PostDifferences(record, saved, rule.tell);
     m_hasRow = WriteRow(record, rule.bracketed) || m_hasRow;
     const std::lock_guard<std::mutex> lock(m_mutex);
-    m_writing = false;
     const bool differed = !SameSettings(record, saved);
     if (rule.kept)
         m_saved = std::move(record);
     return differed;
-}
-
-void CSystemConfig::SaveAndAnnounce(const SaveRule& rule)
-{
-    if (Save(rule))
-        m_announce();
 }
 
 bool CSystemConfig::WriteRow(const Record& record, bool bracketed)

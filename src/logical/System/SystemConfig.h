@@ -48,8 +48,8 @@ public:
     void Set(M Record::*member, M value)
     {
         static_assert(std::is_integral_v<M>, "folders have setters of their own");
-        if (Put(member, value))
-            SaveAndAnnounce(kSetter);
+        if (!Holds(member, value) && ChangeAndSave(kSetter, [&](Record& record) { record.*member = value; }))
+            m_announce();
     }
 
     /// Makes several changes at once, saves once, and announces once when anything differed. Observers hear
@@ -161,14 +161,12 @@ private:
         return m_working.*member;
     }
 
-    /// Whether there is something to save, or a save to wait for.
+    /// Whether setting the field would change nothing, and nothing is left to save.
     template<typename M>
-    bool Put(M Record::*member, M value)
+    bool Holds(M Record::*member, M value) const
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_working.*member = value;
-        m_settled.*member = value;
-        return m_writing || !SameSettings(m_settled, m_saved);
+        return m_working.*member == value && m_settled.*member == value && SameSettings(m_settled, m_saved);
     }
 
     template<typename M>
@@ -182,10 +180,8 @@ private:
 
     void ChangeAll(const std::function<void(Record&)>& change);
     bool ChangeAndSave(const SaveRule& rule, const std::function<void(Record&)>& change);
-    bool Save(const SaveRule& rule);
     /// The caller holds m_saveMutex. Whether the settings differed.
     bool SaveInTurn(const SaveRule& rule);
-    void SaveAndAnnounce(const SaveRule& rule);
     bool WriteRow(const Record& record, bool bracketed);
     void PostDifferences(const Record& record, const Record& saved, Tell tell);
     void Switch(bool Record::*member, bool on, SwitchStatement statement, std::int32_t type);
@@ -202,9 +198,8 @@ private:
 
     mutable std::mutex m_mutex; ///< of what follows
     Record m_working;
-    Record m_settled;       ///< the working record without edits that are not applied yet
-    Record m_saved;         ///< what the table holds
-    bool m_writing = false; ///< m_saved is about to change
+    Record m_settled; ///< the working record without edits that are not applied yet
+    Record m_saved;   ///< what the table holds
 
     Base::CPostedObservers<vantor::IVideoSystemConfigObserver,
                            &vantor::IVideoSystemConfigObserver::OnVideoSystemConfigChanged>

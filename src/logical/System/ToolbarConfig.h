@@ -11,8 +11,7 @@ namespace video {
 
 /// The component's one owner of the toolbar's layout. GUI thread, but for Load and the observers.
 ///
-/// The settings page changes the layout that Working gives and calls Apply; with Discard it gives the changes
-/// up.
+/// The settings page changes the layout that Working gives and calls Apply.
 class CToolbarConfig : public vantor::IToolbarConfig, Base::CNoncopyable
 {
 public:
@@ -28,8 +27,6 @@ public:
     /// Tells the observers, saves and announces; nothing of it when the layout is the saved one. A database
     /// error has its line in the log and is not tried again.
     void Apply();
-
-    void Discard() { m_working = m_saved; }
 
     /// Empties the table, which is the default layout, and announces. The observers are told when the layout
     /// changes by it.

@@ -34,6 +34,7 @@ TEST(EverySetting, HasAGetterThatReadsItAloneAndASetterThatSaves)
         if (std::string(field.name) == "EnableTransactionInfor")
             return;
         SCOPED_TRACE(field.name);
+        ASSERT_EQ(kGetters.count(field.name), 1u);
         std::map<std::string, int> before;
         for (const auto& [name, get] : kGetters)
             before[name] = get(world.config);
@@ -141,6 +142,39 @@ TEST(AChange, PostsSavesAndSendsWhatBelongsToIt)
     }
 }
 
+/// What the restore makes of the fields that it changes, be it from their defaults or from other values.
+std::string ChangedBy(void (CSystemConfig::*restore)())
+{
+    World world;
+    Record starts[2];
+    Record left[2];
+    video::ForEachSetting([&](const auto& field) { starts[1].*field.member = OtherValue(field); });
+    for (int i = 0; i < 2; ++i) {
+        world.config.SetTogether([&](Record& record) { record = starts[i]; });
+        (world.config.*restore)();
+        left[i] = world.config.Settings();
+    }
+    std::string changed;
+    video::ForEachSetting([&](const auto& field) {
+        if (left[0].*field.member != starts[0].*field.member ||
+            left[1].*field.member != starts[1].*field.member)
+            changed += std::string(field.name) + "=" + std::to_string(left[0].*field.member) + " ";
+    });
+    return changed;
+}
+
+TEST(APageRestore, ChangesThatPagesFieldsAlone)
+{
+    EXPECT_EQ(ChangedBy(&CSystemConfig::RestoreImageDefaults),
+              "DisplayScale=0 PlayPerformance=6 EnableAutoChangeStreamType=1 EnableHighlightShow=0 "
+              "EnableATMOSD=1 EnableRuleShow=0 EnableHardDecode=0 EnablePlayBackFrameExtraction=1 "
+              "EnableTargetPattern=0 EnableRenderingEffect=0 EnableDenoise=1 ");
+    EXPECT_EQ(ChangedBy(&CSystemConfig::RestorePlaybackAndFileDefaults),
+              "PlaybackPriority=1 EnableResumePreview=1 SnapshotPicType=0 EnableDisconnectMultiStreams=0 "
+              "EnableWheelControlZoom=0 OnlyPlayVCAInVCAPlayBack=0 DownloadFileMode=0 StreamOffset=0 "
+              "SearchFileCameraMode=0 VideoFileFormat=0 SearchCloudP2PRecordFileMode=0 ");
+}
+
 TEST(AChange, IsPostedBeforeItIsSavedAndSavedBeforeItIsSent)
 {
     World world;
@@ -154,21 +188,31 @@ TEST(AChange, IsPostedBeforeItIsSavedAndSavedBeforeItIsSent)
     EXPECT_EQ(world.scaleWhenSent, "2");
 }
 
-TEST(TheLastOfTwoSavers, WinsAlsoWhenItTakesBackWhatTheOtherIsWriting)
+TEST(SaversAtOnce, LoseNoChangeAndTellOfEach)
 {
     World world;
     for (int round = 0; round < 5; ++round) {
+        std::atomic<int> entered{0};
+        const auto start = [&](auto change) {
+            return std::async(std::launch::async, [&entered, change] {
+                ++entered;
+                change();
+            });
+        };
         ASSERT_TRUE(world.connection.Begin());
-        auto first = std::async(std::launch::async, [&] { world.config.Set(&Record::DisplayScale, 2); });
-        ASSERT_TRUE(WaitUntil([&] { return world.observer.count == 2 * round + 1; }))
-            << "it is about to write";
-        auto last = std::async(std::launch::async, [&] { world.config.Set(&Record::DisplayScale, 0); });
-        ASSERT_TRUE(WaitUntil([&] { return world.config.DisplayScale() == 0; }));
+        auto first = start([&] { world.config.Set(&Record::DisplayScale, 2); });
+        ASSERT_TRUE(WaitUntil([&] { return world.observer.count == 2 * round + 1; })) << "about to write";
+        auto silent = start([&] { world.config.RestorePlaybackAndFileDefaults(); });
+        ASSERT_TRUE(WaitUntil([&] { return entered == 2; }));
+        auto last = start([&] { world.config.Set(&Record::DisplayScale, 0); });
+        ASSERT_TRUE(WaitUntil([&] { return entered == 3; }));
         ASSERT_TRUE(world.connection.Commit());
-        first.get();
-        last.get();
+        for (auto* saver : {&first, &silent, &last})
+            saver->get();
         Deliver(world.loop);
         ASSERT_EQ(world.Ask("SELECT DisplayScale FROM VideoSystemConfigTable"), "0") << round;
+        ASSERT_EQ(world.observer.count, 2 * round + 2);
+        ASSERT_EQ(world.sent, 2 * round + 2);
     }
 }
 

@@ -123,6 +123,7 @@ TEST(ManyValues, AreRefusedBeyondTheLimitButNotInsideATextNorInALongOne)
     EXPECT_FALSE(json::ParseText(list(1000000, "0"), error));
     EXPECT_EQ(error, "too many values at byte 1999998");
     EXPECT_FALSE(json::ParseText(list(600000, "[]"), error));
+    EXPECT_TRUE(json::ParseText(list(1000001, R"("of records")"), error)) << error;
     EXPECT_TRUE(json::ParseText(R"(["\\",")" + std::string(2000000, ',') + R"(\"",1])", error)) << error;
 }
 

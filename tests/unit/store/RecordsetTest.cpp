@@ -101,6 +101,10 @@ TEST_F(Recordset, RefusesRowsThatNeedTooMuchMemory)
     } catch (const CSQLite3Exception& error) {
         EXPECT_EQ(error.Code(), Sqlite3DO::kErrorTooBig);
     }
+    EXPECT_EQ(rows.RowCount(), 0u);
+    EXPECT_TRUE(rows.TooLarge());
+    m_engine.Run("SELECT 1", &rows);
+    EXPECT_FALSE(rows.TooLarge());
 }
 
 TEST_F(Recordset, RunsExactlyOneStatement)

@@ -1,6 +1,7 @@
 #include "logical/Local/DatabaseSession/BaseDBConn.h"
 
 #include "Base/Log.h"
+#include "Base/RateLimit.h"
 #include "Base/StringUtil.h"
 #include "CommonMethodLib/UserDataPath.h"
 
@@ -15,8 +16,11 @@ namespace {
 
 void LogError(const Base::LogLocation& location, int code, const char* message)
 {
-    Base::CLog::Instance().Write(Base::LogLevel::Fatal, "", location,
-                                 "data base error, error code: %d, error message: %s", code, message);
+    static Base::CFaultLimit limit;
+    if (const auto skipped = limit.Next())
+        Base::CLog::Instance().Write(Base::LogLevel::Fatal, "", location,
+                                     "data base error, error code: %d, error message: %s%s", code, message,
+                                     skipped->c_str());
 }
 
 /// Runs a call into the database; its exceptions end here.

@@ -11,8 +11,9 @@ namespace video {
 /// The shared connection to one of the component's databases. Any thread; see Sqlite3DO::CSQLite3Conn for how
 /// statements and transactions of several threads take turns.
 ///
-/// Every call is guarded: a database error gives one fatal line with its code and text and the result false,
-/// and goes no further. A database that did not open fails every later call the same way.
+/// Every call is guarded: a database error gives one fatal line with its code and text, of a flood not each,
+/// and the result false, and goes no further. A database that did not open fails every later call the same
+/// way.
 class CBaseDBConn : Base::CNoncopyable
 {
 public:

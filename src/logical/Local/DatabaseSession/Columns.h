@@ -14,8 +14,8 @@
 /// The columns of a table, in the table's order, and the members of the record that hold their values. A
 /// session has one list of them, from which reading a row and the arguments of its statements follow:
 ///
-///     constexpr auto kColumns = std::make_tuple(ColumnOf("ID", &Record::ID), ColumnOf("Size",
-///     &Record::Size));
+///     constexpr auto kColumns = std::make_tuple(ColumnOf("ID", &Record::ID),
+///                                               ColumnOf("Size", &Record::Size));
 ///
 /// Texts are stored as they are, flags as 0 or 1, 64-bit times as date-time texts (Base/TimeUtil.h).
 namespace video {

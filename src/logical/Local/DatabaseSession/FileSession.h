@@ -44,30 +44,30 @@ public:
         return ReadFirst(ByPathText(filePath), record);
     }
 
-    /// The records that occurred from begin to end, both included. Always true; none after a failure.
+    /// The records that occurred from begin to end, both included. None after a failure; false only when they
+    /// are more than a query may read (CSQLite3Recordset::kLimitBytes).
     bool QueryCamera(const std::string& cameraId, vantor::TimeValue begin, vantor::TimeValue end,
                      std::vector<Record>& records)
     {
         records.clear();
-        Append(CameraSpanText(cameraId, begin, end), records);
-        return true;
+        return Append(CameraSpanText(cameraId, begin, end), records) != Outcome::TooMany;
     }
     bool QueryGroup(const std::string& groupId, vantor::TimeValue begin, vantor::TimeValue end,
                     std::vector<Record>& records)
     {
         records.clear();
-        Append(GroupSpanText(groupId, begin, end), records);
-        return true;
+        return Append(GroupSpanText(groupId, begin, end), records) != Outcome::TooMany;
     }
 
-    /// All records of the cameras, of which there may be any number. Always true; none after a failure.
+    /// All records of the cameras, of which there may be any number. The same of failures.
     bool QueryCameras(const std::vector<std::string>& cameraIds, std::vector<Record>& records)
     {
         records.clear();
         for (const auto& part : CameraParts(cameraIds)) {
-            if (!Append(CamerasText(part), records)) {
+            const Outcome outcome = Append(CamerasText(part), records);
+            if (outcome != Outcome::Done) {
                 records.clear();
-                break;
+                return outcome != Outcome::TooMany;
             }
         }
         return true;
@@ -110,7 +110,7 @@ public:
     static std::string GroupSpanText(const std::string& groupId, vantor::TimeValue begin,
                                      vantor::TimeValue end)
     {
-        return Select() + "GroupID = '" + Sqlite3DO::Quoted(groupId) + "'" + SpanClause(begin, end);
+        return Select() + "GroupID = '" + Sqlite3DO::Quoted(groupId) + "' " + SpanClause(begin, end);
     }
 
 protected:
@@ -119,6 +119,8 @@ protected:
     CBaseDBConn& m_connection;
 
 private:
+    enum class Outcome { Done, Failed, TooMany };
+
     static std::string Select() { return std::string("SELECT * FROM ") + Table::kName + " WHERE "; }
 
     bool ReadFirst(const std::string& sql, Record& record)
@@ -132,15 +134,15 @@ private:
         return true;
     }
 
-    bool Append(const std::string& sql, std::vector<Record>& records)
+    Outcome Append(const std::string& sql, std::vector<Record>& records)
     {
         Sqlite3DO::CSQLite3Recordset rows;
         if (!m_connection.Execute(sql, rows))
-            return false;
+            return rows.TooLarge() ? Outcome::TooMany : Outcome::Failed;
         records.reserve(records.size() + rows.RowCount());
         while (rows.Next())
             ReadRow(rows, Table::kColumns, records.emplace_back());
-        return true;
+        return Outcome::Done;
     }
 };
 
