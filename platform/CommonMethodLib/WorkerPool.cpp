@@ -9,8 +9,9 @@ namespace comm_methodlib {
 
 namespace {
 
-constexpr std::size_t kFewest = 4;
-constexpr std::size_t kMost = 8;
+/// More than processors: a write waits for the disk and for others that share its commit.
+constexpr std::size_t kFewest = 8;
+constexpr std::size_t kMost = 16;
 
 } // namespace
 

@@ -14,6 +14,11 @@ namespace Sqlite3DO {
 namespace {
 
 constexpr char kSetPageSize[] = "PRAGMA cipher_page_size = 4096";
+/// In pages of the log, 16 MiB. A checkpoint holds up whoever writes, and writes a page once that was changed
+/// many times since the last one.
+constexpr char kSetCheckpoint[] = "PRAGMA wal_autocheckpoint = 4000";
+/// In KiB: indexes of some 100,000 records. A page that is not there has to be read and deciphered again.
+constexpr char kSetCacheSize[] = "PRAGMA cache_size = -16384";
 constexpr char kPlainHeader[] = "SQLite format 3"; // with its zero byte: 16 bytes
 
 struct Finalize
@@ -143,7 +148,9 @@ void CSQLite3Engine::Prepare(Mode mode)
     if (mode == Mode::Inspect || mode == Mode::CreateCopy)
         return;
     Run("PRAGMA journal_mode = WAL");
-    Run("PRAGMA journal_size_limit = 4194304");
+    Run("PRAGMA journal_size_limit = 33554432");
+    Run(kSetCheckpoint);
+    Run(kSetCacheSize);
 }
 
 void CSQLite3Engine::Run(const std::string& sql, CSQLite3Recordset* rows, Allowed allowed)

@@ -29,19 +29,34 @@ std::int32_t SizeInKiB(const std::string& path)
 
 } // namespace
 
-CLocalFile::CLocalFile(CBaseDBConn& connection) : m_videos(connection), m_pictures(connection) {}
+CLocalFile::CLocalFile(CBaseDBConn& connection)
+    : m_videos(connection), m_pictures(connection), m_writes(connection)
+{}
+
+bool CLocalFile::Write(XPR_Mutex& lock, const std::function<void()>& write)
+{
+    return m_writes.Run([&] {
+        const XPR_MutexGuard guard(lock);
+        write();
+    });
+}
 
 std::string CLocalFile::AddVideo(const std::string& cameraId, const std::string& groupId,
                                  const std::string& fileName, const std::string& filePath,
                                  const std::string& picturePath, TimeValue occurTime, TimeValue beginTime,
                                  TimeValue endTime)
 {
-    const XPR_MutexGuard guard(m_videoLock);
     VideoFileRecord record{std::string(), cameraId,  groupId,   fileName, filePath,
                            picturePath,   occurTime, beginTime, endTime,  SizeInKiB(filePath)};
+    std::string id;
+    return Write(m_videoLock, [&] { id = Store(record); }) ? id : std::string();
+}
+
+std::string CLocalFile::Store(VideoFileRecord& record)
+{
     VideoFileRecord known;
     // Not knowing whether the path has its record already, an insert could make a second one.
-    if (!m_videos.GetByPath(filePath, known))
+    if (!m_videos.GetByPath(record.FilePath, known))
         return std::string();
     if (!known.ID.empty())
         return m_videos.UpdateCamera(record) ? known.ID : std::string();
@@ -51,20 +66,17 @@ std::string CLocalFile::AddVideo(const std::string& cameraId, const std::string&
 
 void CLocalFile::UpdateVideo(const VideoFileRecord& record)
 {
-    const XPR_MutexGuard guard(m_videoLock);
-    m_videos.UpdateCamera(record);
+    Write(m_videoLock, [&] { m_videos.UpdateCamera(record); });
 }
 
 void CLocalFile::DeleteVideoById(const std::string& id)
 {
-    const XPR_MutexGuard guard(m_videoLock);
-    m_videos.DeleteById(id);
+    Write(m_videoLock, [&] { m_videos.DeleteById(id); });
 }
 
 void CLocalFile::DeleteVideoByPath(const std::string& filePath)
 {
-    const XPR_MutexGuard guard(m_videoLock);
-    m_videos.DeleteByPath(filePath);
+    Write(m_videoLock, [&] { m_videos.DeleteByPath(filePath); });
 }
 
 VideoFileRecord CLocalFile::GetVideoById(const std::string& id)
@@ -97,17 +109,21 @@ std::string CLocalFile::AddPicture(const std::string& cameraId, const std::strin
                                    const std::string& fileName, const std::string& filePath,
                                    TimeValue occurTime)
 {
-    const XPR_MutexGuard guard(m_pictureLock);
-    const std::int32_t size = SizeInKiB(filePath);
-    const PictureFileRecord record{
-        Base::GuidUtil::CreateGuid(), cameraId, groupId, fileName, filePath, occurTime, size};
+    PictureFileRecord record{std::string(), cameraId,           groupId, fileName, filePath,
+                             occurTime,     SizeInKiB(filePath)};
+    std::string id;
+    return Write(m_pictureLock, [&] { id = Store(record); }) ? id : std::string();
+}
+
+std::string CLocalFile::Store(PictureFileRecord& record)
+{
+    record.ID = Base::GuidUtil::CreateGuid();
     return m_pictures.Insert(record) ? record.ID : std::string();
 }
 
 void CLocalFile::DeletePictureById(const std::string& id)
 {
-    const XPR_MutexGuard guard(m_pictureLock);
-    m_pictures.DeleteById(id);
+    Write(m_pictureLock, [&] { m_pictures.DeleteById(id); });
 }
 
 PictureFileRecord CLocalFile::GetPictureById(const std::string& id)

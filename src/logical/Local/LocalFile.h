@@ -4,14 +4,17 @@
 #include "VideoInterfaces/ILocalFile.h"
 #include "XPR/XPR_Mutex.h"
 #include "logical/Local/DatabaseSession/PictureFileSession.h"
+#include "logical/Local/DatabaseSession/SharedCommit.h"
 #include "logical/Local/DatabaseSession/VideoFileSession.h"
 
 namespace video {
 
-/// The catalogue on the component's database. Writes to one table take turns; reads take no lock of this
-/// class, and the two locks are never held together. Any thread.
+/// The catalogue on the component's database. Any thread. Writes of several threads at once share their
+/// commits. Each runs under the lock of its table, and the two locks are never held together; reads take
+/// none.
 ///
-/// An add looks at the file for its size; one that cannot be opened counts as empty.
+/// An add looks at the file for its size, before it takes its turn, so that a slow drive holds up nobody
+/// else; a file that cannot be opened counts as empty.
 class CLocalFile : public vantor::ILocalFile, Base::CNoncopyable
 {
 public:
@@ -44,10 +47,16 @@ public:
                               std::vector<vantor::PictureFileRecord>& records) override;
 
 private:
+    /// Runs the write of a table under its lock; false when it did not reach the disk.
+    bool Write(XPR_Mutex& lock, const std::function<void()>& write);
+    std::string Store(vantor::VideoFileRecord& record);
+    std::string Store(vantor::PictureFileRecord& record);
+
     XPR_Mutex m_videoLock;
     XPR_Mutex m_pictureLock;
     VideoFileSession m_videos;
     PictureFileSession m_pictures;
+    CSharedCommit m_writes;
 };
 
 } // namespace video

@@ -61,9 +61,8 @@ bool CBaseDBConn::Execute(const std::string& sql, Sqlite3DO::CSQLite3Recordset& 
 
 bool CBaseDBConn::ExecuteTogether(const std::vector<std::string>& statements)
 {
-    using OnFailure = Sqlite3DO::CSQLite3Conn::OnFailure;
     const bool bracketed = m_connection.InTransaction();
-    if (!bracketed && !Guarded(DB_LOCATION, [&] { return m_connection.Begin(OnFailure::KeepOthers); }))
+    if (!bracketed && !Begin(OnFailure::KeepOthers))
         return false;
     bool worked = true;
     for (const std::string& sql : statements)
@@ -71,9 +70,9 @@ bool CBaseDBConn::ExecuteTogether(const std::vector<std::string>& statements)
     return (bracketed || Commit()) && worked;
 }
 
-bool CBaseDBConn::Begin()
+bool CBaseDBConn::Begin(OnFailure onFailure)
 {
-    return Guarded(DB_LOCATION, [&] { return m_connection.Begin(); });
+    return Guarded(DB_LOCATION, [&] { return m_connection.Begin(onFailure); });
 }
 
 bool CBaseDBConn::Commit()

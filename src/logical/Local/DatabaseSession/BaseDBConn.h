@@ -17,6 +17,8 @@ namespace video {
 class CBaseDBConn : Base::CNoncopyable
 {
 public:
+    using OnFailure = Sqlite3DO::CSQLite3Conn::OnFailure;
+
     /// Opens, or makes, the database in the component's data folder with the process-wide key.
     explicit CBaseDBConn(const std::string& dbName);
 
@@ -37,9 +39,10 @@ public:
 
     /// Gives the connection to the calling thread until Commit; not reentrant. After a Begin that failed the
     /// statements stand for themselves. CBaseDBTransaction ends the transaction on every path.
-    bool Begin();
+    bool Begin(OnFailure onFailure = OnFailure::TakeAllBack);
 
-    /// False when a statement since Begin failed; everything since then is taken back.
+    /// False when the transaction was taken back: the commit failed, or a statement since a Begin with
+    /// OnFailure::TakeAllBack.
     bool Commit();
 
     /// Takes back the calling thread's transaction, if it has one.
@@ -56,8 +59,9 @@ private:
 class CBaseDBTransaction : Base::CNoncopyable
 {
 public:
-    explicit CBaseDBTransaction(CBaseDBConn& connection)
-        : m_connection(connection), m_begun(connection.Begin())
+    explicit CBaseDBTransaction(CBaseDBConn& connection,
+                                CBaseDBConn::OnFailure onFailure = CBaseDBConn::OnFailure::TakeAllBack)
+        : m_connection(connection), m_begun(connection.Begin(onFailure))
     {}
     ~CBaseDBTransaction()
     {
