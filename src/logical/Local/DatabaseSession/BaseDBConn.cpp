@@ -61,7 +61,7 @@ bool CBaseDBConn::Execute(const std::string& sql, Sqlite3DO::CSQLite3Recordset& 
 
 bool CBaseDBConn::ExecuteTogether(const std::vector<std::string>& statements)
 {
-    const bool bracketed = m_connection.InTransaction();
+    const bool bracketed = InTransaction();
     if (!bracketed && !Begin(OnFailure::KeepOthers))
         return false;
     bool worked = true;

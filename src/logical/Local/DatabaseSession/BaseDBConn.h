@@ -45,6 +45,9 @@ public:
     /// OnFailure::TakeAllBack.
     bool Commit();
 
+    /// Whether the calling thread is between Begin and the end of its transaction.
+    bool InTransaction() const { return m_connection.InTransaction(); }
+
     /// Takes back the calling thread's transaction, if it has one.
     void Rollback() { m_connection.Rollback(); }
 

@@ -13,6 +13,10 @@ constexpr std::chrono::microseconds kLongestGathering{300};
 
 bool CSharedCommit::Run(const std::function<void()>& write)
 {
+    if (m_connection.InTransaction()) {
+        write();
+        return true;
+    }
     Waiting mine{write};
     std::unique_lock<std::mutex> lock(m_mutex);
     m_waiting.push_back(&mine);

@@ -27,7 +27,8 @@ public:
     /// nothing but itself. Returns when the transaction has ended; false when it was taken back, or did not
     /// begin and the write was not run. What the write throws is thrown here.
     ///
-    /// The calling thread must hold no lock that a write takes, and no transaction.
+    /// Between the calling thread's own Begin and Commit the write is run at once, as part of that
+    /// transaction. The calling thread must hold no lock that a write takes.
     bool Run(const std::function<void()>& write);
 
 private:
