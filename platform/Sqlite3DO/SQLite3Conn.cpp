@@ -105,9 +105,9 @@ bool CSQLite3Conn::Commit() const
     return true;
 }
 
+// No other thread makes this one the owner or ends its transaction, so that its answer needs no lock.
 bool CSQLite3Conn::InTransaction() const
 {
-    const Lock lock(m_mutex);
     return m_owner == ThisThread();
 }
 

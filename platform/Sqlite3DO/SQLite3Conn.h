@@ -5,6 +5,7 @@
 #include "Sqlite3DO/SQLite3Exception.h"
 #include "Sqlite3DO/SQLite3Recordset.h"
 
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -58,7 +59,7 @@ public:
     /// everything since Begin is taken back and the call fails.
     bool Commit() const;
 
-    /// Whether the calling thread is between Begin and the end of its transaction.
+    /// Whether the calling thread is between Begin and the end of its transaction. Never waits.
     bool InTransaction() const;
 
     /// Takes back the calling thread's transaction; nothing happens when it has none.
@@ -80,7 +81,7 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_ended;
     std::unique_ptr<CSQLite3Engine> m_engine;
-    mutable std::uint64_t m_owner = 0; // the thread of the open transaction; 0: none is open
+    mutable std::atomic<std::uint64_t> m_owner{0}; // the thread of the open transaction; 0: none is open
     mutable OnFailure m_onFailure = OnFailure::TakeAllBack;
     mutable bool m_mustTakeBack = false;
 };
