@@ -5,6 +5,8 @@
 
 #include <atomic>
 #include <future>
+#include <mutex>
+#include <new>
 #include <set>
 #include <stdexcept>
 #include <thread>
@@ -64,12 +66,35 @@ TEST_F(SharedCommit, AWriteThatFailsOrThrowsLeavesThoseOfOthers)
     EXPECT_EQ(catalogue.Ask("SELECT ID FROM PictureFile"), "good");
 }
 
-TEST_F(SharedCommit, SaysWhenTheCommitFails)
+TEST_F(SharedCommit, SaysWhenTheTransactionWasTakenBack)
 {
-    auto one = Write([&] { catalogue.connection.Execute("INSERT INTO Owned VALUES (1)"); });
+    bool worked = true;
+    auto one = Write([&] {
+        catalogue.connection.Execute(InsertOf("taken back by the engine"));
+        catalogue.connection.Execute("INSERT OR ROLLBACK INTO Owner VALUES (1), (1)");
+        worked = catalogue.connection.Execute(InsertOf("after that"));
+    });
     LetGo(1);
     EXPECT_FALSE(one.get());
-    EXPECT_EQ(catalogue.Ask("SELECT count(*) FROM Owned"), "0");
+    EXPECT_FALSE(worked);
+    EXPECT_FALSE(commit.Run([&] { catalogue.connection.Execute("INSERT INTO Owned VALUES (1)"); }));
+    EXPECT_EQ(catalogue.Ask("SELECT ID FROM PictureFile UNION ALL SELECT ID FROM Owned"), "");
+    EXPECT_TRUE(commit.Run([&] { catalogue.connection.Execute(InsertOf("next")); }));
+}
+
+// As in want of memory: the next writer must neither wait for ever nor meet what the last one left.
+TEST(SharedCommitOnAClosedDatabase, GoesOnWhenNotEvenTheLogCanBeWritten)
+{
+    TestDataRoot root;
+    video::CBaseDBConn connection(root.Path() + "no folder/", "VideoSystem");
+    video::CSharedCommit commit(connection);
+    const CapturedLog observerIsRemovedInTheEnd;
+    Base::SetLogObserver([](Base::LogLevel, const char*, const std::string&) { throw std::bad_alloc(); });
+    bool ran = false;
+    bool stored = true;
+    for (int i = 0; i < 2; ++i)
+        ASSERT_NO_THROW(stored = commit.Run([&] { ran = true; }));
+    EXPECT_FALSE(stored || ran);
 }
 
 TEST_F(SharedCommit, WritesThatWaitTogetherAreWrittenByOneThread)

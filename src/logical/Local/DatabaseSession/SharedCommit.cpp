@@ -35,7 +35,14 @@ void CSharedCommit::Lead(std::unique_lock<std::mutex>& lock)
     m_came.wait_for(lock, kLongestGathering, [this] { return m_waiting.size() >= m_expected; });
     lock.unlock();
     Batch batch;
-    const bool stored = WriteBatch(batch);
+    bool stored = false;
+    try {
+        stored = WriteBatch(batch);
+    } catch (...) {
+        // The database failed, and its line could not be written: those who wait must be told all the same.
+        if (batch.empty())
+            batch = TakeBatch();
+    }
     lock.lock();
     for (Waiting* each : batch) {
         each->isStored = stored;
