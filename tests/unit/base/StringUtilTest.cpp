@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <clocale>
 #include <regex>
 #include <set>
@@ -48,14 +49,23 @@ TEST(CodePages, TakeTheCLocaleAsUtf8AndReplaceBrokenBytes)
     EXPECT_EQ(LocalToUTF8(longerThanABuffer), longerThanABuffer);
 }
 
-TEST(Guids, HaveTheUsualFormAndDiffer)
+TEST(Guids, HaveTheUsualFormDifferAndSortByTime)
 {
-    const std::regex form("[0-9a-f]{8}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{4}-[0-9a-f]{12}");
+    const std::regex form("([0-9a-f]{8})-([0-9a-f]{4})-7[0-9a-f]{3}-[89ab][0-9a-f]{3}-[0-9a-f]{12}");
+    using namespace std::chrono;
+    const auto now = [] { return duration_cast<milliseconds>(system_clock::now().time_since_epoch()); };
+    const auto begin = now();
     std::set<std::string> seen;
     for (int i = 0; i < 1000; ++i)
         seen.insert(GuidUtil::CreateGuid());
+    const auto end = now();
     EXPECT_EQ(seen.size(), 1000u);
-    EXPECT_TRUE(std::regex_match(*seen.begin(), form)) << *seen.begin();
+    for (const std::string& guid : {*seen.begin(), *seen.rbegin()}) {
+        std::smatch parts;
+        ASSERT_TRUE(std::regex_match(guid, parts, form)) << guid;
+        const milliseconds made(std::stoll(parts.str(1) + parts.str(2), nullptr, 16));
+        EXPECT_TRUE(begin <= made && made <= end) << guid;
+    }
 }
 
 } // namespace
