@@ -17,7 +17,6 @@ CBare::CBare(const std::string& path, const std::string& key)
     Run("PRAGMA journal_mode = WAL");
     Run("PRAGMA journal_size_limit = 33554432");
     Run("PRAGMA wal_autocheckpoint = 4000");
-    Run("PRAGMA cache_size = -16384");
 }
 
 CBare::~CBare()

@@ -17,8 +17,6 @@ constexpr char kSetPageSize[] = "PRAGMA cipher_page_size = 4096";
 /// In pages of the log, 16 MiB. A checkpoint holds up whoever writes, and writes a page once that was changed
 /// many times since the last one.
 constexpr char kSetCheckpoint[] = "PRAGMA wal_autocheckpoint = 4000";
-/// In KiB: indexes of some 100,000 records. A page that is not there has to be read and deciphered again.
-constexpr char kSetCacheSize[] = "PRAGMA cache_size = -16384";
 constexpr char kPlainHeader[] = "SQLite format 3"; // with its zero byte: 16 bytes
 
 struct Finalize
@@ -150,7 +148,6 @@ void CSQLite3Engine::Prepare(Mode mode)
     Run("PRAGMA journal_mode = WAL");
     Run("PRAGMA journal_size_limit = 33554432");
     Run(kSetCheckpoint);
-    Run(kSetCacheSize);
 }
 
 void CSQLite3Engine::Run(const std::string& sql, CSQLite3Recordset* rows, Allowed allowed)
