@@ -87,6 +87,7 @@ TEST_F(Questions, EndAlsoWithoutAnAnswer)
         TestClient component(lpc::kVideoComponentName);
         component.BecomeReady();
         lost = Ask();
+        EXPECT_TRUE(component.received.Take("http ")) << "one that has not come yet would be refused";
     }
     EXPECT_EQ(Taken(std::move(lost)).outcome, AskOutcome::NotThere) << "it left";
     core->Stop();
