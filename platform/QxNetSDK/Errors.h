@@ -8,12 +8,12 @@ enum {
     /* The call itself. Module: 0. */
     QXNET_ERROR_NOT_INITIALISED = 100,
     QXNET_ERROR_ARGUMENT = 101,
-    QXNET_ERROR_HANDLE = 102,           /* no such session, or it was ended */
+    QXNET_ERROR_HANDLE = 102, /* no such session, or it was ended */
     QXNET_ERROR_MEMORY = 103,
     QXNET_ERROR_TOO_MANY_SESSIONS = 104, /* 4096 in a process */
-    QXNET_ERROR_CLOSED = 105,           /* the session was ended while the call was under way */
-    QXNET_ERROR_BUFFER_TOO_SMALL = 106, /* module: the bytes needed */
-    QXNET_ERROR_TRUST_FILE = 107,       /* the file cannot be read or written; module: the system's number */
+    QXNET_ERROR_CLOSED = 105,            /* the session was ended while the call was under way */
+    QXNET_ERROR_BUFFER_TOO_SMALL = 106,  /* module: the bytes needed */
+    QXNET_ERROR_TRUST_FILE = 107,        /* the file cannot be read or written; module: the system's number */
 
     /* The network. Module: the system's number for the failure, 0 where there is none. */
     QXNET_ERROR_RESOLVE = 200,
@@ -32,8 +32,8 @@ enum {
     QXNET_ERROR_UNREADABLE = 304,   /* values out of range, bad UTF-8, bad XML */
 
     /* The user. Module: the HTTP status. */
-    QXNET_ERROR_PASSWORD = 400,   /* user name or password wrong */
-    QXNET_ERROR_LOCKED = 401,     /* too many wrong passwords; the device refuses for a while */
+    QXNET_ERROR_PASSWORD = 400, /* user name or password wrong */
+    QXNET_ERROR_LOCKED = 401,   /* too many wrong passwords; the device refuses for a while */
     QXNET_ERROR_PERMISSION = 402,
     QXNET_ERROR_DEVICE_FULL = 403, /* the device has no session left */
 
@@ -42,7 +42,7 @@ enum {
     QXNET_ERROR_CHANNEL = 501, /* no such channel */
     QXNET_ERROR_VALUE = 502,   /* a value it does not take */
     QXNET_ERROR_BUSY = 503,
-    QXNET_ERROR_DEVICE = 504, /* the device failed */
+    QXNET_ERROR_DEVICE = 504,  /* the device failed */
     QXNET_ERROR_STORAGE = 505, /* it cannot keep the change */
 
     /* Voice. */

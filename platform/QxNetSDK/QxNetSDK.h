@@ -5,13 +5,13 @@
  * configuration, abilities and voice. One shared library with this C interface; docs/device-protocol.md tells
  * what travels.
  *
- * Threads: every function may be called from any thread, also for one session from several at once. Calls wait
- * for the device, no longer than the session's timeouts, and never hold a lock meanwhile that another session
- * would need.
+ * Threads: every function may be called from any thread, also for one session from several at once. Calls
+ * wait for the device, no longer than the session's timeouts, and never hold a lock meanwhile that another
+ * session would need.
  *
  * Results: where nothing else is said 1 for success and 0 for failure. After a failure the calling thread's
- * error pair tells why: NET_DVR_GetLastError and NET_DVR_GetLastErrorModelCode. A success leaves the pair as it
- * is. What the caller passes for an answer is written only after the whole answer was checked.
+ * error pair tells why: NET_DVR_GetLastError and NET_DVR_GetLastErrorModelCode. A success leaves the pair as
+ * it is. What the caller passes for an answer is written only after the whole answer was checked.
  *
  * Texts are UTF-8 and end with a zero byte; reserved bytes are zero.
  */
@@ -43,7 +43,8 @@ QXNET_API int QxNet_Init(void);
 QXNET_API int QxNet_Cleanup(void);
 
 /* The file of the certificates that devices showed at their first TLS session, in the platform's file name
- * encoding; it is made when missing. Null: they are kept for the process's life only. Before the first login. */
+ * encoding; it is made when missing. Null: they are kept for the process's life only. Before the first login.
+ */
 QXNET_API int QxNet_SetTrustFile(const char* path);
 
 /* ---- sessions ---- */
@@ -54,13 +55,13 @@ QXNET_API int QxNet_SetTrustFile(const char* path);
 
 typedef struct QxNetLogin
 {
-    uint32_t size;                       /* of this record */
-    uint16_t port;                       /* 1 to 65535 */
-    uint8_t useTls;                      /* 1: TLS, with the certificate pinned at first use */
+    uint32_t size;  /* of this record */
+    uint16_t port;  /* 1 to 65535 */
+    uint8_t useTls; /* 1: TLS, with the certificate pinned at first use */
     uint8_t reserved1;
-    uint32_t connectTimeoutMs;           /* 100 to 60000; 0: 3000 */
-    uint32_t exchangeTimeoutMs;          /* from the first byte sent to the last one received, 100 to 600000;
-                                            0: 5000 */
+    uint32_t connectTimeoutMs;  /* 100 to 60000; 0: 3000 */
+    uint32_t exchangeTimeoutMs; /* from the first byte sent to the last one received, 100 to 600000;
+                                   0: 5000 */
     char address[QXNET_ADDRESS_LENGTH];
     char user[QXNET_USER_LENGTH];
     char password[QXNET_PASSWORD_LENGTH];
@@ -77,8 +78,9 @@ QXNET_API int32_t QxNet_Login(const QxNetLogin* login, QxNetDeviceInfo* info);
 QXNET_API int QxNet_Logout(int32_t login);
 
 /* ---- configuration ----
- * command: see Structures.h. channel: from 1; 0 is the device itself. The size must be the structure's, and the
- * device's answer must have exactly that size: otherwise QXNET_ERROR_WRONG_SIZE with the size that came. */
+ * command: see Structures.h. channel: from 1; 0 is the device itself. The size must be the structure's, and
+ * the device's answer must have exactly that size: otherwise QXNET_ERROR_WRONG_SIZE with the size that came.
+ */
 
 QXNET_API int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void* structure,
                                    uint32_t size);
@@ -122,8 +124,8 @@ QXNET_API int QxNet_GetAbility(int32_t login, uint32_t kind, int32_t channel, ch
 /* The encoding in which the device takes voice. */
 QXNET_API int NET_DVR_GetCurrentAudioCompress(int32_t login, QxNetAudioCompress* compress);
 
-/* PCM of this computer, 16 bit, one channel, 16000 a second, before it is encoded. On a thread of the library;
- * must return soon. */
+/* PCM of this computer, 16 bit, one channel, 16000 a second, before it is encoded. On a thread of the
+ * library; must return soon. */
 typedef void (*QxNetAudioCallback)(const int16_t* samples, uint32_t count, void* user);
 
 /* Starts capturing this computer's sound input for all devices that are added. callback may be null.

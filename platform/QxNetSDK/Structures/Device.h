@@ -19,10 +19,10 @@ enum {
 typedef struct QxNetDeviceInfo
 {
     uint32_t size;
-    uint32_t typeCode;     /* one of the kinds above, or another maker's number */
+    uint32_t typeCode; /* one of the kinds above, or another maker's number */
     uint32_t subType;
-    uint32_t channels;     /* cameras, 0 to 512, numbered from 1 */
-    uint32_t alarmInputs;  /* 0 to 512, numbered from 1; the same for those below */
+    uint32_t channels;    /* cameras, 0 to 512, numbered from 1 */
+    uint32_t alarmInputs; /* 0 to 512, numbered from 1; the same for those below */
     uint32_t alarmOutputs;
     uint32_t voiceChannels; /* 0 to 16 */
     uint32_t disks;         /* 0 to 64 */
@@ -40,7 +40,7 @@ enum { QXNET_GET_DEVICE_INFO = 20001 };
 enum {
     QXNET_CHANNEL_OFFLINE = 0,
     QXNET_CHANNEL_ONLINE = 1,
-    QXNET_CHANNEL_RECORDING = 2,   /* online, and recorded at the device */
+    QXNET_CHANNEL_RECORDING = 2,     /* online, and recorded at the device */
     QXNET_CHANNEL_NOT_SUPPORTED = 4, /* a camera that the device cannot talk to */
 };
 
@@ -61,9 +61,9 @@ QXNET_SIZE(QxNetChannelState, 80);
 typedef struct QxNetChannelPage
 {
     uint32_t size;
-    uint32_t total;    /* channels of the device, 0 to 512 */
-    uint32_t count;    /* of this page, 0 to 64 */
-    uint32_t changes;  /* counts up whenever a name, a state or the total changes */
+    uint32_t total;   /* channels of the device, 0 to 512 */
+    uint32_t count;   /* of this page, 0 to 64 */
+    uint32_t changes; /* counts up whenever a name, a state or the total changes */
     QxNetChannelState channels[QXNET_CHANNELS_PER_PAGE];
     uint8_t reserved[16];
 } QxNetChannelPage;
