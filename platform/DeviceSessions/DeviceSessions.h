@@ -52,6 +52,17 @@ struct DeviceStatus
     std::vector<ChannelState> channels; ///< as they were last heard of
 };
 
+/// How often to look, and how long to wait.
+struct SessionLimits
+{
+    std::chrono::milliseconds watch{3000};    ///< between two looks at a device that is online
+    std::chrono::milliseconds answer{3000};   ///< for a login or a look
+    std::chrono::milliseconds again{2000};    ///< first pause before a device that is offline is tried again
+    std::chrono::milliseconds longest{8000};  ///< the pauses double up to this
+    std::chrono::milliseconds refused{60000}; ///< pause after a wrong password, so that nobody is locked out
+    std::size_t threads = 16;
+};
+
 /// Logs devices in, watches those that are logged in and comes back to those that are not. The session of a
 /// device is there at once for anybody who asks; nobody waits for a login here.
 ///
@@ -60,21 +71,10 @@ struct DeviceStatus
 class CDeviceSessions : Base::CNoncopyable
 {
 public:
-    struct Limits
-    {
-        std::chrono::milliseconds watch{3000};  ///< between two looks at a device that is online
-        std::chrono::milliseconds answer{3000}; ///< for a login or a look
-        std::chrono::milliseconds again{2000}; ///< first pause before a device that is offline is tried again
-        std::chrono::milliseconds longest{8000}; ///< the pauses double up to this
-        std::chrono::milliseconds refused{
-            60000}; ///< pause after a wrong password, so that nobody is locked out
-        std::size_t threads = 16;
-    };
-
     /// Told of every change of a status. Must return soon; may call everything here but the destructor.
     using OnStatus = std::function<void(const DeviceStatus& status)>;
 
-    explicit CDeviceSessions(OnStatus onStatus, Limits limits = {});
+    explicit CDeviceSessions(OnStatus onStatus, SessionLimits limits = {});
     /// Logs everybody out. No event comes afterwards.
     ~CDeviceSessions();
 
