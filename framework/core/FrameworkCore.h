@@ -28,6 +28,7 @@ struct FrameworkOptions
     std::chrono::milliseconds endLimit{5000};     ///< for the component to end before it is killed
     std::chrono::milliseconds answerLimit{10000}; ///< for the component's routes to answer
     bool connectDevices = true;                   ///< false: nothing is heard of them
+    devices::SessionLimits deviceLimits{};
 };
 
 /// A window of the component, ready to be embedded.

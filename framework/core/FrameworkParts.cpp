@@ -165,7 +165,7 @@ bool FrameworkParts::Load(std::string& error)
     resources = std::make_unique<CResources>(folder + "resources.json", encryption->Params(),
                                              [this](const ResourceChange& change) { OnResource(change); });
     devices =
-        std::make_unique<CDeviceLinks>(*resources, folder + "certificates", [this] { TellResources(); });
+        std::make_unique<CDeviceLinks>(*resources, folder + "certificates", [this] { TellResources(); }, options.deviceLimits);
     for (const std::string& problem :
          {settings->LoadProblem(), users->LoadProblem(), resources->LoadProblem()})
         if (!problem.empty())

@@ -79,7 +79,7 @@ protected:
         StartCore();
         device = AddDevice("Yard");
         off = AddDevice("Off", 8001);
-        core->Resources().SetOnline(off, false);
+        HearOffline(off);
     }
 
     std::string Filled(std::string text) const
