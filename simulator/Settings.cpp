@@ -5,8 +5,9 @@
 #include "CommandLine/Options.h"
 #include "QxNetSDK/Structures.h"
 
+#include <algorithm>
 #include <cstdio>
-#include <limits>
+#include <cstdlib>
 
 namespace simulator {
 
@@ -67,14 +68,30 @@ bool ReadNumbers(const COptions& options, Settings& settings, std::string& error
     std::chrono::milliseconds lock = settings.door.lockTime;
     const bool isGood = Read(options, "--devices", 1, kMostDevices, settings.devices, error) &&
                         Read(options, "--channels", 0, 100000, settings.cameras, error) &&
-                        Read(options, "--port", 1, 65535, settings.port, error) &&
                         Read(options, "--sessions", 1, 100000, settings.door.sessions, error) &&
                         ReadSeconds(options, "--session-seconds", session, error) &&
                         ReadSeconds(options, "--lock-seconds", lock, error) &&
                         ReadSeconds(options, "--reboot-seconds", settings.rebootTime, error);
     settings.door.sessionTime = std::chrono::duration_cast<std::chrono::seconds>(session);
     settings.door.lockTime = std::chrono::duration_cast<std::chrono::seconds>(lock);
-    if (isGood && settings.port != 0 && settings.port + settings.devices - 1 > 65535U)
+    return isGood;
+}
+
+/// "4000" or "4000,4100": the devices that are not named follow the last one that is.
+bool ReadPorts(const COptions& options, Settings& settings, std::string& error)
+{
+    if (!options.Has("--port"))
+        return true;
+    unsigned long highest = 0;
+    for (const std::string& entry : Base::StringUtil::Split(options.Value("--port"), ',')) {
+        char* end = nullptr;
+        const unsigned long port = std::strtoul(entry.c_str(), &end, 10);
+        if (*end != '\0' || port < 1 || port > 65535)
+            error = "--port wants ports from 1 to 65535, with commas between devices";
+        settings.ports.push_back(static_cast<std::uint16_t>(port));
+        highest = port + settings.devices - std::min<std::size_t>(settings.ports.size(), settings.devices);
+    }
+    if (error.empty() && highest > 65535)
         error = "--port leaves no port for the last device";
     return error.empty();
 }
@@ -145,6 +162,14 @@ bool HasRoomForCameras(const Settings& settings, std::string& error)
 
 } // namespace
 
+std::uint16_t PortOf(const Settings& settings, unsigned device)
+{
+    if (settings.ports.empty())
+        return 0;
+    const std::size_t named = std::min<std::size_t>(device, settings.ports.size() - 1);
+    return static_cast<std::uint16_t>(settings.ports[named] + (device - named));
+}
+
 std::optional<Settings> ReadSettings(const std::vector<std::string>& arguments, std::string& error)
 {
     const auto options = COptions::Parse(arguments, kOptions, error);
@@ -155,9 +180,9 @@ std::optional<Settings> ReadSettings(const std::vector<std::string>& arguments, 
     if (settings.wantsHelp)
         return settings;
     ReadPlaces(*options, settings);
-    if (!ReadNumbers(*options, settings, error) || !ReadKind(*options, settings, error) ||
-        !ReadTypes(*options, settings, error) || !ReadPassword(*options, settings, error) ||
-        !HasRoomForCameras(settings, error))
+    if (!ReadNumbers(*options, settings, error) || !ReadPorts(*options, settings, error) ||
+        !ReadKind(*options, settings, error) || !ReadTypes(*options, settings, error) ||
+        !ReadPassword(*options, settings, error) || !HasRoomForCameras(settings, error))
         return std::nullopt;
     return settings;
 }
@@ -175,7 +200,7 @@ When ready it prints one line of JSON with user, devices and ports. It runs unti
   --channels M          cameras in all (4); a recorder gets three times an encoder's share, and what is left
   --first-kind KIND     encoder (usual) or recorder
   --type-code LIST      type codes of the devices in order: "102,15/6,,107" (code/sub-type; empty: as usual)
-  --port P              ports P, P+1, ...; without it free ports
+  --port P              ports P, P+1, ...; "P,Q,..." for each device; without it free ports
   --listen ADDRESS      IP address to listen on (127.0.0.1)
   --state DIR           keep everything that is set there; without it nothing outlives the program
   --faults FILE         faults on demand, see docs/device-sim.md; read again whenever it changes

@@ -13,7 +13,8 @@ struct Settings
     bool wantsHelp = false;
     unsigned devices = 1;
     unsigned cameras = 4;
-    std::uint16_t port = 0; ///< of the first device; 0: free ones
+    /// By device, each of the others one above that before it; empty: free ones.
+    std::vector<std::uint16_t> ports;
     std::string listen = "127.0.0.1";
     std::string state;  ///< folder ending in "/", or empty
     std::string faults; ///< file, or empty
@@ -25,6 +26,9 @@ struct Settings
     DoorSettings door;
     std::chrono::milliseconds rebootTime{3000};
 };
+
+/// The port of a device; 0: a free one.
+std::uint16_t PortOf(const Settings& settings, unsigned device);
 
 /// Reads the command line; none with the reason in error when it is wrong.
 std::optional<Settings> ReadSettings(const std::vector<std::string>& arguments, std::string& error);

@@ -57,8 +57,8 @@ bool CSimulator::Listen(std::string& error)
 {
     for (const auto& device : m_devices) {
         auto server = std::make_unique<CHttpServer>(m_threads, *device, m_identity ? &*m_identity : nullptr);
-        const unsigned port = m_settings.port == 0 ? 0 : m_settings.port + device->Plan().index;
-        if (!server->Listen(m_settings.listen, static_cast<std::uint16_t>(port), error)) {
+        const std::uint16_t port = PortOf(m_settings, device->Plan().index);
+        if (!server->Listen(m_settings.listen, port, error)) {
             error = "cannot listen on " + m_settings.listen + " port " + std::to_string(port) + ": " + error;
             return false;
         }
