@@ -1,11 +1,10 @@
-#include "CommandLine/Options.h"
+#include "lpc/Options.h"
 #include "lpc/Commands.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-using namespace CommandLine;
 using namespace lpctool;
 
 namespace {
