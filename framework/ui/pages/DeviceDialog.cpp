@@ -206,10 +206,10 @@ void CDeviceDialog::Take(DeviceEntry entry)
 }
 
 // The first cancel ends the wait for the device.
-void CDeviceDialog::reject()
+void CDeviceDialog::done(int result)
 {
-    if (!m_waiting->isVisibleTo(this))
-        return CDialog::reject();
+    if (result != Rejected || !m_waiting->isVisibleTo(this))
+        return CDialog::done(result);
     ++m_attempt;
     SetWaiting(false);
 }

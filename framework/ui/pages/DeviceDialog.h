@@ -33,7 +33,7 @@ public:
     /// The device that was added or changed.
     QString Guid() const { return m_guid; }
 
-    void reject() override;
+    void done(int result) override;
 
 private:
     void BuildForm();
