@@ -11,8 +11,8 @@
 
 /// The forms in which a device's configuration is read and written. Every one gives 0, or -1 after exactly
 /// one error line with the SDK's error pair, whose place is the operation's. Arguments that cannot be right
-/// (a negative handle or channel, a null pointer) give -1 with no call and no line. Nothing throws; any
-/// thread.
+/// (a negative handle or channel, a null pointer) and memory that cannot be had give -1 with no call and no
+/// line. Nothing throws; any thread.
 namespace video::sdk_call {
 
 /// What every call is told.
@@ -55,7 +55,7 @@ int ChangeConfig(const Target& target, uint32_t getCommand, uint32_t setCommand,
     return WriteConfig(target, setCommand, current.get());
 }
 
-/// The same, where the change is to copy part to the place of it that place gives.
+/// The same, where the change is to copy part to where place(structure) points.
 template<class Structure, class Part, class Place>
 int ChangePart(const Target& target, uint32_t getCommand, uint32_t setCommand, const Part* part, Place place)
 {
