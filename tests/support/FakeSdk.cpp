@@ -89,12 +89,6 @@ void FakeSdk::Fail(const std::string& function, const Errors& errors)
     m_failures[function] = errors;
 }
 
-void FakeSdk::Succeed(const std::string& function)
-{
-    std::lock_guard<std::mutex> lock(m_mutex);
-    m_failures.erase(function);
-}
-
 void FakeSdk::Answer(uint32_t command, Bytes bytes)
 {
     std::lock_guard<std::mutex> lock(m_mutex);

@@ -43,9 +43,8 @@ public:
     FakeSdk(const FakeSdk&) = delete;
     FakeSdk& operator=(const FakeSdk&) = delete;
 
-    /// Every later call of the function fails, until it is told to succeed.
+    /// Every later call of the function fails.
     void Fail(const std::string& function, const Errors& errors);
-    void Succeed(const std::string& function);
 
     /// What a Get of the command, an ability of the kind, or a login (command QXNET_GET_DEVICE_INFO) and the
     /// voice encoding (QXNET_GET_AUDIO_COMPRESS) give; cut or filled with zeros to the caller's size.
