@@ -164,8 +164,8 @@ bool FrameworkParts::Load(std::string& error)
     lastUser = users->Current().name;
     resources = std::make_unique<CResources>(folder + "resources.json", encryption->Params(),
                                              [this](const ResourceChange& change) { OnResource(change); });
-    devices =
-        std::make_unique<CDeviceLinks>(*resources, folder + "certificates", [this] { TellResources(); }, options.deviceLimits);
+    devices = std::make_unique<CDeviceLinks>(
+        *resources, folder + "certificates", [this] { TellResources(); }, options.deviceLimits);
     for (const std::string& problem :
          {settings->LoadProblem(), users->LoadProblem(), resources->LoadProblem()})
         if (!problem.empty())
@@ -185,6 +185,7 @@ void FrameworkParts::AddRoutes(const Base::Encrypt::AESParams& seal)
     services.logOperation = [this](const std::string& text) {
         operations->Add(users->Current().name, "device", text);
     };
+    services.session = [this](const std::string& guid) { return devices->Session(guid); };
     AddFrameworkRoutes(link.Routes(), *settings, services);
     AddDeviceRoutes(link.Routes(), *resources, services);
 }

@@ -14,7 +14,7 @@ struct Entry
     fakedevices::Device device;
     int logins = 0;
     int pages = 0;
-    std::uint16_t port = 0;
+    std::map<std::pair<std::uint32_t, std::int32_t>, std::string> written;
 };
 
 struct Session
@@ -110,10 +110,10 @@ int Pages(const std::string& host)
     return TheWorld().devices[host].pages;
 }
 
-std::uint16_t LastPort(const std::string& host)
+std::string Written(const std::string& host, std::uint32_t command, int channel)
 {
     std::lock_guard<std::mutex> lock(TheWorld().mutex);
-    return TheWorld().devices[host].port;
+    return TheWorld().devices[host].written[{command, channel}];
 }
 
 } // namespace fakedevices
@@ -142,7 +142,6 @@ int32_t QxNet_Login(const QxNetLogin* login, QxNetDeviceInfo* info)
         return Fail(QXNET_ERROR_UNREACHABLE, 0) - 1;
     Entry& entry = found->second;
     ++entry.logins;
-    entry.port = login->port;
     std::uint32_t error = entry.device.error;
     if (error == 0 && entry.device.password != login->password)
         error = QXNET_ERROR_PASSWORD;
@@ -161,7 +160,21 @@ int QxNet_Logout(int32_t login)
     return TheWorld().sessions.erase(login) > 0 ? 1 : 0;
 }
 
-int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void* structure, uint32_t)
+int NET_DVR_SetDVRConfig(int32_t login, uint32_t command, int32_t channel, const void* structure,
+                         uint32_t size)
+{
+    World& world = TheWorld();
+    std::lock_guard<std::mutex> lock(world.mutex);
+    const auto session = world.sessions.find(login);
+    if (session == world.sessions.end())
+        return Fail(QXNET_ERROR_HANDLE, 0);
+    world.devices[session->second.host].written[{command, channel}].assign(
+        static_cast<const char*>(structure), size);
+    return 1;
+}
+
+/// Structures that are none of watching are zero but for their size.
+int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void* structure, uint32_t size)
 {
     World& world = TheWorld();
     std::unique_lock<std::mutex> lock(world.mutex);
@@ -177,6 +190,9 @@ int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void*
     }
     if (command == QXNET_GET_DEVICE_INFO) {
         std::memcpy(structure, &entry.device.info, sizeof entry.device.info);
+    } else if (command != QXNET_GET_CHANNEL_PAGE) {
+        std::memset(structure, 0, size);
+        std::memcpy(structure, &size, sizeof size);
     } else {
         ++entry.pages;
         FillPage(entry.device, static_cast<std::uint32_t>(channel),

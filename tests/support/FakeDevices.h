@@ -27,6 +27,8 @@ void Clear();
 int Sessions(const std::string& host); ///< open at this moment
 int Logins(const std::string& host);   ///< tried so far
 int Pages(const std::string& host);    ///< read so far
-std::uint16_t LastPort(const std::string& host);
+
+/// What was written under a command (the last one; the structure's octets); empty: nothing.
+std::string Written(const std::string& host, std::uint32_t command, int channel);
 
 } // namespace fakedevices

@@ -152,11 +152,3 @@ std::string CoreTest::AddDevice(const std::string& name, int port, int channels)
     core->Resources().Hear(status);
     return guid;
 }
-
-void CoreTest::HearOffline(const std::string& guid)
-{
-    devices::DeviceStatus status;
-    status.id = guid;
-    status.state = devices::SessionState::Offline;
-    core->Resources().Hear(status);
-}

@@ -87,7 +87,6 @@ protected:
     void Block(const std::string& name);
     /// A device that is online, with so many channels "Camera 1" and so on, two inputs and two outputs.
     std::string AddDevice(const std::string& name, int port = 8000, int channels = 2);
-    void HearOffline(const std::string& guid);
     std::string Folder() const { return root.Path() + "Framework.C/"; }
 
     TestDataRoot root;

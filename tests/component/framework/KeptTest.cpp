@@ -144,18 +144,13 @@ TEST_F(Kept, IsWhatWasBeforeAChangeThatCannotBeWritten)
     EXPECT_TRUE(component.received.Take(
         R"(switchUserUpdateFrame {"method":"switchUserUpdateFrame","data":{"userName":"admin")"));
     Block("resources.json");
-    const std::string devices = "/vantor/v1/deviceManagement/devices/";
-    const std::string output = core->Resources().AlarmOutputs(device)[0].guid;
-    EXPECT_EQ(component
-                  .Request("PUT", devices + device + "/alarmOutputs/" + output + "/controls",
-                           R"({"alarmOutputControl":{"active":true}})")
-                  .status,
-              "500");
     EXPECT_EQ(component
                   .Request("PUT", "/vantor/v1/deviceManagement/groups",
                            R"({"modifyGroupCondition":{"allSmartRule":1}})")
                   .status,
               "500");
+    const std::string output = core->Resources().AlarmOutputs(device)[0].guid;
+    EXPECT_FALSE(core->Resources().SwitchOutput(device, output, true));
     EXPECT_FALSE(core->Resources().AlarmOutputs(device)[0].active);
 }
 
