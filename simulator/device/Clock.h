@@ -10,7 +10,7 @@ namespace simulator {
 /// The device's clock as seconds that it is ahead of this computer's, which is how it is kept.
 struct ClockSetting
 {
-    QxNetClock asSet;           ///< all but the time counts
+    QxNetClock asSet; ///< all but the time counts
     std::int64_t aheadSeconds;
 };
 

@@ -38,12 +38,9 @@ struct CConfiguration::Action
 };
 
 const CConfiguration::Reader CConfiguration::kReaders[] = {
-    {QXNET_GET_DEVICE_INFO,
-     [](const CConfiguration& device, unsigned) { return OctetsOf(device.Info()); }},
-    {QXNET_GET_CHANNEL_PAGE,
-     [](const CConfiguration& device, unsigned channel) {
-         return OctetsOf(device.m_channels.Page(channel));
-     }},
+    {QXNET_GET_DEVICE_INFO, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Info()); }},
+    {QXNET_GET_CHANNEL_PAGE, [](const CConfiguration& device,
+                                unsigned channel) { return OctetsOf(device.m_channels.Page(channel)); }},
     {QXNET_GET_AUDIO_COMPRESS,
      [](const CConfiguration& device, unsigned) { return OctetsOf(device.Audio()); }},
     {QXNET_GET_DISK_QUOTA,
@@ -51,8 +48,7 @@ const CConfiguration::Reader CConfiguration::kReaders[] = {
          return OctetsOf(QuotaOf(device.Disks(), device.m_channels.Count()));
      }},
     {QXNET_GET_DISKS, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Disks()); }},
-    {QXNET_GET_USERS,
-     [](const CConfiguration& device, unsigned) { return OctetsOf(device.m_users.List()); }},
+    {QXNET_GET_USERS, [](const CConfiguration& device, unsigned) { return OctetsOf(device.m_users.List()); }},
     {QXNET_GET_CLOCK, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Clock()); }},
     {QXNET_GET_ALARM_STATES,
      [](const CConfiguration& device, unsigned) { return OctetsOf(device.AlarmStates()); }},
@@ -81,22 +77,22 @@ const CConfiguration::Action CConfiguration::kActions[] = {
      }},
     {QXNET_SWITCH_ALARM_OUTPUT,
      [](CConfiguration& device, unsigned channel, const std::string& octets) {
-         return device.Keep({QXNET_SWITCH_ALARM_OUTPUT, channel}, std::make_shared<const std::string>(octets));
+         return device.Keep({QXNET_SWITCH_ALARM_OUTPUT, channel},
+                            std::make_shared<const std::string>(octets));
      }},
     {QXNET_REBOOT,
      [](CConfiguration& device, unsigned, const std::string& octets) {
          device.m_restart(std::chrono::seconds(StructureOf<QxNetReboot>(octets).delay));
          return std::optional<Refused>();
      }},
-    {QXNET_RESET,
-     [](CConfiguration& device, unsigned, const std::string& octets) {
-         return device.Reset(StructureOf<QxNetReset>(octets));
-     }},
+    {QXNET_RESET, [](CConfiguration& device, unsigned,
+                     const std::string& octets) { return device.Reset(StructureOf<QxNetReset>(octets)); }},
 };
 
-CConfiguration::CConfiguration(const DevicePlan& plan, CChannels& channels, CUsers& users, CParameters& parameters,
-                               Restart restart)
-    : m_plan(plan), m_channels(channels), m_users(users), m_parameters(parameters), m_restart(std::move(restart))
+CConfiguration::CConfiguration(const DevicePlan& plan, CChannels& channels, CUsers& users,
+                               CParameters& parameters, Restart restart)
+    : m_plan(plan), m_channels(channels), m_users(users), m_parameters(parameters),
+      m_restart(std::move(restart))
 {
     MakeDefaults();
 }

@@ -60,12 +60,18 @@ struct CDevice::Route
 };
 
 const CDevice::Route CDevice::kRoutes[] = {
-    {"GET", "config", false, [](CDevice& device, const Call& call) { return GetConfig(device.m_configuration, call); }},
-    {"PUT", "config", true, [](CDevice& device, const Call& call) { return SetConfig(device.m_configuration, call); }},
-    {"POST", "batch/get", false, [](CDevice& device, const Call& call) { return GetBatch(device.m_configuration, call); }},
-    {"POST", "batch/set", true, [](CDevice& device, const Call& call) { return SetBatch(device.m_configuration, call); }},
-    {"POST", "std/get", false, [](CDevice& device, const Call& call) { return GetStandard(device.m_configuration, call); }},
-    {"POST", "std/set", true, [](CDevice& device, const Call& call) { return SetStandard(device.m_configuration, call); }},
+    {"GET", "config", false,
+     [](CDevice& device, const Call& call) { return GetConfig(device.m_configuration, call); }},
+    {"PUT", "config", true,
+     [](CDevice& device, const Call& call) { return SetConfig(device.m_configuration, call); }},
+    {"POST", "batch/get", false,
+     [](CDevice& device, const Call& call) { return GetBatch(device.m_configuration, call); }},
+    {"POST", "batch/set", true,
+     [](CDevice& device, const Call& call) { return SetBatch(device.m_configuration, call); }},
+    {"POST", "std/get", false,
+     [](CDevice& device, const Call& call) { return GetStandard(device.m_configuration, call); }},
+    {"POST", "std/set", true,
+     [](CDevice& device, const Call& call) { return SetStandard(device.m_configuration, call); }},
     {"GET", "ability", false, [](CDevice& device, const Call& call) { return device.Ability(call); }},
     {"DELETE", "session", false, [](CDevice& device, const Call& call) { return device.EndSession(call); }},
 };
@@ -73,10 +79,10 @@ const CDevice::Route CDevice::kRoutes[] = {
 CDevice::CDevice(DevicePlan plan, const DoorSettings& door, CFaultBook& faults, const std::string& folder,
                  Complain complain, Restart restart)
     : m_plan(std::move(plan)), m_faults(faults), m_complain(complain), m_folder(folder, complain),
-      m_parameters(m_folder), m_users(door, m_parameters), m_sessions(door, m_users), m_channels(m_plan.channels),
+      m_parameters(m_folder), m_users(door, m_parameters), m_sessions(door, m_users),
+      m_channels(m_plan.channels),
       m_configuration(m_plan, m_channels, m_users, m_parameters, std::move(restart)), m_voice(m_plan, folder)
-{
-}
+{}
 
 bool CDevice::Load(std::string& error)
 {

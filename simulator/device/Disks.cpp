@@ -20,7 +20,8 @@ QxNetDisk DiskAt(unsigned number, std::int64_t formatted, std::int64_t now)
     if (formatted == 0 || now >= formatted + kFormatSeconds)
         return disk;
     disk.state = QXNET_DISK_FORMATTING;
-    disk.progress = static_cast<std::uint8_t>(std::max<std::int64_t>(0, now - formatted) * 100 / kFormatSeconds);
+    disk.progress =
+        static_cast<std::uint8_t>(std::max<std::int64_t>(0, now - formatted) * 100 / kFormatSeconds);
     disk.writable = 0;
     disk.free = 0;
     return disk;

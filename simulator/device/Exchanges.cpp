@@ -64,7 +64,8 @@ std::variant<Batch, Refused> BatchOf(const Call& call, bool gets)
     const unsigned count = NumberIn(query, "count").value_or(0);
     Batch batch{command, count, command->layout().size, call.request.body};
     const std::size_t item = sizeof(tagNET_DVR_CHANNEL_GROUP) + (gets ? 0 : batch.size);
-    if (count == 0 || count > kBatchItems || NumberIn(query, "condition") != sizeof(tagNET_DVR_CHANNEL_GROUP) ||
+    if (count == 0 || count > kBatchItems ||
+        NumberIn(query, "condition") != sizeof(tagNET_DVR_CHANNEL_GROUP) ||
         NumberIn(query, "size") != batch.size || batch.body.size() != count * item)
         return kBadRequest;
     return batch;
@@ -79,9 +80,10 @@ std::string ForEachItem(const Batch& batch, std::size_t answerSize, Work work)
     for (unsigned item = 0; item < batch.count; ++item) {
         const std::string condition = batch.ConditionAt(item);
         const auto group = StructureOf<tagNET_DVR_CHANNEL_GROUP>(condition);
-        const bool isGood = !devices::Check(devices::ChannelGroupLayout(), condition.data(), condition.size());
-        const std::optional<Refused> refused =
-            isGood ? work(item, group, words + item * answerSize, octets) : std::optional<Refused>(kBadRequest);
+        const bool isGood =
+            !devices::Check(devices::ChannelGroupLayout(), condition.data(), condition.size());
+        const std::optional<Refused> refused = isGood ? work(item, group, words + item * answerSize, octets)
+                                                      : std::optional<Refused>(kBadRequest);
         if (refused)
             PutWord(octets, item * sizeof(std::uint32_t), refused->error);
     }
@@ -156,7 +158,8 @@ HttpAnswer SetConfig(CConfiguration& configuration, const Call& call)
     const auto channel = NumberIn(call.request.query, "channel");
     if (!command)
         return AnswerOf(kUnknownCommand);
-    return channel ? AnswerOf(configuration.Set(*command, *channel, call.request.body)) : AnswerOf(kBadRequest);
+    return channel ? AnswerOf(configuration.Set(*command, *channel, call.request.body))
+                   : AnswerOf(kBadRequest);
 }
 
 HttpAnswer GetBatch(CConfiguration& configuration, const Call& call)

@@ -39,8 +39,8 @@ QxNetUserList CUsers::List() const
     std::memcpy(first.name, m_door.user.data(), std::min(m_door.user.size(), sizeof first.name - 1));
     first.level = QXNET_USER_ADMINISTRATOR;
     for (UserRight right :
-         {&QxNetUser::enabled, &QxNetUser::live, &QxNetUser::playback, &QxNetUser::movement, &QxNetUser::voice,
-          &QxNetUser::alarmOutputs, &QxNetUser::configuration, &QxNetUser::maintenance})
+         {&QxNetUser::enabled, &QxNetUser::live, &QxNetUser::playback, &QxNetUser::movement,
+          &QxNetUser::voice, &QxNetUser::alarmOutputs, &QxNetUser::configuration, &QxNetUser::maintenance})
         first.*right = 1;
     return list;
 }

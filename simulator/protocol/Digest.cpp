@@ -108,8 +108,8 @@ bool ProvesSecret(const std::map<std::string, std::string>& credentials, const s
     if (!isCount || secret.empty() || member("qop") != "auth" || member("algorithm") != "SHA-256" ||
         member("cnonce").empty() || member("realm") != kRealm || member("uri") != target)
         return false;
-    const std::string expected = Sha256Hex(secret + ':' + member("nonce") + ':' + count + ':' + member("cnonce") +
-                                           ":auth:" + Sha256Hex(method + ':' + target));
+    const std::string expected = Sha256Hex(secret + ':' + member("nonce") + ':' + count + ':' +
+                                           member("cnonce") + ":auth:" + Sha256Hex(method + ':' + target));
     return EqualsSecretly(expected, member("response"));
 }
 

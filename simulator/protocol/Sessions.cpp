@@ -27,8 +27,7 @@ void CSessions::RemoveBefore(Uses& uses, Clock::time_point oldest)
 
 CSessions::CSessions(const DoorSettings& settings, const IUserSecrets& users)
     : m_settings(settings), m_users(users), m_nonceKey(RandomHex(32))
-{
-}
+{}
 
 /// A nonce tells its own age and maker, so that none has to be kept for those who never come back.
 std::string CSessions::MakeNonce(Clock::time_point now) const
