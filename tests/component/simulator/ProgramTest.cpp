@@ -21,7 +21,7 @@ TEST(DeviceSimProgram, SaysWhyItDoesNotRun)
     const Row rows[] = {
         {{"--port", std::to_string(other.Port())}, 1, "cannot listen on 127.0.0.1 port"},
         {{"--faults", other.StateFolder() + "none"}, 1, "cannot be read"},
-        {{"--state", "/proc/nowhere"}, 1, "state folder /proc/nowhere/ cannot be used"},
+        {{"--state", "/proc/nowhere"}, 1, "state folder /proc/nowhere/device-0/ cannot be used"},
         {{"--devices", "0"}, 2, "--devices"},
         {{"--channels", "600"}, 2, "more than 512"},
         {{"--type-code", "1x"}, 2, "--type-code"},
@@ -78,8 +78,8 @@ TEST(DeviceSimProgram, VoiceIsKeptAlsoWhenItIsCut)
     const std::string path = "voice/1?encoding=0&rate=8000";
     PlainClient speaker(sim.Port());
     ASSERT_EQ(speaker.Login().status, 200);
-    ASSERT_TRUE(
-        speaker.Send(speaker.Head("POST", path, "Transfer-Encoding: chunked\r\n") + "3\r\n\xff\x80\x00\r\n"));
+    const std::string chunk("3\r\n\xff\x80\0\r\n", 8);
+    ASSERT_TRUE(speaker.Send(speaker.Head("POST", path, "Transfer-Encoding: chunked\r\n") + chunk));
     PlainClient second(sim.Port());
     ASSERT_EQ(second.Login().status, 200);
     ASSERT_TRUE(WaitUntil([&] { return FileContent(sim.StateFolder() + "voice-0-1.wav").size() == 50; }));
