@@ -38,7 +38,7 @@ struct BasicFeatures
             Element("pirAlarm", &BasicFeatures::pirAlarm),
             Element("callHelpAlarm", &BasicFeatures::callHelpAlarm),
             Element("wirelessAlarms", &BasicFeatures::wirelessAlarms, 64),
-            Element("holidays", &BasicFeatures::holidays, 64),
+            Element("holidays", &BasicFeatures::holidays, 32),
             Element("alarmInputs", &BasicFeatures::alarmInputs, 512),
             Element("alarmOutputs", &BasicFeatures::alarmOutputs, 512),
             Element("voiceChannels", &BasicFeatures::voiceChannels, 16),

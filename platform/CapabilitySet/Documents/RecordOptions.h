@@ -14,11 +14,11 @@ struct RecordOptions
     static constexpr std::uint32_t kKind = QXNET_ABILITY_RECORD;
     static constexpr const char* kRoot = "recordAbility";
 
-    Options recordTypes;    ///< what starts recording
-    Options preRecordTime;  ///< "0-disable", "1-5s", ..., "7-0xffffffff": as much as there is
-    Options postRecordTime; ///< "0-5s", ..., "3-1min", ...
-    Options streamType;     ///< "0-mainstream", "1-substream", "2-main_and_sub", ...
-    std::optional<Range> expiryDays;
+    Options recordTypes;             ///< what starts recording, as the SDK's QXNET_ON_...
+    Options preRecordTime;           ///< "0-disable", "1-5s", ..., "7-0xffffffff": as much as there is
+    Options postRecordTime;          ///< "0-5s", ..., "3-1min", ...
+    Options streamType;              ///< "0-mainstream", "1-substream", "2-main_and_sub", ...
+    std::optional<Range> expiryDays; ///< 0 among them: kept until the disk is full
     bool redundantRecord = false;
     bool recordAudio = false;
     bool holidayRecord = false;
