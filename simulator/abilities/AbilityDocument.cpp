@@ -16,11 +16,11 @@ struct Model
     bool recordedElsewhere = true;
 };
 
-Model ModelOf(const QxNetDeviceInfo& device)
+Model ModelOf(std::uint32_t deviceKind, const QxNetDeviceInfo& device)
 {
     Model model;
-    model.recorder = device.typeCode == QXNET_DEVICE_RECORDER || device.typeCode == 107;
-    model.storageServer = device.typeCode == QXNET_DEVICE_STORAGE_SERVER;
+    model.recorder = deviceKind == QXNET_DEVICE_RECORDER;
+    model.storageServer = deviceKind == QXNET_DEVICE_STORAGE_SERVER;
     model.recordsItself = device.typeCode != 102 && !(device.typeCode == 15 && device.subType == 6);
     model.recordedElsewhere = device.typeCode != 107;
     return model;
@@ -67,9 +67,10 @@ CapabilitySet::BasicFeatures FeaturesOf(const Model& model, const QxNetDeviceInf
 
 } // namespace
 
-std::string AbilityDocument(const QxNetDeviceInfo& device, std::int32_t channel, std::uint32_t kind)
+std::string AbilityDocument(std::uint32_t deviceKind, const QxNetDeviceInfo& device, std::int32_t channel,
+                            std::uint32_t kind)
 {
-    const Model model = ModelOf(device);
+    const Model model = ModelOf(deviceKind, device);
     const std::uint32_t channels = model.storageServer ? 0 : device.channels;
     if (channel < 0 || static_cast<std::uint32_t>(channel) > channels)
         return {};

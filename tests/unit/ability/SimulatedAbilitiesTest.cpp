@@ -12,6 +12,7 @@ namespace {
 struct Row
 {
     const char* name;
+    std::uint32_t deviceKind;
     std::uint32_t typeCode;
     std::uint32_t subType;
     std::int32_t channel;
@@ -23,17 +24,20 @@ struct Row
 };
 
 const Row kRows[] = {
-    {"encoder", QXNET_DEVICE_ENCODER, 0, 1, "12345", false, true, 0, 7},
-    {"recorder, network camera", QXNET_DEVICE_RECORDER, 0, 1, "12345", true, true, 6, 8},
-    {"recorder, analog camera", QXNET_DEVICE_RECORDER, 0, 4, "12345", true, true, 3, 8},
-    {"recorder itself", QXNET_DEVICE_RECORDER, 0, 0, "2", true, true, 0, 0},
-    {"no such channel", QXNET_DEVICE_RECORDER, 0, 5, "", false, false, 0, 0},
-    {"storage server", QXNET_DEVICE_STORAGE_SERVER, 0, 0, "2", false, false, 0, 0},
-    {"its channels", QXNET_DEVICE_STORAGE_SERVER, 0, 1, "", false, false, 0, 0},
-    {"type 102", 102, 0, 1, "125", false, false, 0, 0},
-    {"type 15, sub-type 6", 15, 6, 1, "125", false, false, 0, 0},
-    {"type 15", 15, 5, 1, "12345", false, true, 0, 7},
-    {"type 107", 107, 0, 1, "12345", true, false, 6, 8},
+    {"encoder", QXNET_DEVICE_ENCODER, QXNET_DEVICE_ENCODER, 0, 1, "12345", false, true, 0, 7},
+    {"recorder, network camera", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 1, "12345", true, true, 6,
+     8},
+    {"recorder, analog camera", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 4, "12345", true, true, 3,
+     8},
+    {"recorder itself", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 0, "2", true, true, 0, 0},
+    {"no such channel", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 5, "", false, false, 0, 0},
+    {"storage server", QXNET_DEVICE_STORAGE_SERVER, QXNET_DEVICE_STORAGE_SERVER, 0, 0, "2", false, false, 0,
+     0},
+    {"its channels", QXNET_DEVICE_STORAGE_SERVER, QXNET_DEVICE_STORAGE_SERVER, 0, 1, "", false, false, 0, 0},
+    {"type 102", QXNET_DEVICE_ENCODER, 102, 0, 1, "125", false, false, 0, 0},
+    {"type 15, sub-type 6", QXNET_DEVICE_ENCODER, 15, 6, 1, "125", false, false, 0, 0},
+    {"type 15", QXNET_DEVICE_ENCODER, 15, 5, 1, "12345", false, true, 0, 7},
+    {"type 107", QXNET_DEVICE_RECORDER, 107, 0, 1, "12345", true, false, 6, 8},
 };
 
 /// The ability that the channel has, or what one has whose every element is missing; notes the kind.
@@ -44,7 +48,7 @@ Ability Get(const Row& row, std::string& kinds)
     device.typeCode = row.typeCode;
     device.subType = row.subType;
     device.channels = 4;
-    const std::string document = AbilityDocument(device, row.channel, Ability::kKind);
+    const std::string document = AbilityDocument(row.deviceKind, device, row.channel, Ability::kKind);
     Ability ability;
     std::string problem;
     if (!document.empty()) {
