@@ -1,6 +1,7 @@
 #include "simulator/device/Device.h"
 
 #include "simulator/abilities/AbilityDocument.h"
+
 namespace simulator {
 
 struct CDevice::Route
