@@ -1,12 +1,13 @@
 #include "CapabilitySet/CapabilitySet.h"
 #include "CapabilitySet/SdkQuestion.h"
 #include "support/CapturedLog.h"
+#include "support/FakeSdk.h"
 
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstring>
 #include <future>
+#include <thread>
 
 using namespace CapabilitySet;
 
@@ -15,81 +16,56 @@ namespace {
 const std::string kBasic = "<basicAbility version='1'><cabac>true</cabac></basicAbility>";
 const std::string kRecord = "<recordAbility version='1'/>";
 
-/// What the device behind the SDK says, and how often it was asked.
-struct Device
+FakeSdk::Bytes Bytes(const std::string& document)
 {
-    std::string document = kBasic;
-    std::uint32_t error = 0;
-    int questions = 0;
-};
-Device device;
-
-} // namespace
-
-extern "C" int QxNet_GetAbility(int32_t, uint32_t, int32_t, char* text, uint32_t capacity, uint32_t* length)
-{
-    ++device.questions;
-    *length = static_cast<uint32_t>(device.document.size());
-    if (device.error || capacity <= *length)
-        return 0;
-    std::memcpy(text, device.document.c_str(), *length + 1);
-    return 1;
+    return {document.begin(), document.end()};
 }
 
-extern "C" uint32_t NET_DVR_GetLastError()
+TEST(CapabilitySet, TellsWhyItFailedAndAsksAgain)
 {
-    return device.error ? device.error : static_cast<uint32_t>(QXNET_ERROR_BUFFER_TOO_SMALL);
-}
-
-extern "C" uint32_t NET_DVR_GetLastErrorModelCode(uint32_t*)
-{
-    return 7;
-}
-
-namespace {
-
-TEST(CapabilitySet, AsksADeviceOnceAndTellsWhyItFailed)
-{
-    device = {};
+    FakeSdk sdk;
     BasicFeatures features;
     const CapturedLog log;
-    device.error = QXNET_ERROR_UNREACHABLE;
+    sdk.Answer(QXNET_ABILITY_BASIC, Bytes(kRecord));
+    EXPECT_FALSE(BasicCapability::GetBasicCapability(3, 1, features));
+    EXPECT_EQ(LastError().error, static_cast<unsigned>(QXNET_ERROR_UNREADABLE));
+    EXPECT_FALSE(BasicCapability::GetBasicCapability(-1, 1, features));
+    EXPECT_EQ(LastError().error, static_cast<unsigned>(QXNET_ERROR_ARGUMENT));
+    sdk.Fail("QxNet_GetAbility", {QXNET_ERROR_UNREACHABLE, 7, 0});
     EXPECT_FALSE(BasicCapability::GetBasicCapability(3, 1, features));
     EXPECT_EQ(LastError().error, static_cast<unsigned>(QXNET_ERROR_UNREACHABLE));
     EXPECT_EQ(LastError().moduleError, 7u);
-    EXPECT_EQ(log.Errors(), std::vector<std::string>{"QxNet_GetAbility failed, [201]-[7]."});
-    device.error = 0;
-    device.document = kRecord;
-    EXPECT_FALSE(BasicCapability::GetBasicCapability(3, 1, features));
-    EXPECT_EQ(LastError().error, static_cast<unsigned>(QXNET_ERROR_UNREADABLE));
-    EXPECT_EQ(log.Errors().size(), 2u);
-    EXPECT_FALSE(BasicCapability::GetBasicCapability(-1, 1, features));
-    EXPECT_EQ(LastError().error, static_cast<unsigned>(QXNET_ERROR_ARGUMENT));
-    EXPECT_EQ(device.questions, 2);
+    EXPECT_EQ(sdk.Calls().size(), 2u);
+    ASSERT_EQ(log.Errors().size(), 3u);
+    EXPECT_EQ(log.Errors().back(), "QxNet_GetAbility failed, [201]-[7].");
+}
 
-    device.document = kBasic;
-    EXPECT_TRUE(BasicCapability::GetBasicCapability(3, 1, features));
+TEST(CapabilitySet, AsksADeviceOnceUntilItIsForgotten)
+{
+    FakeSdk sdk;
+    BasicFeatures features;
+    sdk.Answer(QXNET_ABILITY_BASIC, Bytes(kBasic));
+    EXPECT_TRUE(BasicCapability::GetBasicCapability(4, 1, features));
+    features = {};
+    EXPECT_TRUE(BasicCapability::GetBasicCapability(4, 1, features));
     EXPECT_TRUE(features.cabac);
-    EXPECT_TRUE(BasicCapability::GetBasicCapability(3, 1, features));
-    EXPECT_EQ(device.questions, 3);
-    Forget(3);
-    EXPECT_TRUE(BasicCapability::GetBasicCapability(3, 1, features));
-    EXPECT_EQ(device.questions, 4);
+    EXPECT_EQ(sdk.Calls().size(), 1u);
+    Forget(4);
+    EXPECT_TRUE(BasicCapability::GetBasicCapability(4, 1, features));
+    EXPECT_EQ(sdk.Calls().size(), 2u);
 }
 
 TEST(CapabilitySet, GetsDocumentsOfAnyLengthThatTheSdkMayGive)
 {
-    for (const std::size_t length : {1ul, 32'767ul, 32'768ul, 1024 * 1024ul}) {
-        device = {};
-        device.document = std::string(length, 'x');
-        std::string document;
-        AbilityError error;
-        EXPECT_TRUE(AskSdk(1, QXNET_ABILITY_BASIC, 1, document, error));
-        EXPECT_EQ(document, device.document);
-    }
-    device.document += 'x';
+    FakeSdk sdk;
     std::string document;
     AbilityError error;
+    for (const std::size_t length : {1, 32'767, 32'768, 1024 * 1024}) {
+        sdk.Answer(QXNET_ABILITY_BASIC, Bytes(std::string(length, 'x')));
+        EXPECT_TRUE(AskSdk(1, QXNET_ABILITY_BASIC, 1, document, error));
+        EXPECT_EQ(document, std::string(length, 'x'));
+    }
+    sdk.Answer(QXNET_ABILITY_BASIC, Bytes(document + 'x'));
     EXPECT_FALSE(AskSdk(1, QXNET_ABILITY_BASIC, 1, document, error));
 }
 
