@@ -40,11 +40,6 @@ bool IsSelected(const QStyleOptionViewItem& option)
     return option.state.testFlag(QStyle::State_Selected);
 }
 
-QColor SecondaryColor(const QStyleOptionViewItem& option)
-{
-    return option.palette.color(IsSelected(option) ? QPalette::HighlightedText : QPalette::PlaceholderText);
-}
-
 /// The part of a row between start and end, of a given width from one of these.
 QRect AtStart(const QStyleOptionViewItem& option, const QRect& rest, int width)
 {
@@ -132,7 +127,7 @@ int CResourceDelegate::PaintCount(QPainter& painter, const QRect& place, const Q
         return 0;
     const QString text = QLocale().toString(channels);
     const int width = option.fontMetrics.horizontalAdvance(text);
-    painter.setPen(SecondaryColor(option));
+    painter.setPen(IsSelected(option) ? option.palette.color(QPalette::HighlightedText) : m_view.IdleColor());
     painter.drawText(AtEnd(option, place, width), Qt::AlignCenter, text);
     return width + Grid::Small;
 }
@@ -152,7 +147,7 @@ void CResourceDelegate::PaintName(QPainter& painter, const QRect& place, const Q
     }
     const bool isFaint = IsAway(index) && !IsSelected(option);
     const QPalette::ColorRole role = IsSelected(option) ? QPalette::HighlightedText : QPalette::Text;
-    painter.setPen(isFaint ? SecondaryColor(option) : option.palette.color(role));
+    painter.setPen(isFaint ? m_view.IdleColor() : option.palette.color(role));
     DrawLine(painter, place, option, shown, formats);
 }
 

@@ -266,12 +266,12 @@ bool CResourceTree::eventFilter(QObject* watched, QEvent* event)
 void CResourceTree::ShowCounts()
 {
     const int cameras = m_model->Count(ElementType::Channel);
-    m_count->setText(IsSearching() ? tr("%n found", nullptr, m_model->Hits())
-                                   : tr("%n camera(s)", nullptr, cameras));
+    m_count->setText(IsSearching() ? tr("%Ln found", nullptr, m_model->Hits())
+                                   : tr("%Ln camera(s)", nullptr, cameras));
     const bool isEmpty = !m_model->hasChildren();
     m_noElements->setVisible(isEmpty && !IsSearching());
     m_noHits->setVisible(isEmpty && IsSearching());
-    m_count->setVisible(!isEmpty || IsSearching());
+    m_count->setVisible(!isEmpty);
 }
 
 } // namespace UiDataController
