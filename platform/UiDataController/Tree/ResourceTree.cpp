@@ -171,6 +171,8 @@ void CResourceTree::ExpandHits()
 // Everything is collapsed first: views never forget expanded rows that a model hides without removing them.
 void CResourceTree::OnSearchChanged(const QString& text)
 {
+    if (!m_model->IsOtherSearch(text))
+        return;
     const QScopedValueRollback<bool> arranging(m_isArranging, true);
     const bool wasSearching = IsSearching();
     if (!wasSearching) {

@@ -29,14 +29,19 @@ void CResourceTreeModel::SetOrder(ResourceOrder order)
     });
 }
 
-void CResourceTreeModel::SetSearch(const QString& text)
+bool CResourceTreeModel::IsOtherSearch(const QString& text) const
 {
     CElementSearch search;
     search.SetText(text);
-    if (search.Needle() == Search())
+    return search.Needle() != Search();
+}
+
+void CResourceTreeModel::SetSearch(const QString& text)
+{
+    if (!IsOtherSearch(text))
         return;
     Relayout([&] {
-        m_search = search;
+        m_search.SetText(text);
         m_hits = m_search.Run(m_forest.Root());
     });
 }

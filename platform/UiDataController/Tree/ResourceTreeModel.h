@@ -35,6 +35,8 @@ public:
     /// Leaves only elements whose name holds the text, whatever its case and accents, with everything that
     /// they stand in and everything that stands in them. An empty text ends the search.
     void SetSearch(const QString& text);
+    /// Whether that would change anything.
+    bool IsOtherSearch(const QString& text) const;
     /// The text searched for, folded (see foldedText); empty without a search.
     const QString& Search() const { return m_search.Needle(); }
     /// How many elements have a name that holds the text.
