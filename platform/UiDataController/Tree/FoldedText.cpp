@@ -9,17 +9,24 @@ bool IsMark(uint letter)
     return QChar::category(letter) == QChar::Mark_NonSpacing;
 }
 
+/// Folding leaves these as they are, although people take them for others: sharp s, dotless i.
+bool IsSpecial(uint letter)
+{
+    return letter == 0xDF || letter == 0x131;
+}
+
 bool IsFolded(uint letter)
 {
     return QChar::decompositionTag(letter) == QChar::NoDecomposition &&
-           QChar::toCaseFolded(letter) == letter && !IsMark(letter) && letter != 0xDF;
+           QChar::toCaseFolded(letter) == letter && !IsMark(letter) && !IsSpecial(letter);
 }
 
-/// A letter that is not its own folded form.
+/// A letter that is not its own folded form. Upper case makes two letters of sharp s.
 QString FoldedLetter(const QString& letter)
 {
     QString folded;
-    for (const uint part : letter.normalized(QString::NormalizationForm_KD).toCaseFolded().toUcs4())
+    const QString plain = letter.normalized(QString::NormalizationForm_KD).toUpper().toCaseFolded();
+    for (const uint part : plain.toUcs4())
         if (!IsMark(part))
             folded += QString::fromUcs4(&part, 1);
     return folded;

@@ -4,7 +4,18 @@
 
 namespace UiDataController {
 
-CSortFilterProxyModel::CSortFilterProxyModel(QObject* parent) : QSortFilterProxyModel(parent)
+namespace {
+
+/// The locale "C" knows no collation, and so no numbers.
+QLocale LocaleOfNames()
+{
+    return QLocale().language() == QLocale::C ? QLocale(QLocale::English) : QLocale();
+}
+
+} // namespace
+
+CSortFilterProxyModel::CSortFilterProxyModel(QObject* parent)
+    : QSortFilterProxyModel(parent), m_collator(LocaleOfNames())
 {
     m_collator.setNumericMode(true);
     m_collator.setCaseSensitivity(Qt::CaseInsensitive);
