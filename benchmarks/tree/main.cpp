@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -86,6 +87,18 @@ void Type(CStage& stage, QLineEdit* field, CSamples& times)
     }
 }
 
+/// Ends the program unless every row is laid out, without which the times would say nothing.
+void CheckRows(const QTreeView* view, int channels)
+{
+    int rows = 0;
+    for (QModelIndex row = view->model()->index(0, 0); row.isValid(); row = view->indexBelow(row))
+        ++rows;
+    if (rows == channels + (channels + kChannelsEach - 1) / kChannelsEach)
+        return;
+    std::fprintf(stderr, "a tree of %d channels shows %d rows\n", channels, rows);
+    std::exit(1);
+}
+
 /// The times of both sides.
 struct Pair
 {
@@ -102,11 +115,10 @@ struct Pair
     CSamples bare;
 };
 
-void FillOnce(CStage& stage, const CSampleElements& source, Pair& times)
+void FillOnce(CStage& stage, CSampleElements& source, Pair& times)
 {
     auto start = Clock::now();
-    auto* tree =
-        new CResourceTree(const_cast<CSampleElements&>(source), ResourceOrder::ByDevice, stage.Window());
+    auto* tree = new CResourceTree(source, ResourceOrder::ByDevice, stage.Window());
     stage.Show(tree, tree->View());
     times.ours.Add(Clock::now() - start);
     delete tree;
@@ -121,7 +133,7 @@ void FillOnce(CStage& stage, const CSampleElements& source, Pair& times)
 /// The median of our side in microseconds.
 double MeasureFill(CStage& stage, int channels, std::size_t rounds)
 {
-    const CSampleElements source(manyElements(channels, kChannelsEach));
+    CSampleElements source(manyElements(channels, kChannelsEach));
     Pair unmeasured(1);
     FillOnce(stage, source, unmeasured);
     Pair times(rounds);
@@ -137,11 +149,13 @@ void MeasureFilter(CStage& stage, int channels, std::size_t rounds)
     Pair times(rounds * 2 * std::strlen(kTyped));
     auto* tree = new CResourceTree(source, ResourceOrder::ByDevice, stage.Window());
     stage.Show(tree, tree->View());
+    CheckRows(tree->View(), channels);
     for (std::size_t round = 0; round < rounds; ++round)
         Type(stage, tree->findChild<QLineEdit*>("resourceSearch"), times.ours);
     delete tree;
     auto* bare = new bench::CBareTree(source.Snapshot().elements, stage.Window());
     stage.Show(bare, bare->View());
+    CheckRows(bare->View(), channels);
     for (std::size_t round = 0; round < rounds; ++round)
         Type(stage, bare->Search(), times.bare);
     delete bare;

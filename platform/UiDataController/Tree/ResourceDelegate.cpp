@@ -143,6 +143,7 @@ void CResourceDelegate::PaintName(QPainter& painter, const QRect& place, const Q
         QTextCharFormat mark;
         mark.setBackground(m_view.HitColor());
         mark.setForeground(m_view.HitTextColor());
+        mark.setFontWeight(QFont::DemiBold);
         formats.append({hit.start, std::min(hit.length, shown.size() - hit.start), mark});
     }
     const bool isFaint = IsAway(index) && !IsSelected(option);
