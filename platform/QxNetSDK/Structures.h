@@ -9,4 +9,18 @@
  * reserved bytes.
  */
 
+#include "QxNetSDK/Structures/Alarms.h"
+#include "QxNetSDK/Structures/AuxAlarms.h"
+#include "QxNetSDK/Structures/Camera.h"
+#include "QxNetSDK/Structures/Capture.h"
+#include "QxNetSDK/Structures/Commands.h"
+#include "QxNetSDK/Structures/Conditions.h"
+#include "QxNetSDK/Structures/Detections.h"
 #include "QxNetSDK/Structures/Device.h"
+#include "QxNetSDK/Structures/Layout.h"
+#include "QxNetSDK/Structures/Maintenance.h"
+#include "QxNetSDK/Structures/Motion.h"
+#include "QxNetSDK/Structures/Network.h"
+#include "QxNetSDK/Structures/Recording.h"
+#include "QxNetSDK/Structures/Schedule.h"
+#include "QxNetSDK/Structures/Storage.h"
