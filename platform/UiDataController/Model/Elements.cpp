@@ -46,9 +46,16 @@ std::int32_t CModelElement::Session(const QID& deviceId) const
     return m_isRemoved || deviceId.isEmpty() ? kNoDevice : m_logins.Session(deviceId.toStdString());
 }
 
+std::int32_t CModelElement::OwnSession() const
+{
+    const std::int32_t session = Session(Device().deviceId);
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return session == kNoDevice && !m_isRemoved ? kLoginFailed : session;
+}
+
 std::int32_t CCamera::Login(int whose) const
 {
-    return Session(whose == kLoginOfDevice ? Device().deviceId : LinkedServerId());
+    return whose == kLoginOfDevice ? OwnSession() : Session(LinkedServerId());
 }
 
 bool CCamera::SetLinkedServerId(const QID& serverId)

@@ -20,8 +20,10 @@ public:
 
     ElementInfo Element() const;
     DeviceInfoRecord Device() const;
-    /// kNoDevice for an empty identifier.
+    /// Of any device; kNoDevice for an empty identifier.
     std::int32_t Session(const QID& deviceId) const;
+    /// Of the element's own device, which is there even when nobody can log in to it.
+    std::int32_t OwnSession() const;
 
 protected:
     mutable std::mutex m_mutex; ///< of everything, those of the derived classes included
@@ -71,7 +73,7 @@ public:
     QString Address() const override { return m_address; }
     DeviceInfoRecord DeviceInfo() const override { return Device(); }
     ElementState DeviceStatus() const override { return Element().state; }
-    std::int32_t Login() const override { return Session(Element().id); }
+    std::int32_t Login() const override { return OwnSession(); }
 
 private:
     const QString m_address;

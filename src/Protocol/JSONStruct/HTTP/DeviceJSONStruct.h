@@ -21,6 +21,7 @@ struct DeviceResponseData : CMessage<DeviceResponseData, IInboundData>
     std::uint16_t port = 0;
     std::string userName;
     std::string password;
+    bool useTls = false; ///< the device is reached over TLS
     bool online = false;
 
     static constexpr auto Fields()
@@ -29,7 +30,8 @@ struct DeviceResponseData : CMessage<DeviceResponseData, IInboundData>
         return std::make_tuple(Must("guid", &T::guid), Must("name", &T::name), Must("typeCode", &T::typeCode),
                                May("subType", &T::subType), Must("address", &T::address),
                                Must("port", &T::port), May("userName", &T::userName),
-                               May("password", &T::password), May("online", &T::online));
+                               May("password", &T::password), May("useTls", &T::useTls),
+                               May("online", &T::online));
     }
 };
 
