@@ -2,6 +2,8 @@
 
 #include "UiDataController/Model/Elements.h"
 
+#include <algorithm>
+
 namespace UiDataController {
 
 namespace {
@@ -116,13 +118,12 @@ std::shared_ptr<ITask> CLogicModel::Task(const QID& id) const
     return task;
 }
 
-std::vector<ElementInfo> CLogicModel::StorageServers() const
+std::vector<ElementInfo> CLogicModel::All(ElementType type) const
 {
-    std::vector<ElementInfo> servers;
-    for (ElementInfo& element : Snapshot().elements)
-        if (element.type == ElementType::StorageServer)
-            servers.push_back(std::move(element));
-    return servers;
+    std::vector<ElementInfo> all = Snapshot().elements;
+    const auto isOther = [type](const ElementInfo& element) { return element.type != type; };
+    all.erase(std::remove_if(all.begin(), all.end(), isOther), all.end());
+    return all;
 }
 
 ModelCounts CLogicModel::Counts() const

@@ -39,8 +39,8 @@ public:
     std::shared_ptr<ICamera> Camera(const QID& id) const;
     /// The same for a storage server.
     std::shared_ptr<ITask> Task(const QID& id) const;
-    /// In the order of their addition.
-    std::vector<ElementInfo> StorageServers() const;
+    /// All elements of a type, in the order of ElementSnapshot.
+    std::vector<ElementInfo> All(ElementType type) const;
     ModelCounts Counts() const;
 
 private:
