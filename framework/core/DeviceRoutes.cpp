@@ -110,6 +110,13 @@ lpc::Message SwitchOutput(CResources& resources, const RouteServices& services, 
                                                           : Failed(500, "The state cannot be saved.");
 }
 
+lpc::Message AllGroups(const CResources& resources)
+{
+    protocol::GroupListData list;
+    list.groups = resources.Groups();
+    return Found(list);
+}
+
 lpc::Message ModifyGroups(CResources& resources, const protocol::ModifyGroupCondition& condition)
 {
     protocol::GroupListData list;
@@ -198,6 +205,7 @@ void AddDeviceRoutes(CRouteTable& routes, CResources& resources, const RouteServ
             [&resources, services](const RouteRequest& request, const AlarmOutputControlData& control) {
                 return SwitchOutput(resources, services, request, control.active);
             }));
+    routes.Add("GET", route::kGroups, [&resources](const RouteRequest&) { return AllGroups(resources); });
     routes.Add("PUT", route::kGroups,
                WithBody<ModifyGroupCondition>(
                    [&resources](const RouteRequest&, const ModifyGroupCondition& condition) {

@@ -12,6 +12,7 @@ using CGetDevices = CQuery<protocol::route::kDevices, protocol::DeviceResponseLi
 using CGetDevice = CDeviceQuery<protocol::route::kNothing, protocol::DeviceResponseData>;
 using CGetDeviceChannels = CDeviceQuery<protocol::route::kChannels, protocol::DeviceChannelListData>;
 using CGetDeviceAlarmInputs = CDeviceQuery<protocol::route::kAlarmInputs, protocol::AlarmInputInfoData>;
+using CGetGroups = CQuery<protocol::route::kGroups, protocol::GroupListData>;
 
 /// Changes all groups as the condition says. groups are those that it changed.
 struct CModifyAllGroupsComm

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "UiDataController/Model/Element.h"
+
 namespace vantor {
 
 /// The tree of devices, channels and groups that the user sees. Owned by the application; any thread.
@@ -7,6 +9,9 @@ class IResourceTreeManager
 {
 public:
     virtual ~IResourceTreeManager() = default;
+
+    /// What the tree shows.
+    virtual UiDataController::IElementSource& Elements() = 0;
 };
 
 } // namespace vantor

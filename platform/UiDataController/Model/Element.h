@@ -40,7 +40,7 @@ struct ElementInfo
     QString problem;  ///< why it is offline, for the user; may be empty
     int typeCode = 0; ///< of a device or storage server, and of a channel's device
     int subType = 0;
-    int number = 0; ///< of a channel, at its device, from 1; of others their place among their like
+    int number = 0; ///< of a channel, at its device, from 1; of others it grows with their addition
 
     bool operator==(const ElementInfo& other) const;
     bool operator!=(const ElementInfo& other) const { return !(*this == other); }
@@ -51,7 +51,8 @@ struct ElementChange
     enum class Kind {
         Add,    ///< at the end of its like; a channel at the place of its number
         Change, ///< anything but id and type
-        Remove, ///< what stands below a removed device or group is removed by changes of its own, before it
+        Remove, ///< what stands below a removed device or group is removed by changes of its own, before it;
+                ///< but the channels of a group stay, without a group
         Reset,  ///< everything may be different: take a new snapshot; element is empty
     };
     Kind kind = Kind::Change;

@@ -27,6 +27,7 @@
 #include "WndIdManager.h"
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/System/VideoSystemManager.h"
+#include "ui/Application/DeviceResources.h"
 #include "ui/Application/PageCatalogue.h"
 #include "ui/Application/ServedRoutes.h"
 #include "ui/Application/VantorApplication.h"
@@ -101,6 +102,7 @@ void CVantorApplication::RegisterForNotifications()
             type, m_anchor.Ref(), [](const protocol::WebSocketNotifyData& notification) {
                 BASE_LIMITED(Base::CCallLimit, BASE_INFO, "Notification [%s] of [%s].",
                              notification.type.c_str(), protocol::LoggableText(notification.guid).c_str());
+                DeviceResources().OnNotification(notification);
             });
 }
 
@@ -109,8 +111,8 @@ bool CVantorApplication::InitLogical()
     std::future<void> multimedia = StartMultimediaComm();
     std::future<void> cloud = StartCloudP2PManager();
     vantor::ILocalDataManager& localData = CVideoSystemManager::Instance().LocalDataManager();
-    PreviewLogical::CPreviewLogical::Instance().init(nullptr, &localData);
-    PlaybackLogical::CPlaybackLogical::Instance().init(nullptr, &localData);
+    PreviewLogical::CPreviewLogical::Instance().init(&DeviceTree(), &localData);
+    PlaybackLogical::CPlaybackLogical::Instance().init(&DeviceGroups(), &localData);
     multimedia.wait();
     cloud.wait();
     CLPCClientPackage::Instance().Init();
@@ -133,6 +135,8 @@ void CVantorApplication::UnInit()
 {
     UiDataController::CLocalLogManager::Instance().setLogger(nullptr);
     UnInitLink();
+    // Its questions to the framework have failed by now, so that this does not wait for any.
+    DeviceResources().Stop();
     UnInitGui();
     StopLoopsAndPools();
     BASE_INFO("UninitBase Success.");

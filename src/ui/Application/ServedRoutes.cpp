@@ -8,6 +8,7 @@
 #include "logical/Local/LocalFileRoutes.h"
 #include "logical/System/SystemConfigRoutes.h"
 #include "logical/System/VideoSystemManager.h"
+#include "ui/Application/DeviceResources.h"
 
 namespace video {
 
@@ -35,8 +36,15 @@ void ServeLinkMethods(CLPCClientPackage& link)
 void ServeState(CLPCClientPackage& link)
 {
     link.Dispatcher().Http().Bind(route::kState, [&link](const lpcclient::LPCCallBackData& call) {
-        if (call.requestId != 0)
-            link.ReplyBody(call, protocol::WriteJSONStr(link.State()));
+        if (call.requestId == 0)
+            return;
+        protocol::ComponentStateData state = link.State();
+        const UiDataController::ModelCounts counts = DeviceResources().Model().Counts();
+        state.devices = counts.devices;
+        state.devicesOnline = counts.devicesOnline;
+        state.channels = counts.channels;
+        state.channelsOnline = counts.channelsOnline;
+        link.ReplyBody(call, protocol::WriteJSONStr(state));
     });
 }
 

@@ -19,6 +19,7 @@
 #include "logical/Communication/LPCClientPackage.h"
 #include "logical/Local/DatabaseSession/VideoSystemDB.h"
 #include "logical/System/VideoSystemManager.h"
+#include "ui/Application/DeviceResources.h"
 #include "ui/Application/LayoutFiles.h"
 #include "ui/Application/VantorApplicationManager.h"
 
@@ -133,6 +134,7 @@ bool CVantorApplication::Init()
     BASE_INFO("initDateTimeFormat Success.");
     UiDataController::CDeviceUserIDManager::Instance().init(
         comm_methodlib::CUserDataPath::Instance().logPath());
+    DeviceResources().Start();
     return true;
 }
 

@@ -64,6 +64,7 @@ const std::vector<Row> kRows = {
      R"({"groupList":[{"guid")"},
     {"PUT", kManagement + "groups", R"({"modifyGroupCondition":{"allSmartRule":1}})", "200",
      R"({"groupList":[]})"},
+    {"GET", kManagement + "groups", "", "200", R"("channelGuids":["$camera")"},
     {"POST", kManagement + "batchTimeSynchronization", R"({"deviceGuidList":["$device","x","$off"]})", "200",
      R"("errorCode":0,"errorModuleCode":0}},{"deviceGuid":"x","result":{"errorCode":404,)"},
     {"POST", kManagement + "wipers", R"({"wiperControl":{"channelGuids":["$camera","x"],"action":2}})", "200",

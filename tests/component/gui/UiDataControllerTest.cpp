@@ -57,9 +57,13 @@ private:
 };
 
 struct ResourceTree : vantor::IResourceTreeManager
-{};
-struct Groups : vantor::IGroupManager
-{};
+{
+    UiDataController::IElementSource& Elements() override { std::abort(); }
+};
+struct GroupList : vantor::IGroupManager
+{
+    std::vector<UiDataController::ElementInfo> Groups() const override { return {}; }
+};
 struct LocalData : vantor::ILocalDataManager
 {
     vantor::ILocalFile& LocalFile() override { std::abort(); }
@@ -267,7 +271,7 @@ TEST(Logic, StartsAndEndsAnyNumberOfTimes)
     ResourceTree tree, otherTree;
     CheckStartAndEnd(PreviewLogical::CPreviewLogical::Instance(), tree, otherTree,
                      &PreviewLogical::CPreviewLogical::ResourceTreeManager);
-    Groups groups, otherGroups;
+    GroupList groups, otherGroups;
     CheckStartAndEnd(PlaybackLogical::CPlaybackLogical::Instance(), groups, otherGroups,
                      &PlaybackLogical::CPlaybackLogical::GroupManager);
 }

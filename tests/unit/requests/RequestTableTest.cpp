@@ -127,6 +127,8 @@ const Row kRows[] = {
      "/vantor/v1/deviceManagement/devices/dev%201%2F2", "", kEmptyDevice, nullptr},
     {"Channels", OfDevice(&commlayer::CGetDeviceChannels::request), "GET",
      "/vantor/v1/deviceManagement/devices/dev%201%2F2/channels/", "", R"({"channelList":[]})", nullptr},
+    {"Groups", Query(&commlayer::CGetGroups::request), "GET", "/vantor/v1/deviceManagement/groups", "",
+     R"({"groupList":[]})", nullptr},
     {"AlarmInputs", OfDevice(&commlayer::CGetDeviceAlarmInputs::request), "GET",
      "/vantor/v1/deviceManagement/devices/dev%201%2F2/alarmInputs/", "", R"({"alarmInputList":[]})", nullptr},
     {"TimeSync",

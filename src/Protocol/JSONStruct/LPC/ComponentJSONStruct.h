@@ -77,20 +77,26 @@ struct ComponentListData : CMessage<ComponentListData, IInboundData>
     static constexpr auto Fields() { return Whole(&ComponentListData::components); }
 };
 
-/// How the component's link does.
+/// How the component does: its link, and the devices that it knows.
 struct ComponentStateData : CMessage<ComponentStateData, IInboundData>
 {
     static constexpr const char* kKey = "componentState";
     std::int64_t runningSeconds = 0;
     std::uint64_t messagesTaken = 0;    ///< from the framework since the start
     std::uint64_t messagesUnderWay = 0; ///< of them, those that wait or are being served
+    std::uint64_t devices = 0;          ///< storage servers included
+    std::uint64_t devicesOnline = 0;    ///< those that the component is logged in to
+    std::uint64_t channels = 0;
+    std::uint64_t channelsOnline = 0;
 
     static constexpr auto Fields()
     {
         using T = ComponentStateData;
         return std::make_tuple(Must("runningSeconds", &T::runningSeconds),
                                Must("messagesTaken", &T::messagesTaken),
-                               Must("messagesUnderWay", &T::messagesUnderWay));
+                               Must("messagesUnderWay", &T::messagesUnderWay), May("devices", &T::devices),
+                               May("devicesOnline", &T::devicesOnline), May("channels", &T::channels),
+                               May("channelsOnline", &T::channelsOnline));
     }
 };
 

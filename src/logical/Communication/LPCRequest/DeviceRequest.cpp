@@ -34,6 +34,11 @@ bool CDeviceComm::RequestChannels(const std::string& deviceId,
     return commlayer::CGetDeviceChannels::request(deviceId, channels, m_transport);
 }
 
+bool CDeviceComm::RequestGroups(protocol::GroupListData& groups) const
+{
+    return commlayer::CGetGroups::request(groups, m_transport);
+}
+
 bool CDeviceComm::RequestAlarmInputs(const std::string& deviceId, protocol::AlarmInputInfoData& inputs) const
 {
     return commlayer::CGetDeviceAlarmInputs::request(deviceId, inputs, m_transport);

@@ -21,6 +21,7 @@ public:
 
     [[nodiscard]] bool RequestChannels(const std::string& deviceId,
                                        protocol::DeviceChannelListData& channels) const;
+    [[nodiscard]] bool RequestGroups(protocol::GroupListData& groups) const;
     [[nodiscard]] bool RequestAlarmInputs(const std::string& deviceId,
                                           protocol::AlarmInputInfoData& inputs) const;
 

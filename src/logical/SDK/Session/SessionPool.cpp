@@ -1,0 +1,62 @@
+#include "logical/SDK/Session/SessionPool.h"
+
+#include "Base/Log.h"
+
+#include <mutex>
+
+namespace video {
+
+bool CSessionPool::Start(OnStatus onStatus)
+{
+    if (!QxNet_Init()) {
+        BASE_ERROR("QxNet_Init failed, [%u].", NET_DVR_GetLastError());
+        return false;
+    }
+    // Without the file certificates are remembered until the end of the process.
+    if (!QxNet_SetTrustFile(m_trustFile.c_str()))
+        BASE_ERROR("QxNet_SetTrustFile failed, [%u].", NET_DVR_GetLastError());
+    auto sessions = std::make_shared<devices::CDeviceSessions>(std::move(onStatus));
+    const std::lock_guard<std::shared_mutex> lock(m_mutex);
+    m_sessions = std::move(sessions);
+    return true;
+}
+
+void CSessionPool::End()
+{
+    std::shared_ptr<devices::CDeviceSessions> sessions;
+    {
+        const std::lock_guard<std::shared_mutex> lock(m_mutex);
+        sessions.swap(m_sessions);
+    }
+    if (!sessions)
+        return;
+    sessions.reset();
+    QxNet_Cleanup();
+}
+
+void CSessionPool::Set(const devices::DeviceAddress& address)
+{
+    if (const auto sessions = Sessions())
+        sessions->Set(address);
+}
+
+void CSessionPool::Remove(const std::string& id)
+{
+    if (const auto sessions = Sessions())
+        sessions->Remove(id);
+}
+
+/// Under the lock, so that nobody but End lets go of the last reference.
+std::int32_t CSessionPool::Session(const std::string& deviceId) const
+{
+    const std::shared_lock<std::shared_mutex> lock(m_mutex);
+    return m_sessions ? m_sessions->Session(deviceId) : UiDataController::kNoDevice;
+}
+
+std::shared_ptr<devices::CDeviceSessions> CSessionPool::Sessions() const
+{
+    const std::shared_lock<std::shared_mutex> lock(m_mutex);
+    return m_sessions;
+}
+
+} // namespace video
