@@ -1,12 +1,11 @@
 #include "framework/ui/pages/DevicesPage.h"
 
+#include "UiDataController/Tree/ResourceTree.h"
 #include "VantorGUIToolkit/Icons.h"
 #include "VantorGUIToolkit/Widgets/EmptyState.h"
 #include "VantorGUIToolkit/Widgets/PageHeader.h"
-#include "VantorGUIToolkit/Widgets/SearchEdit.h"
 #include "VantorGUIToolkit/Widgets/WarningDlg.h"
 #include "framework/ui/pages/DeviceDetails.h"
-#include "framework/ui/pages/DeviceTree.h"
 #include "framework/ui/parts/WindowTable.h"
 
 #include <QMenu>
@@ -20,6 +19,7 @@
 namespace framework {
 
 using namespace VantorGUIToolkit;
+using UiDataController::CResourceTree;
 
 namespace {
 
@@ -35,7 +35,8 @@ CDevicesPage::CDevicesPage(CResources& resources, CDeviceLinks& devices, CDevice
       m_header(new CPageHeader(TitleOf("Devices"),
                                tr("Cameras, recorders and storage servers that the client works with."),
                                this)),
-      m_tree(new CDeviceTree(m_elements, this)), m_sides(new QStackedWidget(this))
+      m_tree(new CResourceTree(m_elements, UiDataController::ResourceOrder::ByDevice, this)),
+      m_sides(new QStackedWidget(this))
 {
     setObjectName("devicesPage");
     setSurface(this, Surface::Page);
@@ -70,19 +71,15 @@ QWidget* CDevicesPage::MakeTreeSide()
 {
     auto* side = new QWidget(this);
     side->setMinimumWidth(kLeastTreeWidth);
-    auto* search = new CSearchEdit(side);
-    search->setObjectName("search");
-    search->setPlaceholderText(tr("Search"));
     m_tree->setObjectName("deviceTree");
-    m_tree->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(search, &QLineEdit::textChanged, m_tree, &CDeviceTree::SetSearch);
-    connect(m_tree, &CDeviceTree::SelectionChanged, this, &CDevicesPage::ShowDetails);
-    connect(m_tree, &QWidget::customContextMenuRequested, this, &CDevicesPage::ShowMenu);
+    m_tree->SetEmptyAction(tr("Add device"));
+    connect(m_tree, &CResourceTree::SignalCurElementChanged, this, &CDevicesPage::ShowDetails);
+    connect(m_tree, &CResourceTree::SignalActivated, this, &CDevicesPage::EditDevice);
+    connect(m_tree, &CResourceTree::SignalContextMenu, this, &CDevicesPage::ShowMenu);
+    connect(m_tree, &CResourceTree::SignalEmptyAction, this, &CDevicesPage::AddDevice);
     auto* layout = new QVBoxLayout(side);
     setReadingMargins(layout, side, 0, 0, Grid::Medium, 0);
-    layout->setSpacing(Grid::Small);
-    layout->addWidget(search);
-    layout->addWidget(m_tree, 1);
+    layout->addWidget(m_tree);
     return side;
 }
 
@@ -109,12 +106,12 @@ void CDevicesPage::Reload()
 
 void CDevicesPage::Select(const QString& id)
 {
-    m_tree->Select(id);
+    (void)m_tree->SetCurElement(id);
 }
 
 std::string CDevicesPage::SelectedDevice() const
 {
-    const QString id = m_tree->Selected();
+    const QString& id = m_tree->CurElement();
     for (const auto& element : m_elements.Snapshot().elements)
         if (element.id == id)
             return (element.deviceId.isEmpty() ? element.id : element.deviceId).toStdString();
@@ -166,9 +163,9 @@ void CDevicesPage::Simulate()
         m_raiseAlarm(guid, "Test alarm of " + entry.name);
 }
 
-void CDevicesPage::ShowMenu(const QPoint& position)
+void CDevicesPage::ShowMenu(const QString& id, const QPoint& place)
 {
-    if (SelectedDevice().empty() || !m_tree->indexAt(position).isValid())
+    if (id.isEmpty() || SelectedDevice().empty())
         return;
     QMenu menu(this);
     menu.setObjectName("deviceMenu");
@@ -180,7 +177,7 @@ void CDevicesPage::ShowMenu(const QPoint& position)
     menu.addSeparator();
     add("refresh", tr("Try now"), "actionTryNow", &CDevicesPage::TryNow);
     add("alarm", tr("Simulate an alarm"), "actionAlarm", &CDevicesPage::Simulate);
-    menu.exec(m_tree->viewport()->mapToGlobal(position));
+    menu.exec(place);
 }
 
 void CDevicesPage::ShowDetails()
@@ -198,7 +195,7 @@ void CDevicesPage::ShowDetails()
     if (!isChosen)
         return;
     const auto channels = m_resources.Channels(guid);
-    const std::string chosen = m_tree->Selected().toStdString();
+    const std::string chosen = m_tree->CurElement().toStdString();
     const auto channel =
         std::find_if(channels.begin(), channels.end(), [&](const auto& each) { return each.guid == chosen; });
     m_details->Show(*device, m_devices.Status(guid), channel == channels.end() ? nullptr : &*channel);

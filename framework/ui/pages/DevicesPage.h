@@ -11,6 +11,10 @@
 class QPushButton;
 class QStackedWidget;
 
+namespace UiDataController {
+class CResourceTree;
+}
+
 namespace VantorGUIToolkit {
 class CPageHeader;
 }
@@ -18,7 +22,6 @@ class CPageHeader;
 namespace framework {
 
 class CDeviceDetails;
-class CDeviceTree;
 
 /// The devices with their channels and states, and what is known of the chosen one; adds, changes and removes
 /// them, and raises alarms for trying things out. GUI thread.
@@ -49,7 +52,7 @@ private:
     void RemoveDevice();
     void TryNow();
     void Simulate();
-    void ShowMenu(const QPoint& position);
+    void ShowMenu(const QString& id, const QPoint& place);
     void ShowDetails();
 
     CResources& m_resources;
@@ -60,7 +63,7 @@ private:
     VantorGUIToolkit::CPageHeader* m_header;
     QPushButton* m_edit = nullptr;
     QPushButton* m_remove = nullptr;
-    CDeviceTree* m_tree;
+    UiDataController::CResourceTree* m_tree;
     QStackedWidget* m_sides; ///< nothing chosen, or the details
     CDeviceDetails* m_details = nullptr;
 };

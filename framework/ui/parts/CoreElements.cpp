@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <map>
-#include <tuple>
 
 namespace framework {
 
@@ -85,15 +84,6 @@ std::vector<ElementInfo> ElementsOf(const CResources& resources, const CDeviceLi
     return elements;
 }
 
-bool Same(const ElementInfo& one, const ElementInfo& other)
-{
-    const auto all = [](const ElementInfo& of) {
-        return std::tie(of.id, of.type, of.deviceId, of.groupId, of.name, of.state, of.problem, of.typeCode,
-                        of.subType, of.number);
-    };
-    return all(one) == all(other);
-}
-
 /// What makes the second list of the first one; a set of Reset alone where single changes cannot.
 ElementChanges Difference(const std::vector<ElementInfo>& before, const std::vector<ElementInfo>& now)
 {
@@ -107,7 +97,7 @@ ElementChanges Difference(const std::vector<ElementInfo>& before, const std::vec
             return {{ElementChange::Kind::Reset, {}}};
         if (!was)
             news.push_back({ElementChange::Kind::Add, element});
-        else if (!Same(*was, element))
+        else if (*was != element)
             news.push_back({ElementChange::Kind::Change, element});
     }
     ElementChanges changes;

@@ -1,5 +1,6 @@
 #include "framework/ui/parts/DeviceText.h"
 
+#include "UiDataController/Errors/ErrorInfoMgr.h"
 #include "framework/core/Resources.h"
 
 #include <QCoreApplication>
@@ -82,7 +83,9 @@ QString ChannelStateText(int state)
 
 QString DeviceErrorText(std::uint32_t error, std::uint32_t moduleError)
 {
-    return error == 0 ? QString() : QStringLiteral("%1 (%2)").arg(error).arg(moduleError);
+    return error == 0 ? QString()
+                      : UiDataController::CErrorInfoMgr::GetErrorInfoByCode(
+                            static_cast<std::int32_t>(error), static_cast<std::int32_t>(moduleError));
 }
 
 bool IsOutOfReach(std::uint32_t error)
