@@ -99,6 +99,7 @@ void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
             steps.push_back(LookStep(stage, "skin-" + choice.skin, "ToolkitGallery",
                                      choice.skin.toStdString(), first.language));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-home", "Home"));
+            steps.push_back(TabStep(stage, "skin-" + choice.skin + "-devices", "Devices"));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-settings", "Settings"));
             steps.push_back(FilesStep(stage, "skin-" + choice.skin + "-files", "pictures"));
         }
