@@ -78,7 +78,7 @@ TEST(SdkConnection, CallsOfASessionThatTheDeviceEndedShareOneLogin)
     }
 }
 
-TEST(SdkConnection, ALogoutEndsTheCallsUnderWayFirst)
+TEST(SdkConnection, ALogoutEndsTheCallsUnderWayFirstWhichHeldUpNobodyElse)
 {
     CSdk sdk;
     CWellBehaved device;
@@ -101,6 +101,11 @@ TEST(SdkConnection, ALogoutEndsTheCallsUnderWayFirst)
                       LastError().code == QXNET_ERROR_HANDLE;
     });
     EXPECT_TRUE(WaitUntil([&] { return waiting == 8; }));
+    Octets octets;
+    CPlayedDevice other([&](CPlayedConnection& connection, int) { device.Serve(connection); });
+    const std::int32_t good = CSdk::LogIn(other.Port());
+    EXPECT_EQ(NET_DVR_SetDVRConfig(good, 8, 1, &octets, sizeof octets), 1);
+    EXPECT_EQ(closed, 0);
     EXPECT_EQ(QxNet_Logout(session), 1);
     JoinAll(std::move(threads));
     EXPECT_EQ(closed, 10);

@@ -2,7 +2,6 @@
 #include "support/DeviceSim.h"
 #include "support/TestDataRoot.h"
 
-#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -57,27 +56,6 @@ TEST(SdkWithSimulator, TheSessionOutlivesARestartOfTheDevice)
     ASSERT_TRUE(sim.Restart());
     EXPECT_EQ(NET_DVR_GetDVRConfig(session, QXNET_GET_DEVICE_INFO, 0, &info, sizeof info), 1)
         << testing::PrintToString(LastError());
-}
-
-TEST(SdkWithSimulator, ABadDeviceDoesNotHoldUpAnother)
-{
-    CSdk sdk;
-    DeviceSim sim({"--devices", "2", "--channels", "4"});
-    const std::int32_t bad = LogIn(ToSim(sim, 0));
-    const std::int32_t good = LogIn(ToSim(sim, 1));
-    sim.SetFaults(R"([{"kind":"silent","device":0}])");
-    std::atomic<bool> isOver = false;
-    std::thread stuck([&] {
-        QxNetDeviceInfo info;
-        EXPECT_EQ(NET_DVR_GetDVRConfig(bad, QXNET_GET_DEVICE_INFO, 0, &info, sizeof info), 0);
-        isOver = true;
-    });
-    QxNetDeviceInfo info;
-    for (int i = 0; i < 50; ++i)
-        EXPECT_EQ(NET_DVR_GetDVRConfig(good, QXNET_GET_DEVICE_INFO, 0, &info, sizeof info), 1);
-    EXPECT_FALSE(isOver);
-    EXPECT_EQ(QxNet_Logout(bad), 1);
-    stuck.join();
 }
 
 TEST(SdkWithSimulator, ACertificateIsPinnedAtTheFirstSessionAndAnotherIsRefused)
