@@ -158,6 +158,36 @@ TEST(SdkConnection, AddressesThatLeadNowhereSaySo)
     }
 }
 
+TEST(SdkConnection, WhoDoesNotTakeConnectionsMeetsTheConnectTimeoutOrTheCleanUp)
+{
+    using boost::asio::ip::tcp;
+    boost::asio::io_context context;
+    tcp::acceptor full(context, tcp::v4());
+    full.bind(tcp::endpoint(boost::asio::ip::address_v4::loopback(), 0));
+    full.listen(0);
+    const std::uint16_t port = full.local_endpoint().port();
+    std::list<tcp::socket> waiting;
+    for (int i = 0; i < 4; ++i) {
+        waiting.emplace_back(context, tcp::v4());
+        waiting.back().async_connect(full.local_endpoint(), [](const boost::system::error_code&) {});
+    }
+    std::future<ErrorTriple> login;
+    {
+        CSdk sdk;
+        EXPECT_EQ(CSdk::LogIn(port, 150), -1);
+        EXPECT_EQ(LastError(), (ErrorTriple{QXNET_ERROR_CONNECT_TIMEOUT, 0, 0}));
+        std::promise<void> begun;
+        login = std::async(std::launch::async, [&] {
+            begun.set_value();
+            EXPECT_EQ(CSdk::LogIn(port, 30000), -1);
+            return LastError();
+        });
+        begun.get_future().wait();
+    }
+    ASSERT_EQ(login.wait_for(std::chrono::seconds(10)), std::future_status::ready);
+    EXPECT_THAT(login.get().code, testing::AnyOf(QXNET_ERROR_CLOSED, QXNET_ERROR_NOT_INITIALISED));
+}
+
 TEST(SdkConnection, ARefusalDuringALongRequestIsHeard)
 {
     CSdk sdk;
