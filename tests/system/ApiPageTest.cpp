@@ -37,7 +37,8 @@ private:
     static std::string Varying(std::string body)
     {
         static const std::regex guid("\"([0-9a-f]{8})(-[0-9a-f]{4}){3}-[0-9a-f]{12}\"");
-        static const std::regex value("\"(wndId|runningSeconds|messages\\w+|\\w+SaveFolder)\":[^,}]+");
+        static const std::regex value(
+            "\"(wndId|runningSeconds|devices\\w*|channels\\w*|messages\\w+|\\w+SaveFolder)\":[^,}]+");
         body = std::regex_replace(body, guid, "\"$$g$1\"");
         return std::regex_replace(body, value, "\"$1\":\"*\"");
     }

@@ -27,6 +27,9 @@ void ComponentRun::LeaveLooksOut()
     std::filesystem::create_directories(bin);
     for (const char* folder : {"maintain", "WidgetLayout"})
         std::filesystem::create_directory_symlink(m_bin + folder, bin + folder);
+    for (const auto& file : std::filesystem::directory_iterator(m_bin))
+        if (file.path().extension() == ".so")
+            std::filesystem::create_symlink(file, bin + file.path().filename().string());
     std::filesystem::copy_file(m_program, bin + "Vantor.Video.C");
     m_program = bin + "Vantor.Video.C";
 }

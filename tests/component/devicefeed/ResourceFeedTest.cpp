@@ -29,6 +29,7 @@ struct Directory : video::IResourceDirectory
     bool Device(const std::string& id, protocol::DeviceResponseData& device) const override
     {
         const std::lock_guard<std::mutex> lock(mutex);
+        ++asked;
         const auto found = devices.find(id);
         if (found != devices.end())
             device = found->second;
@@ -61,7 +62,8 @@ struct Directory : video::IResourceDirectory
 
     mutable std::mutex mutex;
     mutable int reads = 0;
-    int failures = 0; ///< of the first reads
+    mutable int asked = 0; ///< for single devices
+    int failures = 0;      ///< of the first reads
     std::function<void()> duringTheRead;
     std::map<std::string, protocol::DeviceResponseData> devices;
     std::map<std::string, std::vector<protocol::DeviceChannelInfo>> channels;
@@ -166,6 +168,27 @@ TEST_F(TheFeed, AsksAgainForWhatItCouldNotRead)
     directory.Put("a", 1);
     EXPECT_TRUE(Shows({"a", "b", "g", "a1", "b1"}));
     EXPECT_EQ(directory.reads, 4);
+}
+
+TEST_F(TheFeed, AsksOnceForADeviceThatAFloodOfNotificationsNames)
+{
+    const CapturedLog log;
+    video::CResourceCentre patient{loop, directory, pool, {1h, 1h}};
+    patient.Start();
+    EXPECT_TRUE(WaitUntil([&] { return patient.Model().Find("g").has_value(); }));
+    protocol::WebSocketNotifyData notification;
+    notification.type = "deviceAdd";
+    for (const std::string& id : {std::string("unknown"), std::string(2000, 'g')}) {
+        notification.guid = id;
+        for (int i = 0; i < 100; ++i)
+            patient.OnNotification(notification);
+    }
+    notification.type = "groupAdd";
+    notification.data.text = R"({"guid":"last","name":"Last"})";
+    patient.OnNotification(notification);
+    EXPECT_TRUE(WaitUntil([&] { return patient.Model().Find("last").has_value(); }));
+    EXPECT_LE(directory.asked, 1);
+    EXPECT_LE(log.Errors().size(), 10u);
 }
 
 TEST_F(TheFeed, ReadsEverythingAnewWhenTooMuchWaits)

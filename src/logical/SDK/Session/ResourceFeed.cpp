@@ -21,6 +21,9 @@ using UiDataController::Removal;
 /// With more devices to ask for again, reading all of them is simpler.
 constexpr std::size_t kMostMissing = 16;
 
+/// In bytes; a longer one cannot be asked for.
+constexpr std::size_t kLongestId = 256;
+
 /// Reads the thing that a notification is about. False after one log line.
 template<typename Thing>
 bool Read(const protocol::WebSocketNotifyData& notification, Thing& thing)
@@ -247,10 +250,15 @@ CResourceFeed::Handler CResourceFeed::HandlerOf(const std::string& type)
     return handler != kHandlers.end() ? handler->second : nullptr;
 }
 
-/// It carries no credentials.
+/// It carries no credentials. Those that wait to be asked for again are not asked for sooner, so that a flood
+/// of them does no harm.
 void CResourceFeed::DeviceChanged(const protocol::WebSocketNotifyData& notification)
 {
-    AskForDevice(notification.guid);
+    if (notification.guid.empty() || notification.guid.size() > kLongestId)
+        BASE_LIMITED(Base::CFaultLimit, BASE_ERROR, "The notification [%s] is of no device.",
+                     notification.type.c_str());
+    else if (m_missing.size() <= kMostMissing && !m_missing.count(notification.guid))
+        AskForDevice(notification.guid);
 }
 
 void CResourceFeed::DeviceRemoved(const protocol::WebSocketNotifyData& notification)
