@@ -657,10 +657,6 @@
         <translation>محاكاة إنذار</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>بحث</translation>
-    </message>
-    <message>
         <source>No device chosen</source>
         <translation>لم يُختر أي جهاز</translation>
     </message>

@@ -657,10 +657,6 @@
         <translation>Alarm simulieren</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>Suchen</translation>
-    </message>
-    <message>
         <source>No device chosen</source>
         <translation>Kein Gerät gewählt</translation>
     </message>

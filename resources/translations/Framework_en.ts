@@ -657,10 +657,6 @@
         <translation>Simulate an alarm</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>Search</translation>
-    </message>
-    <message>
         <source>No device chosen</source>
         <translation>No device chosen</translation>
     </message>

@@ -657,10 +657,6 @@
         <translation>הדמה התראה</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>חיפוש</translation>
-    </message>
-    <message>
         <source>No device chosen</source>
         <translation>לא נבחר התקן</translation>
     </message>

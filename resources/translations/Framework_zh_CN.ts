@@ -657,10 +657,6 @@
         <translation>模拟报警</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>搜索</translation>
-    </message>
-    <message>
         <source>No device chosen</source>
         <translation>未选择设备</translation>
     </message>
