@@ -65,7 +65,8 @@ std::optional<Target> ParseTarget(const std::string& text)
 {
     const auto at = text.rfind('@');
     const auto colon = text.rfind(':');
-    if (at == std::string::npos || at == 0 || colon == std::string::npos || colon < at)
+    // Digest login knows no colon in a name; "user:password" must not work, since others could see it.
+    if (at == std::string::npos || at == 0 || text.find(':') < at || colon == std::string::npos || colon < at)
         return std::nullopt;
     std::string host = text.substr(at + 1, colon - at - 1);
     if (host.size() > 2 && host.front() == '[' && host.back() == ']')
