@@ -57,6 +57,23 @@ function(vantor_library target)
     endif()
 endfunction()
 
+# A shared library of one folder, built beside the programs, which find it there by their own place. INTERFACE is what
+# who links it gets to see; LINKS stay inside. EXPORTS is a linker's list of the names that it shows.
+function(vantor_shared_library target)
+    cmake_parse_arguments(SHARED "" "EXPORTS;INTERFACE" "" ${ARGN})
+    vantor_begin(${target} ${SHARED_UNPARSED_ARGUMENTS})
+    set_property(GLOBAL APPEND PROPERTY VANTOR_LINKS_${target} ${SHARED_INTERFACE})
+    add_library(${target} SHARED ${sources})
+    target_link_libraries(${target} PRIVATE ${ARG_LINKS} PUBLIC ${SHARED_INTERFACE})
+    vantor_configure(${target} ${ARG_LINKS})
+    set_target_properties(${target} PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
+    if(UNIX AND NOT APPLE)
+        set(exports "${CMAKE_CURRENT_SOURCE_DIR}/${SHARED_EXPORTS}")
+        target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
+        set_target_properties(${target} PROPERTIES LINK_DEPENDS "${exports}")
+    endif()
+endfunction()
+
 # A program of one folder. OUTPUT names the file when it differs from the target.
 function(vantor_program target)
     vantor_begin(${target} ${ARGN})

@@ -6,10 +6,12 @@
 
 namespace Base::ProcessUtil {
 
+/// Whether the end of the process (POSIX: of its thread) that started this one is a request to end.
+enum class ParentsEnd { Counts, DoesNotCount };
+
 /// From here on a request to end waits until OnEndRequest names who serves it: the system's termination
-/// signals, and the end of the process (POSIX: of its thread) that started this one. Call from the main
-/// thread, before any other thread starts.
-void HoldEndRequests();
+/// signals, and perhaps the parent's end. Call from the main thread, before any other thread starts.
+void HoldEndRequests(ParentsEnd parentsEnd = ParentsEnd::Counts);
 
 /// Calls serve, once and on a thread of its own, when the process is asked to end or was asked already.
 void OnEndRequest(std::function<void()> serve);

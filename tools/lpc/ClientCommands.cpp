@@ -2,10 +2,10 @@
 #include "lpc/Commands.h"
 
 #include "Base/GuidUtil.h"
+#include "CommandLine/Options.h"
 #include "LPC_Client/LPC_Client.h"
 #include "lpc/Errors.h"
 #include "lpc/Names.h"
-#include "lpc/Options.h"
 #include "lpc/json/Json.h"
 
 #include <condition_variable>
@@ -19,6 +19,8 @@ namespace lpctool {
 
 namespace {
 
+using CommandLine::COptions;
+using CommandLine::OptionSpec;
 using Kind = OptionSpec::Kind;
 
 constexpr long kDefaultTimeoutMs = 5000;

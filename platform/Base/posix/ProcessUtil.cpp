@@ -25,10 +25,12 @@ sigset_t EndSignals()
 
 } // namespace
 
-void HoldEndRequests()
+void HoldEndRequests(ParentsEnd parentsEnd)
 {
     const sigset_t signals = EndSignals();
     ::pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    if (parentsEnd == ParentsEnd::DoesNotCount)
+        return;
     const pid_t parent = ::getppid();
     ::prctl(PR_SET_PDEATHSIG, SIGTERM);
     // The parent may have ended before the signal was asked for; its successor's end means nothing to us.

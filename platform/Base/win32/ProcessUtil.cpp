@@ -13,6 +13,8 @@ namespace Base::ProcessUtil {
 
 namespace {
 
+ParentsEnd g_parentsEnd = ParentsEnd::Counts;
+
 DWORD ParentProcessId()
 {
     const HANDLE snapshot = ::CreateToolhelp32Snapshot(TH32CS_SNAPPROCESS, 0);
@@ -30,10 +32,15 @@ DWORD ParentProcessId()
 
 // Windows has no signal to hold back: a console or session end closes the process, and the parent is watched
 // below.
-void HoldEndRequests() {}
+void HoldEndRequests(ParentsEnd parentsEnd)
+{
+    g_parentsEnd = parentsEnd;
+}
 
 void OnEndRequest(std::function<void()> serve)
 {
+    if (g_parentsEnd == ParentsEnd::DoesNotCount)
+        return;
     const HANDLE parent = ::OpenProcess(SYNCHRONIZE, FALSE, ParentProcessId());
     if (!parent)
         return;

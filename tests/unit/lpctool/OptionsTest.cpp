@@ -1,10 +1,11 @@
-#include "lpc/Options.h"
+#include "CommandLine/Options.h"
 #include "lpc/Commands.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
 
+using namespace CommandLine;
 using namespace lpctool;
 
 namespace {

@@ -1,9 +1,9 @@
 #include "lpc/Commands.h"
 
 #include "Base/FileUtil.h"
+#include "CommandLine/Options.h"
 #include "lpc/Errors.h"
 #include "lpc/Names.h"
-#include "lpc/Options.h"
 #include "lpc/host/InterruptWatch.h"
 #include "lpc/script/Player.h"
 
@@ -15,6 +15,8 @@ namespace lpctool {
 
 namespace {
 
+using CommandLine::COptions;
+using CommandLine::OptionSpec;
 using Kind = OptionSpec::Kind;
 
 const std::vector<OptionSpec> kOptions = {

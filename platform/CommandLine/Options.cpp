@@ -1,10 +1,10 @@
-#include "lpc/Options.h"
+#include "CommandLine/Options.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 
-namespace lpctool {
+namespace CommandLine {
 
 namespace {
 
@@ -84,4 +84,4 @@ bool COptions::Number(const std::string& name, long lowest, long highest, long o
     return false;
 }
 
-} // namespace lpctool
+} // namespace CommandLine

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace lpctool {
+namespace CommandLine {
 
 /// An option of a command: "--name" alone, with one value, or with the words up to the next "--option".
 struct OptionSpec
@@ -40,4 +40,4 @@ private:
     std::map<std::string, std::vector<std::string>> m_words;
 };
 
-} // namespace lpctool
+} // namespace CommandLine

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace sdk {
+
+/// What may come back when nothing is refused.
+struct ExpectedAnswer
+{
+    unsigned status = 200;
+    std::uint32_t leastBytes = 0; ///< of the body
+    std::uint32_t mostBytes = 0;
+};
+
+/// One request to a device.
+struct Request
+{
+    const char* method = "GET";
+    std::string target; ///< from "/" on
+    std::string body;
+    ExpectedAnswer expected;
+    /// Changes nothing at the device, so that it may be sent again when the connection was closed.
+    bool isRead = true;
+};
+
+/// What the connection adds to a request; empty texts are left out.
+struct RequestContext
+{
+    std::string host; ///< as the header Host has it
+    std::string session;
+    std::string authorization;
+};
+
+/// Header lines and empty line, as they are sent; see docs/device-protocol.md.
+std::string RequestHead(const Request& request, const RequestContext& context);
+
+/// Address and port as the header Host has them.
+std::string HostText(const std::string& address, std::uint16_t port);
+
+} // namespace sdk

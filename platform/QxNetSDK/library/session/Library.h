@@ -1,0 +1,42 @@
+#pragma once
+
+#include "QxNetSDK/library/session/Session.h"
+
+#include <map>
+
+namespace sdk {
+
+/// All sessions of the process, and what they share. For any thread; there is one, which is never destroyed,
+/// as threads of the program may still call when it ends.
+class CLibrary
+{
+public:
+    static CLibrary& Instance();
+
+    void Init();
+    /// NOT_INITIALISED when there is nothing to clean up.
+    Failure Cleanup();
+    Failure SetTrustFile(const char* path);
+
+    /// Logs in and gives the handle. TOO_MANY_SESSIONS, CLOSED by a clean-up meanwhile, or why it failed.
+    Failure LogIn(LoginSettings settings, QxNetDeviceInfo* info, std::int32_t& handle);
+    Failure LogOut(std::int32_t handle);
+    /// HANDLE when there is none.
+    Failure Find(std::int32_t handle, std::shared_ptr<CSession>& session);
+
+private:
+    using SessionPointer = std::shared_ptr<CSession>;
+
+    Failure Begin(const SessionPointer& session);
+    Failure Admit(const SessionPointer& session, std::int32_t& handle);
+    void Forget(const SessionPointer& session);
+
+    CTrustStore m_trust;
+    std::mutex m_mutex;
+    unsigned m_inits = 0;
+    std::int64_t m_nextHandle = 0;
+    std::vector<SessionPointer> m_beginning; ///< being logged in
+    std::map<std::int32_t, SessionPointer> m_sessions;
+};
+
+} // namespace sdk

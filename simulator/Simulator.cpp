@@ -1,0 +1,105 @@
+#include "simulator/Simulator.h"
+
+#include "simulator/server/Certificate.h"
+
+#include <cjson/cJSON.h>
+
+namespace simulator {
+
+namespace {
+
+/// Some of them wait for a disk now and then, so more than there are processors.
+constexpr unsigned kThreads = 4;
+
+} // namespace
+
+CSimulator::CSimulator(const Settings& settings, CDevice::Complain complain)
+    : m_settings(settings), m_complain(std::move(complain)),
+      m_faults(settings.faults, [this](const ChannelSetting& setting) { SetChannel(setting); })
+{}
+
+CSimulator::~CSimulator()
+{
+    Stop();
+}
+
+bool CSimulator::Start(std::string& error)
+{
+    if (!LoadDevices(error) || !m_faults.Refresh(error))
+        return false;
+    if (m_settings.useTls) {
+        m_identity = ProvideIdentity(m_settings.state, m_settings.wantsNewCertificate, error);
+        if (!m_identity)
+            return false;
+    }
+    if (!Listen(error))
+        return false;
+    m_threads.Start(kThreads);
+    return true;
+}
+
+bool CSimulator::LoadDevices(std::string& error)
+{
+    for (DevicePlan& plan :
+         PlanDevices(m_settings.devices, m_settings.cameras, m_settings.firstKind, m_settings.types)) {
+        const std::string folder = m_settings.state.empty()
+                                       ? std::string()
+                                       : m_settings.state + "device-" + std::to_string(plan.index) + '/';
+        m_devices.push_back(
+            std::make_unique<CDevice>(std::move(plan), m_settings.door, m_faults, folder, m_complain));
+        if (!m_devices.back()->Load(error))
+            return false;
+    }
+    return true;
+}
+
+bool CSimulator::Listen(std::string& error)
+{
+    for (const auto& device : m_devices) {
+        auto server = std::make_unique<CHttpServer>(m_threads, *device, m_identity ? &*m_identity : nullptr);
+        const std::uint16_t port = PortOf(m_settings, device->Plan().index);
+        if (!server->Listen(m_settings.listen, port, error)) {
+            error = "cannot listen on " + m_settings.listen + " port " + std::to_string(port) + ": " + error;
+            return false;
+        }
+        m_servers.push_back(std::move(server));
+    }
+    return true;
+}
+
+void CSimulator::SetChannel(const ChannelSetting& setting)
+{
+    if (setting.device < m_devices.size())
+        m_devices[setting.device]->Channels().Set(setting.channel, setting.name, setting.state);
+}
+
+void CSimulator::Stop()
+{
+    m_threads.Stop();
+    m_servers.clear();
+}
+
+std::string CSimulator::ReadyLine() const
+{
+    const std::unique_ptr<cJSON, decltype(&cJSON_Delete)> line(cJSON_CreateObject(), &cJSON_Delete);
+    cJSON_AddTrueToObject(line.get(), "ready");
+    cJSON_AddStringToObject(line.get(), "user", m_settings.door.user.c_str());
+    cJSON* devices = cJSON_AddArrayToObject(line.get(), "devices");
+    for (std::size_t i = 0; i < m_devices.size(); ++i) {
+        const DevicePlan& plan = m_devices[i]->Plan();
+        cJSON* entry = cJSON_CreateObject();
+        cJSON_AddStringToObject(entry, "kind", KindName(plan.kind));
+        cJSON_AddNumberToObject(entry, "typeCode", plan.typeCode);
+        cJSON_AddNumberToObject(entry, "subType", plan.subType);
+        cJSON_AddStringToObject(entry, "name", plan.name.c_str());
+        cJSON_AddNumberToObject(entry, "port", m_servers[i]->Port());
+        cJSON_AddNumberToObject(entry, "channels", static_cast<double>(plan.channels.size()));
+        if (m_identity)
+            cJSON_AddStringToObject(entry, "fingerprint", FingerprintOf(*m_identity).c_str());
+        cJSON_AddItemToArray(devices, entry);
+    }
+    const std::unique_ptr<char, decltype(&cJSON_free)> text(cJSON_PrintUnformatted(line.get()), &cJSON_free);
+    return text.get();
+}
+
+} // namespace simulator

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "simulator/Settings.h"
+#include "simulator/device/Device.h"
+#include "simulator/server/HttpServer.h"
+
+namespace simulator {
+
+/// All devices of one program with their servers. To be used from one thread.
+class CSimulator
+{
+public:
+    /// complain gets a line at a time, on any thread.
+    CSimulator(const Settings& settings, CDevice::Complain complain);
+    ~CSimulator();
+
+    CSimulator(const CSimulator&) = delete;
+    CSimulator& operator=(const CSimulator&) = delete;
+
+    /// Reads state and faults and listens. False with the reason in error.
+    [[nodiscard]] bool Start(std::string& error);
+    void Stop();
+
+    /// One line of JSON that tells who can be reached where.
+    std::string ReadyLine() const;
+
+private:
+    bool LoadDevices(std::string& error);
+    bool Listen(std::string& error);
+    void SetChannel(const ChannelSetting& setting);
+
+    const Settings m_settings;
+    const CDevice::Complain m_complain;
+    CFaultBook m_faults;
+    std::optional<TlsIdentity> m_identity;
+    std::vector<std::unique_ptr<CDevice>> m_devices;
+    CServerThreads m_threads;
+    std::vector<std::unique_ptr<CHttpServer>> m_servers;
+};
+
+} // namespace simulator
