@@ -11,6 +11,10 @@ namespace {
 /// Some of them wait for a disk now and then, so more than there are processors.
 constexpr unsigned kThreads = 4;
 
+/// In which the answer to a request to restart leaves.
+constexpr std::chrono::milliseconds kTimeToAnswer{100};
+constexpr std::chrono::seconds kTimeToTryAgain{1};
+
 } // namespace
 
 CSimulator::CSimulator(const Settings& settings, CDevice::Complain complain)
@@ -45,8 +49,10 @@ bool CSimulator::LoadDevices(std::string& error)
         const std::string folder = m_settings.state.empty()
                                        ? std::string()
                                        : m_settings.state + "device-" + std::to_string(plan.index) + '/';
-        m_devices.push_back(
-            std::make_unique<CDevice>(std::move(plan), m_settings.door, m_faults, folder, m_complain));
+        const unsigned index = plan.index;
+        m_devices.push_back(std::make_unique<CDevice>(
+            std::move(plan), m_settings.door, m_faults, folder, m_complain,
+            [this, index](std::chrono::seconds delay) { Restart(index, delay + kTimeToAnswer); }));
         if (!m_devices.back()->Load(error))
             return false;
     }
@@ -71,6 +77,24 @@ void CSimulator::SetChannel(const ChannelSetting& setting)
 {
     if (setting.device < m_devices.size())
         m_devices[setting.device]->Channels().Set(setting.channel, setting.name, setting.state);
+}
+
+void CSimulator::Restart(unsigned device, std::chrono::milliseconds delay)
+{
+    m_threads.After(delay, [this, device] {
+        m_devices[device]->EndSessions();
+        m_servers[device]->Close();
+        m_threads.After(m_settings.rebootTime, [this, device] { ListenAgain(device); });
+    });
+}
+
+void CSimulator::ListenAgain(unsigned device)
+{
+    std::string error;
+    if (m_servers[device]->IsListening() || m_servers[device]->Listen(m_settings.listen, 0, error))
+        return;
+    m_complain("device " + std::to_string(device) + " cannot listen again: " + error);
+    m_threads.After(kTimeToTryAgain, [this, device] { ListenAgain(device); });
 }
 
 void CSimulator::Stop()

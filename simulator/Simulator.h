@@ -27,6 +27,9 @@ public:
 private:
     bool LoadDevices(std::string& error);
     bool Listen(std::string& error);
+    /// Lets a device be away for a while, beginning after the delay.
+    void Restart(unsigned device, std::chrono::milliseconds delay);
+    void ListenAgain(unsigned device);
     void SetChannel(const ChannelSetting& setting);
 
     const Settings m_settings;

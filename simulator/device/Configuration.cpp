@@ -1,81 +1,152 @@
 #include "simulator/device/Configuration.h"
 
+#include "DeviceStructures/Values.h"
+#include "simulator/device/Disks.h"
+
+#include <algorithm>
+
 namespace simulator {
 
 namespace {
 
-template<std::size_t Size>
-void PutText(char (&field)[Size], const std::string& text)
+Octets FreshOctets(const devices::Layout& layout)
 {
-    std::memcpy(field, text.data(), std::min(text.size(), Size - 1));
+    const devices::Octets bytes = devices::Defaults(layout);
+    return std::make_shared<const std::string>(bytes.begin(), bytes.end());
 }
 
-Octets DefaultOf(const CommandRow& row)
+/// Items of a batch are kept by channel and group in one number.
+ParameterKey KeyOf(const devices::ConfigCommand& command, unsigned channel, unsigned group)
 {
-    std::string octets(row.size, '\0');
-    const auto size = static_cast<std::uint32_t>(row.size);
-    std::memcpy(octets.data(), &size, sizeof size);
-    return std::make_shared<const std::string>(std::move(octets));
+    return {command.get, channel + (group << 16)};
 }
 
 } // namespace
 
-CConfiguration::CConfiguration(const DevicePlan& plan, CChannels& channels, CParameters& parameters)
-    : m_plan(plan), m_channels(channels), m_parameters(parameters)
-{}
-
-std::optional<Refused> CConfiguration::CheckChannel(const CommandRow& row, unsigned channel) const
+/// A command whose answer is made at the time it is asked for.
+struct CConfiguration::Reader
 {
-    const bool isThere =
-        row.scope == CommandScope::Device ? channel == 0 : channel >= 1 && channel <= m_channels.Count();
-    return isThere ? std::nullopt : std::optional<Refused>(kUnknownChannel);
+    unsigned command;
+    Octets (*read)(const CConfiguration& device, unsigned channel);
+};
+
+/// A command whose set does more than to be kept, or is kept otherwise.
+struct CConfiguration::Action
+{
+    unsigned command;
+    std::optional<Refused> (*act)(CConfiguration& device, unsigned channel, const std::string& octets);
+};
+
+const CConfiguration::Reader CConfiguration::kReaders[] = {
+    {QXNET_GET_DEVICE_INFO, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Info()); }},
+    {QXNET_GET_CHANNEL_PAGE, [](const CConfiguration& device,
+                                unsigned channel) { return OctetsOf(device.m_channels.Page(channel)); }},
+    {QXNET_GET_AUDIO_COMPRESS,
+     [](const CConfiguration& device, unsigned) { return OctetsOf(device.Audio()); }},
+    {QXNET_GET_DISK_QUOTA,
+     [](const CConfiguration& device, unsigned) {
+         return OctetsOf(QuotaOf(device.Disks(), device.m_channels.Count()));
+     }},
+    {QXNET_GET_DISKS, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Disks()); }},
+    {QXNET_GET_USERS, [](const CConfiguration& device, unsigned) { return OctetsOf(device.m_users.List()); }},
+    {QXNET_GET_CLOCK, [](const CConfiguration& device, unsigned) { return OctetsOf(device.Clock()); }},
+    {QXNET_GET_ALARM_STATES,
+     [](const CConfiguration& device, unsigned) { return OctetsOf(device.AlarmStates()); }},
+};
+
+const CConfiguration::Action CConfiguration::kActions[] = {
+    {QXNET_SET_CLOCK,
+     [](CConfiguration& device, unsigned, const std::string& octets) {
+         return device.SetClock(StructureOf<QxNetClock>(octets));
+     }},
+    {QXNET_SET_USERS,
+     [](CConfiguration& device, unsigned, const std::string& octets) {
+         return device.SetUsers(StructureOf<QxNetUserList>(octets));
+     }},
+    {QXNET_SET_USER_PASSWORD,
+     [](CConfiguration& device, unsigned, const std::string& octets) {
+         return device.SetPassword(StructureOf<QxNetUserPassword>(octets));
+     }},
+    {QXNET_SET_WIPER,
+     [](CConfiguration& device, unsigned channel, const std::string& octets) {
+         return device.MoveWiper(channel, StructureOf<QxNetWiper>(octets));
+     }},
+    {QXNET_FORMAT_DISK,
+     [](CConfiguration& device, unsigned, const std::string& octets) {
+         return device.FormatDisks(StructureOf<QxNetDiskFormat>(octets));
+     }},
+    {QXNET_SWITCH_ALARM_OUTPUT,
+     [](CConfiguration& device, unsigned channel, const std::string& octets) {
+         return device.Keep({QXNET_SWITCH_ALARM_OUTPUT, channel},
+                            std::make_shared<const std::string>(octets));
+     }},
+    {QXNET_REBOOT,
+     [](CConfiguration& device, unsigned, const std::string& octets) {
+         device.m_restart(std::chrono::seconds(StructureOf<QxNetReboot>(octets).delay));
+         return std::optional<Refused>();
+     }},
+    {QXNET_RESET, [](CConfiguration& device, unsigned,
+                     const std::string& octets) { return device.Reset(StructureOf<QxNetReset>(octets)); }},
+};
+
+CConfiguration::CConfiguration(const DevicePlan& plan, CChannels& channels, CUsers& users,
+                               CParameters& parameters, Restart restart)
+    : m_plan(plan), m_channels(channels), m_users(users), m_parameters(parameters),
+      m_restart(std::move(restart))
+{
+    MakeDefaults();
 }
 
-Outcome CConfiguration::Get(unsigned command, unsigned channel) const
+void CConfiguration::MakeDefaults()
 {
-    if (command == QXNET_GET_CHANNEL_PAGE)
-        return channel == 0 ? Outcome(kUnknownChannel) : OctetsOf(m_channels.Page(channel));
-    const CommandRow* row = FindGet(command);
-    if (!row)
-        return kUnknownCommand;
-    if (const auto refused = CheckChannel(*row, channel))
-        return *refused;
-    if (command == QXNET_GET_DEVICE_INFO)
-        return OctetsOf(Info());
-    const Octets kept = m_parameters.Find({command, channel});
-    return kept ? kept : DefaultOf(*row);
+    for (const devices::ConfigCommand& command : devices::ConfigCommands())
+        if (command.get != 0)
+            m_defaults[command.get] = FreshOctets(command.layout());
 }
 
-std::optional<Refused> CConfiguration::Set(unsigned command, unsigned channel, const std::string& octets)
+bool CConfiguration::HasChannel(devices::Scope scope, unsigned channel) const
 {
-    const CommandRow* row = FindSet(command);
-    if (!row)
-        return kUnknownCommand;
-    if (const auto refused = CheckChannel(*row, channel))
-        return refused;
-    if (octets.size() != row->size || StructureOf<std::uint32_t>(octets) != row->size)
+    switch (scope) {
+    case devices::Scope::Device:
+        return channel == 0;
+    case devices::Scope::AlarmInput:
+        return channel >= 1 && channel <= m_plan.alarmInputs;
+    case devices::Scope::AlarmOutput:
+        return channel >= 1 && channel <= m_plan.alarmOutputs;
+    default:
+        return channel >= 1 && channel <= m_channels.Count();
+    }
+}
+
+Outcome CConfiguration::Get(const devices::ConfigCommand& command, unsigned channel, unsigned group) const
+{
+    // A page behind the last channel is an empty one, so that a device without cameras has one too.
+    const bool isPage = command.get == QXNET_GET_CHANNEL_PAGE && channel >= 1;
+    if (!isPage && !HasChannel(command.scope, channel))
+        return kUnknownChannel;
+    for (const Reader& reader : kReaders)
+        if (reader.command == command.get)
+            return reader.read(*this, channel);
+    const Octets kept = m_parameters.Find(KeyOf(command, channel, group));
+    return kept && kept->size() == command.layout().size ? kept : m_defaults.at(command.get);
+}
+
+std::optional<Refused> CConfiguration::Set(const devices::ConfigCommand& command, unsigned channel,
+                                           const std::string& octets, unsigned group)
+{
+    if (!HasChannel(command.scope, channel))
+        return kUnknownChannel;
+    if (devices::Check(command.layout(), octets.data(), octets.size()))
         return kBadRequest;
-    if (!m_parameters.Set({row->get, channel}, std::make_shared<const std::string>(octets)))
-        return kCannotKeep;
-    return std::nullopt;
+    for (const Action& action : kActions)
+        if (action.command == command.set)
+            return action.act(*this, channel, octets);
+    return Keep(KeyOf(command, channel, group), std::make_shared<const std::string>(octets));
 }
 
-QxNetDeviceInfo CConfiguration::Info() const
+std::optional<Refused> CConfiguration::Keep(const ParameterKey& key, Octets octets)
 {
-    QxNetDeviceInfo info{};
-    info.size = sizeof info;
-    info.typeCode = m_plan.typeCode;
-    info.subType = m_plan.subType;
-    info.channels = m_channels.Count();
-    info.alarmInputs = m_plan.alarmInputs;
-    info.alarmOutputs = m_plan.alarmOutputs;
-    info.voiceChannels = m_plan.voiceChannels;
-    info.disks = m_plan.disks;
-    PutText(info.name, m_plan.name);
-    PutText(info.serial, m_plan.serial);
-    PutText(info.model, std::string("Vantor simulated ") + KindName(m_plan.kind));
-    PutText(info.firmware, "1.0.0");
-    return info;
+    return m_parameters.Set(key, std::move(octets)) ? std::nullopt : std::optional<Refused>(kCannotKeep);
 }
 
 } // namespace simulator

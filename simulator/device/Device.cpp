@@ -1,36 +1,87 @@
 #include "simulator/device/Device.h"
 
+#include <algorithm>
+
 namespace simulator {
+
+namespace {
+
+/// What a set of a command needs; other sets need the right to configure.
+struct NeededRight
+{
+    unsigned command;
+    UserRight right; ///< null: only administrators may
+};
+
+constexpr NeededRight kRights[] = {
+    {QXNET_SET_USERS, nullptr},
+    {QXNET_SET_USER_PASSWORD, nullptr},
+    {QXNET_REBOOT, &QxNetUser::maintenance},
+    {QXNET_RESET, &QxNetUser::maintenance},
+    {QXNET_FORMAT_DISK, &QxNetUser::maintenance},
+    {QXNET_SWITCH_ALARM_OUTPUT, &QxNetUser::alarmOutputs},
+    {QXNET_SET_WIPER, &QxNetUser::movement},
+    {QXNET_SET_PTZ_LOCK, &QxNetUser::movement},
+};
+
+UserRight RightFor(unsigned command)
+{
+    for (const NeededRight& needed : kRights)
+        if (needed.command == command)
+            return needed.right;
+    return &QxNetUser::configuration;
+}
+
+/// What answers in place of the device.
+std::optional<HttpAnswer> InsteadOfServing(const FaultRule& fault)
+{
+    HttpAnswer answer;
+    if (fault.kind == FaultKind::Error)
+        return Refusal(fault.status, fault.error, fault.module, fault.own);
+    if (fault.kind != FaultKind::Refuse)
+        return std::nullopt;
+    answer.delivery.drops = true;
+    return answer;
+}
+
+HttpAnswer Done()
+{
+    return AnswerOf(std::optional<Refused>());
+}
+
+} // namespace
 
 struct CDevice::Route
 {
     const char* method;
     const char* stem;
+    bool changes; ///< it wants a right
     HttpAnswer (*serve)(CDevice& device, const Call& call);
 };
 
 const CDevice::Route CDevice::kRoutes[] = {
-    {"GET", "config",
+    {"GET", "config", false,
      [](CDevice& device, const Call& call) { return GetConfig(device.m_configuration, call); }},
-    {"PUT", "config",
+    {"PUT", "config", true,
      [](CDevice& device, const Call& call) { return SetConfig(device.m_configuration, call); }},
-    {"POST", "batch/get",
+    {"POST", "batch/get", false,
      [](CDevice& device, const Call& call) { return GetBatch(device.m_configuration, call); }},
-    {"POST", "batch/set",
+    {"POST", "batch/set", true,
      [](CDevice& device, const Call& call) { return SetBatch(device.m_configuration, call); }},
-    {"POST", "std/get",
+    {"POST", "std/get", false,
      [](CDevice& device, const Call& call) { return GetStandard(device.m_configuration, call); }},
-    {"POST", "std/set",
+    {"POST", "std/set", true,
      [](CDevice& device, const Call& call) { return SetStandard(device.m_configuration, call); }},
-    {"GET", "ability", [](CDevice& device, const Call& call) { return device.Ability(call); }},
-    {"DELETE", "session", [](CDevice& device, const Call& call) { return device.EndSession(call); }},
+    {"GET", "ability", false, [](CDevice& device, const Call& call) { return device.Ability(call); }},
+    {"DELETE", "session", false, [](CDevice& device, const Call& call) { return device.EndSession(call); }},
 };
 
 CDevice::CDevice(DevicePlan plan, const DoorSettings& door, CFaultBook& faults, const std::string& folder,
-                 Complain complain)
+                 Complain complain, Restart restart)
     : m_plan(std::move(plan)), m_faults(faults), m_complain(complain), m_folder(folder, complain),
-      m_sessions(door), m_channels(m_plan.channels), m_parameters(m_folder),
-      m_configuration(m_plan, m_channels, m_parameters), m_voice(m_plan, folder)
+      m_parameters(m_folder), m_users(door, m_parameters), m_sessions(door, m_users),
+      m_channels(m_plan.channels),
+      m_configuration(m_plan, m_channels, m_users, m_parameters, std::move(restart)), m_voice(m_plan, folder)
 {}
 
 bool CDevice::Load(std::string& error)
@@ -60,18 +111,6 @@ std::optional<FaultRule> CDevice::TakeFault(const HttpRequest& request)
     return m_faults.Take(subject);
 }
 
-/// What answers in place of the device.
-static std::optional<HttpAnswer> InsteadOfServing(const FaultRule& fault)
-{
-    HttpAnswer answer;
-    if (fault.kind == FaultKind::Error)
-        return Refusal(fault.status, fault.error, fault.module, fault.own);
-    if (fault.kind != FaultKind::Refuse)
-        return std::nullopt;
-    answer.delivery.drops = true;
-    return answer;
-}
-
 HttpAnswer CDevice::Answer(const HttpRequest& request)
 {
     const auto fault = TakeFault(request);
@@ -84,12 +123,12 @@ HttpAnswer CDevice::Answer(const HttpRequest& request)
     return answer;
 }
 
-std::optional<HttpAnswer> CDevice::RefuseStranger(const HttpRequest& request)
+std::variant<std::string, HttpAnswer> CDevice::Identify(const HttpRequest& request)
 {
     if (request.version != "1")
         return Refusal(505, 301);
-    if (m_sessions.Touch(request.session))
-        return std::nullopt;
+    if (auto user = m_sessions.Touch(request.session))
+        return std::move(*user);
     HttpAnswer answer;
     answer.status = 401;
     answer.headers = {{"Vantor-Session", "ended"}};
@@ -101,14 +140,17 @@ HttpAnswer CDevice::Serve(const HttpRequest& request)
     const auto call = TakeApart(request);
     if (call && call->stem == "session" && request.method == "POST" && request.version == "1")
         return OpenSession(*call);
-    if (auto refusal = RefuseStranger(request))
+    auto identity = Identify(request);
+    if (auto* refusal = std::get_if<HttpAnswer>(&identity))
         return std::move(*refusal);
-    if (!call)
+    const auto route = std::find_if(std::begin(kRoutes), std::end(kRoutes), [&](const Route& known) {
+        return call && call->stem == known.stem && request.method == known.method;
+    });
+    if (route == std::end(kRoutes))
         return AnswerOf(kUnknownCommand);
-    for (const Route& route : kRoutes)
-        if (call->stem == route.stem && request.method == route.method)
-            return route.serve(*this, *call);
-    return AnswerOf(kUnknownCommand);
+    if (route->changes && !m_users.May(std::get<std::string>(identity), RightFor(call->number)))
+        return AnswerOf(kNotAllowed);
+    return route->serve(*this, *call);
 }
 
 HttpAnswer CDevice::OpenSession(const Call& call)
@@ -122,7 +164,7 @@ HttpAnswer CDevice::OpenSession(const Call& call)
 HttpAnswer CDevice::EndSession(const Call& call)
 {
     m_sessions.End(call.request.session);
-    return AnswerOf(std::optional<Refused>());
+    return Done();
 }
 
 HttpAnswer CDevice::Ability(const Call&)
@@ -136,11 +178,14 @@ std::variant<HttpAnswer, std::unique_ptr<IUpload>> CDevice::BeginUpload(const Ht
     if (fault)
         if (auto instead = InsteadOfServing(*fault))
             return std::move(*instead);
-    if (auto refusal = RefuseStranger(request))
+    auto identity = Identify(request);
+    if (auto* refusal = std::get_if<HttpAnswer>(&identity))
         return std::move(*refusal);
     const auto call = TakeApart(request);
     if (!call || call->stem != "voice" || request.method != "POST")
         return AnswerOf(kBadRequest);
+    if (!m_users.May(std::get<std::string>(identity), &QxNetUser::voice))
+        return AnswerOf(kNotAllowed);
     return m_voice.Begin(call->number, NumberIn(request.query, "encoding"), NumberIn(request.query, "rate"));
 }
 

@@ -15,15 +15,19 @@ class CDevice : public IHttpHandler
 public:
     using Complain = CStateFolder::Complain;
 
-    /// faults must outlive the device; folder as CStateFolder takes it.
+    /// Wants the device to be away for a while, beginning after the delay.
+    using Restart = CConfiguration::Restart;
+
+    /// door and faults must outlive the device; folder as CStateFolder takes it.
     CDevice(DevicePlan plan, const DoorSettings& door, CFaultBook& faults, const std::string& folder,
-            Complain complain);
+            Complain complain, Restart restart);
 
     /// Reads what is kept. False with the reason in error when the folder cannot be used.
     [[nodiscard]] bool Load(std::string& error);
 
     const DevicePlan& Plan() const { return m_plan; }
     CChannels& Channels() { return m_channels; }
+    void EndSessions() { m_sessions.EndAll(); }
 
     bool TakesConnection() override;
     HttpAnswer Answer(const HttpRequest& request) override;
@@ -35,7 +39,8 @@ private:
 
     std::optional<FaultRule> TakeFault(const HttpRequest& request);
     void RefreshFaults();
-    std::optional<HttpAnswer> RefuseStranger(const HttpRequest& request);
+    /// The user of the request's session, or why it is not served.
+    std::variant<std::string, HttpAnswer> Identify(const HttpRequest& request);
     HttpAnswer Serve(const HttpRequest& request);
     HttpAnswer OpenSession(const Call& call);
     HttpAnswer EndSession(const Call& call);
@@ -45,9 +50,10 @@ private:
     CFaultBook& m_faults;
     const Complain m_complain;
     CStateFolder m_folder;
+    CParameters m_parameters;
+    CUsers m_users;
     CSessions m_sessions;
     CChannels m_channels;
-    CParameters m_parameters;
     CConfiguration m_configuration;
     CVoiceChannels m_voice;
 };

@@ -1,5 +1,7 @@
 #include "simulator/device/Exchanges.h"
 
+#include "DeviceStructures/Values.h"
+
 #include <charconv>
 
 namespace simulator {
@@ -18,36 +20,74 @@ std::optional<unsigned> ParseNumber(std::string_view text)
     return isNumber ? std::optional<unsigned>(number) : std::nullopt;
 }
 
-/// The sizes that a batch announces.
-struct BatchShape
-{
-    unsigned count = 0;
-    std::size_t condition = 0;
-    std::size_t size = 0;
-};
+using devices::ConfigCommand;
+using devices::Scope;
 
-std::optional<BatchShape> ShapeOf(const Call& call)
+/// The command that a request's number gets or sets, if it travels in batches or does not.
+const ConfigCommand* FindOf(unsigned number, bool gets, bool inBatch)
 {
-    const auto count = NumberIn(call.request.query, "count");
-    const auto condition = NumberIn(call.request.query, "condition");
-    const auto size = NumberIn(call.request.query, "size");
-    if (!count || !condition || !size || *count == 0 || *count > kBatchItems ||
-        *condition != sizeof(std::uint32_t) * 19)
-        return std::nullopt;
-    return BatchShape{*count, *condition, *size};
-}
-
-/// The channel of a batch's item: the second word of its condition.
-unsigned ChannelOf(const std::string& body, const BatchShape& shape, unsigned item)
-{
-    std::uint32_t channel = 0;
-    std::memcpy(&channel, body.data() + item * shape.condition + 4, sizeof channel);
-    return channel;
+    const ConfigCommand* command = devices::FindCommand(number);
+    const bool fits = command && (gets ? command->get : command->set) == number &&
+                      (command->scope == Scope::Item) == inBatch;
+    return fits ? command : nullptr;
 }
 
 void PutWord(std::string& octets, std::size_t at, std::uint32_t word)
 {
     std::memcpy(octets.data() + at, &word, sizeof word);
+}
+
+/// A batch whose sizes were checked.
+struct Batch
+{
+    const ConfigCommand* command = nullptr;
+    unsigned count = 0;
+    std::size_t size = 0; ///< of a structure
+    const std::string& body;
+
+    std::string ConditionAt(unsigned item) const
+    {
+        return body.substr(item * sizeof(tagNET_DVR_CHANNEL_GROUP), sizeof(tagNET_DVR_CHANNEL_GROUP));
+    }
+    std::string StructureAt(unsigned item) const
+    {
+        return body.substr(count * sizeof(tagNET_DVR_CHANNEL_GROUP) + item * size, size);
+    }
+};
+
+std::variant<Batch, Refused> BatchOf(const Call& call, bool gets)
+{
+    const ConfigCommand* command = FindOf(call.number, gets, true);
+    if (!command)
+        return kUnknownCommand;
+    const std::string& query = call.request.query;
+    const unsigned count = NumberIn(query, "count").value_or(0);
+    Batch batch{command, count, command->layout().size, call.request.body};
+    const std::size_t item = sizeof(tagNET_DVR_CHANNEL_GROUP) + (gets ? 0 : batch.size);
+    if (count == 0 || count > kBatchItems ||
+        NumberIn(query, "condition") != sizeof(tagNET_DVR_CHANNEL_GROUP) ||
+        NumberIn(query, "size") != batch.size || batch.body.size() != count * item)
+        return kBadRequest;
+    return batch;
+}
+
+/// Does something for each item whose condition is good; the status words come first in what is returned.
+template<class Work>
+std::string ForEachItem(const Batch& batch, std::size_t answerSize, Work work)
+{
+    const std::size_t words = batch.count * sizeof(std::uint32_t);
+    std::string octets(words + batch.count * answerSize, '\0');
+    for (unsigned item = 0; item < batch.count; ++item) {
+        const std::string condition = batch.ConditionAt(item);
+        const auto group = StructureOf<tagNET_DVR_CHANNEL_GROUP>(condition);
+        const bool isGood =
+            !devices::Check(devices::ChannelGroupLayout(), condition.data(), condition.size());
+        const std::optional<Refused> refused = isGood ? work(item, group, words + item * answerSize, octets)
+                                                      : std::optional<Refused>(kBadRequest);
+        if (refused)
+            PutWord(octets, item * sizeof(std::uint32_t), refused->error);
+    }
+    return octets;
 }
 
 } // namespace
@@ -105,76 +145,76 @@ HttpAnswer AnswerOf(const Outcome& outcome)
 
 HttpAnswer GetConfig(CConfiguration& configuration, const Call& call)
 {
+    const ConfigCommand* command = FindOf(call.number, true, false);
     const auto channel = NumberIn(call.request.query, "channel");
-    return channel ? AnswerOf(configuration.Get(call.number, *channel)) : AnswerOf(kBadRequest);
+    if (!command)
+        return AnswerOf(kUnknownCommand);
+    return channel ? AnswerOf(configuration.Get(*command, *channel)) : AnswerOf(kBadRequest);
 }
 
 HttpAnswer SetConfig(CConfiguration& configuration, const Call& call)
 {
+    const ConfigCommand* command = FindOf(call.number, false, false);
     const auto channel = NumberIn(call.request.query, "channel");
-    return channel ? AnswerOf(configuration.Set(call.number, *channel, call.request.body))
+    if (!command)
+        return AnswerOf(kUnknownCommand);
+    return channel ? AnswerOf(configuration.Set(*command, *channel, call.request.body))
                    : AnswerOf(kBadRequest);
 }
 
 HttpAnswer GetBatch(CConfiguration& configuration, const Call& call)
 {
-    const CommandRow* row = FindGet(call.number);
-    if (!row)
-        return AnswerOf(kUnknownCommand);
-    const auto shape = ShapeOf(call);
-    const std::string& body = call.request.body;
-    if (!shape || shape->size != row->size || body.size() != shape->count * shape->condition)
-        return AnswerOf(kBadRequest);
-    const std::size_t words = shape->count * sizeof(std::uint32_t);
-    std::string octets(words + shape->count * shape->size, '\0');
-    for (unsigned item = 0; item < shape->count; ++item) {
-        const Outcome outcome = configuration.Get(call.number, ChannelOf(body, *shape, item));
+    const auto checked = BatchOf(call, true);
+    if (const auto* refused = std::get_if<Refused>(&checked))
+        return AnswerOf(*refused);
+    const Batch& batch = std::get<Batch>(checked);
+    const auto get = [&](unsigned, const tagNET_DVR_CHANNEL_GROUP& group, std::size_t at,
+                         std::string& octets) -> std::optional<Refused> {
+        const Outcome outcome = configuration.Get(*batch.command, group.channel, group.group);
         if (const auto* refused = std::get_if<Refused>(&outcome))
-            PutWord(octets, item * sizeof(std::uint32_t), refused->error);
-        else
-            octets.replace(words + item * shape->size, shape->size, *std::get<Octets>(outcome));
-    }
-    return AnswerOf(Outcome(std::make_shared<const std::string>(std::move(octets))));
+            return *refused;
+        octets.replace(at, batch.size, *std::get<Octets>(outcome));
+        return std::nullopt;
+    };
+    return AnswerOf(Outcome(std::make_shared<const std::string>(ForEachItem(batch, batch.size, get))));
 }
 
 HttpAnswer SetBatch(CConfiguration& configuration, const Call& call)
 {
-    const CommandRow* row = FindSet(call.number);
-    if (!row)
-        return AnswerOf(kUnknownCommand);
-    const auto shape = ShapeOf(call);
-    const std::string& body = call.request.body;
-    if (!shape || shape->size != row->size || body.size() != shape->count * (shape->condition + shape->size))
-        return AnswerOf(kBadRequest);
-    std::string words(shape->count * sizeof(std::uint32_t), '\0');
-    for (unsigned item = 0; item < shape->count; ++item) {
-        const std::size_t at = shape->count * shape->condition + item * shape->size;
-        const auto refused =
-            configuration.Set(call.number, ChannelOf(body, *shape, item), body.substr(at, shape->size));
-        if (refused)
-            PutWord(words, item * sizeof(std::uint32_t), refused->error);
-    }
-    return AnswerOf(Outcome(std::make_shared<const std::string>(std::move(words))));
+    const auto checked = BatchOf(call, false);
+    if (const auto* refused = std::get_if<Refused>(&checked))
+        return AnswerOf(*refused);
+    const Batch& batch = std::get<Batch>(checked);
+    const auto set = [&](unsigned item, const tagNET_DVR_CHANNEL_GROUP& group, std::size_t, std::string&) {
+        return configuration.Set(*batch.command, group.channel, batch.StructureAt(item), group.group);
+    };
+    return AnswerOf(Outcome(std::make_shared<const std::string>(ForEachItem(batch, 0, set))));
 }
 
 /// The condition of every command that the simulator knows is the channel's number, in four octets.
 HttpAnswer GetStandard(CConfiguration& configuration, const Call& call)
 {
+    const ConfigCommand* command = FindOf(call.number, true, false);
+    const bool asksWiper = call.number == QXNET_SET_WIPER;
+    if (!command && !asksWiper)
+        return AnswerOf(kUnknownCommand);
     if (call.request.body.size() != sizeof(std::uint32_t))
-        return AnswerOf(FindGet(call.number) ? kBadRequest : kUnknownCommand);
-    return AnswerOf(configuration.Get(call.number, StructureOf<std::uint32_t>(call.request.body)));
+        return AnswerOf(kBadRequest);
+    const auto channel = StructureOf<std::uint32_t>(call.request.body);
+    return asksWiper ? AnswerOf(Outcome(OctetsOf(configuration.WiperMoves(channel))))
+                     : AnswerOf(configuration.Get(*command, channel));
 }
 
 HttpAnswer SetStandard(CConfiguration& configuration, const Call& call)
 {
+    const ConfigCommand* command = FindOf(call.number, false, false);
     const auto condition = NumberIn(call.request.query, "condition");
     const std::string& body = call.request.body;
-    if (!FindSet(call.number))
+    if (!command)
         return AnswerOf(kUnknownCommand);
     if (condition != sizeof(std::uint32_t) || body.size() < *condition || body.size() > kStandardLimit)
         return AnswerOf(kBadRequest);
-    return AnswerOf(
-        configuration.Set(call.number, StructureOf<std::uint32_t>(body), body.substr(*condition)));
+    return AnswerOf(configuration.Set(*command, StructureOf<std::uint32_t>(body), body.substr(*condition)));
 }
 
 } // namespace simulator

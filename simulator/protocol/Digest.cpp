@@ -90,12 +90,13 @@ bool EqualsSecretly(const std::string& one, const std::string& other)
     return one.size() == other.size() && CRYPTO_memcmp(one.data(), other.data(), one.size()) == 0;
 }
 
-CDigestSecret::CDigestSecret(const std::string& user, const std::string& realm, const std::string& password)
-    : m_user(user), m_realm(realm), m_secret(Sha256Hex(user + ':' + realm + ':' + password))
-{}
+std::string DigestSecret(const std::string& user, const std::string& password)
+{
+    return Sha256Hex(user + ':' + kRealm + ':' + password);
+}
 
-bool CDigestSecret::Proves(const std::map<std::string, std::string>& credentials, const std::string& method,
-                           const std::string& target) const
+bool ProvesSecret(const std::map<std::string, std::string>& credentials, const std::string& secret,
+                  const std::string& method, const std::string& target)
 {
     const auto member = [&](const char* name) {
         const auto found = credentials.find(name);
@@ -104,10 +105,10 @@ bool CDigestSecret::Proves(const std::map<std::string, std::string>& credentials
     const std::string count = member("nc");
     const bool isCount = count.size() == 8 && count != "00000000" &&
                          count.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
-    if (!isCount || member("qop") != "auth" || member("algorithm") != "SHA-256" || member("cnonce").empty() ||
-        member("username") != m_user || member("realm") != m_realm || member("uri") != target)
+    if (!isCount || secret.empty() || member("qop") != "auth" || member("algorithm") != "SHA-256" ||
+        member("cnonce").empty() || member("realm") != kRealm || member("uri") != target)
         return false;
-    const std::string expected = Sha256Hex(m_secret + ':' + member("nonce") + ':' + count + ':' +
+    const std::string expected = Sha256Hex(secret + ':' + member("nonce") + ':' + count + ':' +
                                            member("cnonce") + ":auth:" + Sha256Hex(method + ':' + target));
     return EqualsSecretly(expected, member("response"));
 }

@@ -17,20 +17,15 @@ std::map<std::string, std::string> ParseDigestCredentials(const std::string& hea
 /// Whether two texts are equal, in a time that does not depend on where they differ.
 bool EqualsSecretly(const std::string& one, const std::string& other);
 
-/// The answer (RFC 7616, SHA-256, qop "auth") to the nonce in the credentials, for one user and password.
-class CDigestSecret
-{
-public:
-    CDigestSecret(const std::string& user, const std::string& realm, const std::string& password);
+/// The realm of all devices.
+constexpr const char* kRealm = "vantor-device";
 
-    /// Whether the credentials are this user's for the method and target. The nonce itself is not judged.
-    bool Proves(const std::map<std::string, std::string>& credentials, const std::string& method,
-                const std::string& target) const;
+/// SHA-256 of user, realm and password: what a device keeps of a password.
+std::string DigestSecret(const std::string& user, const std::string& password);
 
-private:
-    const std::string m_user;
-    const std::string m_realm;
-    const std::string m_secret; ///< SHA-256 of user, realm and password
-};
+/// Whether credentials (RFC 7616, SHA-256, qop "auth") come from somebody who knows the secret. Their nonce
+/// is not judged.
+bool ProvesSecret(const std::map<std::string, std::string>& credentials, const std::string& secret,
+                  const std::string& method, const std::string& target);
 
 } // namespace simulator

@@ -7,7 +7,6 @@ namespace simulator {
 
 namespace {
 
-constexpr const char* kRealm = "vantor-device";
 constexpr unsigned kWrongAllowed = 5;
 constexpr std::chrono::seconds kNonceTime{60};
 constexpr std::size_t kNoncesKept = 65536;
@@ -17,18 +16,17 @@ long long Milliseconds(CSessions::Clock::time_point time)
     return std::chrono::duration_cast<std::chrono::milliseconds>(time.time_since_epoch()).count();
 }
 
-/// Removes what is older than the time.
-void RemoveBefore(std::unordered_map<std::string, CSessions::Clock::time_point>& entries,
-                  CSessions::Clock::time_point oldest)
-{
-    for (auto entry = entries.begin(); entry != entries.end();)
-        entry = entry->second < oldest ? entries.erase(entry) : std::next(entry);
-}
-
 } // namespace
 
-CSessions::CSessions(const DoorSettings& settings)
-    : m_settings(settings), m_secret(settings.user, kRealm, settings.password), m_nonceKey(RandomHex(32))
+template<class Uses>
+void CSessions::RemoveBefore(Uses& uses, Clock::time_point oldest)
+{
+    for (auto use = uses.begin(); use != uses.end();)
+        use = use->second.used < oldest ? uses.erase(use) : std::next(use);
+}
+
+CSessions::CSessions(const DoorSettings& settings, const IUserSecrets& users)
+    : m_settings(settings), m_users(users), m_nonceKey(RandomHex(32))
 {}
 
 /// A nonce tells its own age and maker, so that none has to be kept for those who never come back.
@@ -50,7 +48,7 @@ bool CSessions::TakeNonce(const std::string& nonce, Clock::time_point now)
         return false;
     if (m_usedNonces.size() >= kNoncesKept)
         RemoveBefore(m_usedNonces, now - kNonceTime);
-    return m_usedNonces.size() < kNoncesKept && m_usedNonces.emplace(nonce, now).second;
+    return m_usedNonces.size() < kNoncesKept && m_usedNonces.emplace(nonce, Use{now}).second;
 }
 
 HttpAnswer CSessions::Challenge(bool isStale, Clock::time_point now) const
@@ -71,14 +69,16 @@ HttpAnswer CSessions::Open(const HttpRequest& request, Clock::time_point now)
     if (request.authorization.empty())
         return Challenge(false, now);
     const auto credentials = ParseDigestCredentials(request.authorization);
-    if (!m_secret.Proves(credentials, request.method, request.path)) {
+    const auto user = credentials.find("username");
+    if (user == credentials.end() ||
+        !ProvesSecret(credentials, m_users.SecretOf(user->second), request.method, request.path)) {
         CountWrong(now);
         return Challenge(false, now);
     }
     if (!TakeNonce(credentials.at("nonce"), now))
         return Challenge(true, now);
     m_wrongInARow = 0;
-    return Begin(now);
+    return Begin(user->second, now);
 }
 
 void CSessions::CountWrong(Clock::time_point now)
@@ -89,31 +89,31 @@ void CSessions::CountWrong(Clock::time_point now)
     m_lockedUntil = now + m_settings.lockTime;
 }
 
-HttpAnswer CSessions::Begin(Clock::time_point now)
+HttpAnswer CSessions::Begin(const std::string& user, Clock::time_point now)
 {
     if (m_sessions.size() >= m_settings.sessions)
         RemoveBefore(m_sessions, now - m_settings.sessionTime);
     if (m_sessions.size() >= m_settings.sessions)
         return Refusal(429, 403);
     const std::string token = RandomHex(16);
-    m_sessions.emplace(token, now);
+    m_sessions.emplace(token, Session{{now}, user});
     HttpAnswer answer;
     answer.headers = {{"Vantor-Session", token}};
     return answer;
 }
 
-bool CSessions::Touch(const std::string& token, Clock::time_point now)
+std::optional<std::string> CSessions::Touch(const std::string& token, Clock::time_point now)
 {
     std::lock_guard<std::mutex> lock(m_mutex);
     const auto session = m_sessions.find(token);
     if (session == m_sessions.end())
-        return false;
-    if (now - session->second > m_settings.sessionTime) {
+        return std::nullopt;
+    if (now - session->second.used > m_settings.sessionTime) {
         m_sessions.erase(session);
-        return false;
+        return std::nullopt;
     }
-    session->second = now;
-    return true;
+    session->second.used = now;
+    return session->second.user;
 }
 
 void CSessions::End(const std::string& token)

@@ -195,6 +195,12 @@ std::uint16_t CHttpServer::Port() const
     return m_state->port;
 }
 
+bool CHttpServer::IsListening() const
+{
+    std::lock_guard<std::mutex> lock(m_state->mutex);
+    return m_state->acceptor != nullptr;
+}
+
 void CHttpServer::Close()
 {
     m_state->Close();

@@ -54,6 +54,7 @@ public:
     /// Listens; port 0 is any free one, and the same when it is called again. False with the reason in error.
     [[nodiscard]] bool Listen(const std::string& address, std::uint16_t port, std::string& error);
     std::uint16_t Port() const;
+    bool IsListening() const;
 
     /// Ends listening and all connections, from any thread. Listen may follow.
     void Close();

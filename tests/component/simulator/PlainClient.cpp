@@ -21,16 +21,16 @@ std::string Quoted(const std::string& challenge, const std::string& name)
     return challenge.substr(begin, challenge.find('"', begin) - begin);
 }
 
-std::string Credentials(const std::string& challenge, const std::string& password)
+std::string Credentials(const std::string& challenge, const std::string& user, const std::string& password)
 {
     const std::string realm = Quoted(challenge, "realm");
     const std::string nonce = Quoted(challenge, "nonce");
     const std::string uri = std::string(kRoot) + "session";
     using simulator::Sha256Hex;
-    const std::string proof = Sha256Hex(Sha256Hex("admin:" + realm + ':' + password) + ':' + nonce +
+    const std::string proof = Sha256Hex(Sha256Hex(user + ':' + realm + ':' + password) + ':' + nonce +
                                         ":00000001:c0ffee:auth:" + Sha256Hex("POST:" + uri));
-    return "Digest username=\"admin\", realm=\"" + realm + "\", nonce=\"" + nonce + "\", uri=\"" + uri +
-           "\", algorithm=SHA-256, qop=auth, nc=00000001, cnonce=\"c0ffee\", response=\"" + proof + '"';
+    return "Digest username=\"" + user + "\", realm=\"" + realm + "\", nonce=\"" + nonce + "\", uri=\"" +
+           uri + "\", algorithm=SHA-256, qop=auth, nc=00000001, cnonce=\"c0ffee\", response=\"" + proof + '"';
 }
 
 } // namespace
@@ -64,7 +64,8 @@ PlainClient::Answer PlainClient::Login(const std::string& password)
     Answer answer = Ask("POST", "session");
     if (answer.status != 401)
         return answer;
-    authorization = Credentials(answer.Header("WWW-Authenticate"), password);
+    authorization = Credentials(answer.Header("WWW-Authenticate"), user, password);
+    lastCredentials = authorization;
     answer = Ask("POST", "session");
     authorization.clear();
     if (answer.status == 200)

@@ -44,8 +44,10 @@ public:
     /// The lines of a request before its body, with the blank one.
     std::string Head(const std::string& method, const std::string& path, const std::string& moreLines) const;
 
+    std::string user = "admin";
     std::string session;
     std::string authorization;
+    std::string lastCredentials; ///< of the last login
     std::string version = "1";
 
 private:
