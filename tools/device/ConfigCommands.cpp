@@ -92,8 +92,10 @@ bool ReadFrom(Context& context, const devices::Layout& layout, Octets& structure
     return !fault;
 }
 
-/// Batches show their channels by a heading, or as objects with channel, error and value.
-void ShowItems(Context& context, const devices::Layout& layout, const std::vector<CDevice::Item>& items)
+/// Batches show their channels by a heading, or as objects with channel, error and value. Text tells of a
+/// change only where it failed.
+void ShowItems(Context& context, const devices::Layout& layout, const std::vector<CDevice::Item>& items,
+               bool changed)
 {
     std::vector<std::string> pieces;
     for (const CDevice::Item& item : items) {
@@ -103,10 +105,10 @@ void ShowItems(Context& context, const devices::Layout& layout, const std::vecto
             pieces.push_back(
                 "{\"channel\":" + channel + ",\"error\":" + std::to_string(item.failure.error) +
                 ",\"value\":" + (good ? devices::ToJson(layout, item.structure.data()) : "null") + "}");
-        else if (good)
+        else if (good && !changed)
             context.out << "channel " << channel << "\n"
                         << devices::ToText(layout, item.structure.data()) << "\n";
-        else
+        else if (!good)
             context.err << "vantor-device: channel " << channel << ": " << ErrorText(item.failure) << "\n";
     }
     if (context.Json())
@@ -214,7 +216,7 @@ int RunBatch(Context& context)
     if (change)
         if (const int result = ChangeItems(context, *command, items); result != kGood)
             return result;
-    ShowItems(context, command->layout(), items);
+    ShowItems(context, command->layout(), items, change);
     return AnyFailed(items) ? kFailed : kGood;
 }
 
