@@ -6,7 +6,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <sstream>
 
 namespace {
@@ -63,9 +62,8 @@ TEST_F(SimulatedDevice, TakesMembersBatchesOutputsAndTime)
     ASSERT_EQ(Run({"time"}), 0);
     EXPECT_THAT(out.str(), testing::StartsWith("2026-03-01 12:0"));
     ASSERT_EQ(Run({"channels"}), 0);
-    EXPECT_EQ(std::count(out.str().begin(), out.str().end(), '\n'), 3);
-    ASSERT_EQ(Run({"--json", "abilities", "record"}), 0) << err.str();
-    EXPECT_THAT(out.str(), testing::StartsWith("{\"record\":\"<"));
+    EXPECT_THAT(out.str(), testing::AllOf(testing::HasSubstr("Loading Dock\n"), testing::HasSubstr("\n2  "),
+                                          testing::Not(testing::HasSubstr("\n3  "))));
 }
 
 } // namespace

@@ -142,6 +142,22 @@ TEST_F(DeviceTool, SetsTheClockToTheGivenTimeAndKeepsItsZone)
     EXPECT_EQ(Run({"time", "2026-02-30", "12:30:59"}), devicetool::kWrongUse);
 }
 
+TEST_F(DeviceTool, PrintsAbilitiesAsTheyComeAndEndsWhenOneFails)
+{
+    const std::string document = "<RecordAbility>\"x\"</RecordAbility>";
+    sdk.Answer(QXNET_ABILITY_RECORD, FakeSdk::Bytes(document.begin(), document.end()));
+    ASSERT_EQ(Run({"abilities", "record"}), devicetool::kGood) << err.str();
+    EXPECT_EQ(out.str(), document + "\n");
+    ASSERT_EQ(Run({"abilities", "record", "--json"}), devicetool::kGood) << err.str();
+    EXPECT_EQ(out.str(), R"({"record":"<RecordAbility>\"x\"</RecordAbility>"})"
+                         "\n");
+    EXPECT_EQ(Run({"abilities", "colour"}), devicetool::kWrongUse);
+    sdk.Fail("QxNet_GetAbility", {QXNET_ERROR_NOT_SUPPORTED, 0, 0});
+    EXPECT_EQ(Run({"abilities", "record"}), devicetool::kFailed);
+    EXPECT_EQ(Run({"abilities"}), devicetool::kGood); // those that a device lacks are left out
+    EXPECT_EQ(out.str(), "");
+}
+
 struct MisuseRow
 {
     std::vector<std::string> arguments;
