@@ -1,5 +1,7 @@
 #include "simulator/device/Device.h"
 
+#include "simulator/abilities/AbilityDocument.h"
+
 #include <algorithm>
 
 namespace simulator {
@@ -167,9 +169,18 @@ HttpAnswer CDevice::EndSession(const Call& call)
     return Done();
 }
 
-HttpAnswer CDevice::Ability(const Call&)
+HttpAnswer CDevice::Ability(const Call& call)
 {
-    return AnswerOf(kUnknownCommand);
+    const auto channel = NumberIn(call.request.query, "channel");
+    if (!channel)
+        return AnswerOf(kBadRequest);
+    if (*channel > m_plan.channels.size())
+        return AnswerOf(kUnknownChannel);
+    std::string document = abilities::AbilityDocument(m_plan.kind, m_configuration.Info(),
+                                                      static_cast<std::int32_t>(*channel), call.number);
+    if (document.empty())
+        return AnswerOf(kUnknownCommand);
+    return AnswerOf(Outcome(std::make_shared<const std::string>(std::move(document))));
 }
 
 std::variant<HttpAnswer, std::unique_ptr<IUpload>> CDevice::BeginUpload(const HttpRequest& request)
