@@ -8,7 +8,7 @@ namespace simulator {
 
 namespace {
 
-/// Some of them wait for a disk now and then, so more than there are processors.
+/// Some wait for a disk now and then, and their connections with them, so more than there are processors.
 constexpr unsigned kThreads = 4;
 
 /// In which the answer to a request to restart leaves.
@@ -19,7 +19,8 @@ constexpr std::chrono::seconds kTimeToTryAgain{1};
 
 CSimulator::CSimulator(const Settings& settings, CDevice::Complain complain)
     : m_settings(settings), m_complain(std::move(complain)),
-      m_faults(settings.faults, [this](const ChannelSetting& setting) { SetChannel(setting); })
+      m_faults(settings.faults, [this](const ChannelSetting& setting) { SetChannel(setting); }),
+      m_threads(kThreads)
 {}
 
 CSimulator::~CSimulator()
@@ -38,7 +39,7 @@ bool CSimulator::Start(std::string& error)
     }
     if (!Listen(error))
         return false;
-    m_threads.Start(kThreads);
+    m_threads.Start();
     return true;
 }
 

@@ -720,6 +720,18 @@ It scrolls when it is too long for its field.</source>
 <context>
     <name>gallery::GalleryWindow</name>
     <message>
+        <source>Page</source>
+        <translation>الصفحة</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>عناصر الواجهة</translation>
+    </message>
+    <message>
+        <source>Resource tree</source>
+        <translation>شجرة الموارد</translation>
+    </message>
+    <message>
         <source>Skin</source>
         <translation>المظهر</translation>
     </message>
@@ -730,6 +742,37 @@ It scrolls when it is too long for its field.</source>
     <message>
         <source>Scale: start again with QT_SCALE_FACTOR=1.5</source>
         <translation>الحجم: أعد التشغيل مع QT_SCALE_FACTOR=1.5</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::TreePage</name>
+    <message>
+        <source>Resource tree</source>
+        <translation>شجرة الموارد</translation>
+    </message>
+    <message>
+        <source>By devices</source>
+        <translation>حسب الأجهزة</translation>
+    </message>
+    <message>
+        <source>By groups</source>
+        <translation>حسب المجموعات</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>بحث</translation>
+    </message>
+    <message>
+        <source>Ten thousand</source>
+        <translation>عشرة آلاف</translation>
+    </message>
+    <message>
+        <source>Without devices</source>
+        <translation>بلا أجهزة</translation>
+    </message>
+    <message>
+        <source>Without hits</source>
+        <translation>بلا نتائج</translation>
     </message>
 </context>
 </TS>

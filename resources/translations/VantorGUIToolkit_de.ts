@@ -720,6 +720,18 @@ Er lässt sich scrollen, wenn er für sein Feld zu lang ist.</translation>
 <context>
     <name>gallery::GalleryWindow</name>
     <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Bedienelemente</translation>
+    </message>
+    <message>
+        <source>Resource tree</source>
+        <translation>Ressourcenbaum</translation>
+    </message>
+    <message>
         <source>Skin</source>
         <translation>Aussehen</translation>
     </message>
@@ -730,6 +742,37 @@ Er lässt sich scrollen, wenn er für sein Feld zu lang ist.</translation>
     <message>
         <source>Scale: start again with QT_SCALE_FACTOR=1.5</source>
         <translation>Größe: mit QT_SCALE_FACTOR=1.5 neu starten</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::TreePage</name>
+    <message>
+        <source>Resource tree</source>
+        <translation>Ressourcenbaum</translation>
+    </message>
+    <message>
+        <source>By devices</source>
+        <translation>Nach Geräten</translation>
+    </message>
+    <message>
+        <source>By groups</source>
+        <translation>Nach Gruppen</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>Durchsucht</translation>
+    </message>
+    <message>
+        <source>Ten thousand</source>
+        <translation>Zehntausend</translation>
+    </message>
+    <message>
+        <source>Without devices</source>
+        <translation>Ohne Geräte</translation>
+    </message>
+    <message>
+        <source>Without hits</source>
+        <translation>Ohne Treffer</translation>
     </message>
 </context>
 </TS>

@@ -720,6 +720,18 @@ It scrolls when it is too long for its field.</translation>
 <context>
     <name>gallery::GalleryWindow</name>
     <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>Widgets</translation>
+    </message>
+    <message>
+        <source>Resource tree</source>
+        <translation>Resource tree</translation>
+    </message>
+    <message>
         <source>Skin</source>
         <translation>Skin</translation>
     </message>
@@ -730,6 +742,37 @@ It scrolls when it is too long for its field.</translation>
     <message>
         <source>Scale: start again with QT_SCALE_FACTOR=1.5</source>
         <translation>Scale: start again with QT_SCALE_FACTOR=1.5</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::TreePage</name>
+    <message>
+        <source>Resource tree</source>
+        <translation>Resource tree</translation>
+    </message>
+    <message>
+        <source>By devices</source>
+        <translation>By devices</translation>
+    </message>
+    <message>
+        <source>By groups</source>
+        <translation>By groups</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>Searched</translation>
+    </message>
+    <message>
+        <source>Ten thousand</source>
+        <translation>Ten thousand</translation>
+    </message>
+    <message>
+        <source>Without devices</source>
+        <translation>Without devices</translation>
+    </message>
+    <message>
+        <source>Without hits</source>
+        <translation>Without hits</translation>
     </message>
 </context>
 </TS>

@@ -720,6 +720,18 @@ It scrolls when it is too long for its field.</source>
 <context>
     <name>gallery::GalleryWindow</name>
     <message>
+        <source>Page</source>
+        <translation>עמוד</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>פקדים</translation>
+    </message>
+    <message>
+        <source>Resource tree</source>
+        <translation>עץ המשאבים</translation>
+    </message>
+    <message>
         <source>Skin</source>
         <translation>מראה</translation>
     </message>
@@ -730,6 +742,37 @@ It scrolls when it is too long for its field.</source>
     <message>
         <source>Scale: start again with QT_SCALE_FACTOR=1.5</source>
         <translation>גודל: הפעלה מחדש עם QT_SCALE_FACTOR=1.5</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::TreePage</name>
+    <message>
+        <source>Resource tree</source>
+        <translation>עץ המשאבים</translation>
+    </message>
+    <message>
+        <source>By devices</source>
+        <translation>לפי התקנים</translation>
+    </message>
+    <message>
+        <source>By groups</source>
+        <translation>לפי קבוצות</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>בחיפוש</translation>
+    </message>
+    <message>
+        <source>Ten thousand</source>
+        <translation>עשרת אלפים</translation>
+    </message>
+    <message>
+        <source>Without devices</source>
+        <translation>ללא התקנים</translation>
+    </message>
+    <message>
+        <source>Without hits</source>
+        <translation>ללא תוצאות</translation>
     </message>
 </context>
 </TS>

@@ -720,6 +720,18 @@ It scrolls when it is too long for its field.</source>
 <context>
     <name>gallery::GalleryWindow</name>
     <message>
+        <source>Page</source>
+        <translation>页面</translation>
+    </message>
+    <message>
+        <source>Widgets</source>
+        <translation>控件</translation>
+    </message>
+    <message>
+        <source>Resource tree</source>
+        <translation>资源树</translation>
+    </message>
+    <message>
         <source>Skin</source>
         <translation>外观</translation>
     </message>
@@ -730,6 +742,37 @@ It scrolls when it is too long for its field.</source>
     <message>
         <source>Scale: start again with QT_SCALE_FACTOR=1.5</source>
         <translation>缩放：使用 QT_SCALE_FACTOR=1.5 重新启动</translation>
+    </message>
+</context>
+<context>
+    <name>gallery::TreePage</name>
+    <message>
+        <source>Resource tree</source>
+        <translation>资源树</translation>
+    </message>
+    <message>
+        <source>By devices</source>
+        <translation>按设备</translation>
+    </message>
+    <message>
+        <source>By groups</source>
+        <translation>按分组</translation>
+    </message>
+    <message>
+        <source>Searched</source>
+        <translation>搜索中</translation>
+    </message>
+    <message>
+        <source>Ten thousand</source>
+        <translation>一万个</translation>
+    </message>
+    <message>
+        <source>Without devices</source>
+        <translation>没有设备</translation>
+    </message>
+    <message>
+        <source>Without hits</source>
+        <translation>没有结果</translation>
     </message>
 </context>
 </TS>

@@ -197,7 +197,9 @@ std::variant<HttpAnswer, std::unique_ptr<IUpload>> CDevice::BeginUpload(const Ht
         return AnswerOf(kBadRequest);
     if (!m_users.May(std::get<std::string>(identity), &QxNetUser::voice))
         return AnswerOf(kNotAllowed);
-    return m_voice.Begin(call->number, NumberIn(request.query, "encoding"), NumberIn(request.query, "rate"));
+    // Who speaks for long sends no other request meanwhile.
+    return m_voice.Begin(call->number, NumberIn(request.query, "encoding"), NumberIn(request.query, "rate"),
+                         [this, session = request.session] { (void)m_sessions.Touch(session); });
 }
 
 } // namespace simulator

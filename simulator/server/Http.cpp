@@ -18,10 +18,13 @@ const char* Reason(unsigned status)
     }
 }
 
-std::uint64_t LengthToTell(const HttpAnswer& answer)
+/// None for an answer of which HTTP says itself that it has no body.
+std::optional<std::uint64_t> LengthToTell(const HttpAnswer& answer)
 {
     if (answer.delivery.claimedLength)
-        return *answer.delivery.claimedLength;
+        return answer.delivery.claimedLength;
+    if (answer.status == 204 && !answer.body)
+        return std::nullopt;
     return answer.body ? answer.body->size() : 0;
 }
 
@@ -41,8 +44,9 @@ HttpAnswer Refusal(unsigned status, unsigned error, unsigned module, std::option
 std::string WireHead(const HttpAnswer& answer)
 {
     std::string head = "HTTP/1.1 " + std::to_string(answer.status) + ' ' + Reason(answer.status) +
-                       "\r\nVantor-Protocol: " + answer.delivery.version +
-                       "\r\nContent-Length: " + std::to_string(LengthToTell(answer)) + "\r\n";
+                       "\r\nVantor-Protocol: " + answer.delivery.version + "\r\n";
+    if (const auto length = LengthToTell(answer))
+        head += "Content-Length: " + std::to_string(*length) + "\r\n";
     for (const auto& [name, value] : answer.headers)
         head.append(name).append(": ").append(value).append("\r\n");
     for (const std::string& line : answer.delivery.moreHeaders)

@@ -38,7 +38,7 @@ public:
 using PlainStream = beast::tcp_stream;
 using TlsStream = beast::ssl_stream<beast::tcp_stream>;
 
-/// Reads requests one by one and writes their answers, all on the strand of its stream. It lives as long as
+/// Reads requests one by one and writes their answers, all on the thread of its stream. It lives as long as
 /// something of it is under way.
 template<class Stream>
 class CConnection : public IConnection, public std::enable_shared_from_this<CConnection<Stream>>
@@ -49,6 +49,18 @@ public:
         : m_handler(handler), m_stream(std::forward<Arguments>(stream)...), m_timer(m_stream.get_executor())
     {}
 
+    /// From any thread.
+    void Begin()
+    {
+        asio::post(m_stream.get_executor(), [self = this->shared_from_this()] { self->Run(); });
+    }
+
+    void Abort() override
+    {
+        asio::post(m_stream.get_executor(), [self = this->shared_from_this()] { self->Close(); });
+    }
+
+private:
     void Run()
     {
         ErrorCode ignored;
@@ -60,12 +72,6 @@ public:
             ReadHead();
     }
 
-    void Abort() override
-    {
-        asio::post(m_stream.get_executor(), [self = this->shared_from_this()] { self->Close(); });
-    }
-
-private:
     using Parser = http::request_parser<http::buffer_body>;
 
     beast::tcp_stream& Tcp() { return beast::get_lowest_layer(m_stream); }

@@ -5,9 +5,9 @@
 
 #include <boost/asio/io_context.hpp>
 #include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/strand.hpp>
 
 #include <algorithm>
+#include <atomic>
 #include <mutex>
 #include <thread>
 
@@ -32,22 +32,41 @@ std::shared_ptr<asio::ssl::context> MakeTls(const TlsIdentity& identity)
 
 struct CServerThreads::State
 {
-    asio::io_context io;
-    asio::executor_work_guard<asio::io_context::executor_type> work = asio::make_work_guard(io);
-    std::vector<std::thread> threads;
+    /// One thread's.
+    struct Loop
+    {
+        asio::io_context io{1};
+        asio::executor_work_guard<asio::io_context::executor_type> work = asio::make_work_guard(io);
+        std::thread thread;
+    };
+
+    /// Where servers wait for connections.
+    asio::io_context& Door() { return loops.front()->io; }
+
+    /// Of the thread whose turn it is.
+    asio::io_context& Next() { return loops[turn++ % loops.size()]->io; }
+
+    std::vector<std::unique_ptr<Loop>> loops;
+    std::atomic<unsigned> turn{0};
 };
 
-CServerThreads::CServerThreads() : m_state(std::make_unique<State>()) {}
+CServerThreads::CServerThreads(unsigned count) : m_state(std::make_unique<State>())
+{
+    for (unsigned i = 0; i < count; ++i)
+        m_state->loops.push_back(std::make_unique<State::Loop>());
+}
 
 CServerThreads::~CServerThreads()
 {
     Stop();
+    // A connection that waits at the door belongs to another loop already, which must outlive it.
+    m_state->loops.front().reset();
 }
 
-void CServerThreads::Start(unsigned count)
+void CServerThreads::Start()
 {
-    for (unsigned i = 0; i < count; ++i)
-        m_state->threads.emplace_back([io = &m_state->io] {
+    for (const auto& loop : m_state->loops)
+        loop->thread = std::thread([io = &loop->io] {
             Base::ProcessUtil::NameThisThread("device-sim");
             io->run();
         });
@@ -55,15 +74,16 @@ void CServerThreads::Start(unsigned count)
 
 void CServerThreads::Stop()
 {
-    m_state->io.stop();
-    for (std::thread& thread : m_state->threads)
-        thread.join();
-    m_state->threads.clear();
+    for (const auto& loop : m_state->loops)
+        loop->io.stop();
+    for (const auto& loop : m_state->loops)
+        if (loop->thread.joinable())
+            loop->thread.join();
 }
 
 void CServerThreads::After(std::chrono::milliseconds delay, std::function<void()> work)
 {
-    auto timer = std::make_shared<asio::steady_timer>(m_state->io, delay);
+    auto timer = std::make_shared<asio::steady_timer>(m_state->Next(), delay);
     timer->async_wait([timer, work = std::move(work)](ErrorCode error) {
         if (!error)
             work();
@@ -72,8 +92,8 @@ void CServerThreads::After(std::chrono::milliseconds delay, std::function<void()
 
 struct CHttpServer::State : std::enable_shared_from_this<CHttpServer::State>
 {
-    State(asio::io_context& context, IHttpHandler& served, const TlsIdentity* identity)
-        : io(context), handler(served), tls(identity ? MakeTls(*identity) : nullptr)
+    State(CServerThreads::State& threadsToUse, IHttpHandler& served, const TlsIdentity* identity)
+        : threads(threadsToUse), handler(served), tls(identity ? MakeTls(*identity) : nullptr)
     {}
 
     bool Listen(const std::string& address, std::uint16_t wanted, std::string& error);
@@ -82,7 +102,7 @@ struct CHttpServer::State : std::enable_shared_from_this<CHttpServer::State>
     bool Keep(const std::shared_ptr<IConnection>& connection);
     void Close();
 
-    asio::io_context& io;
+    CServerThreads::State& threads;
     IHttpHandler& handler;
     std::shared_ptr<asio::ssl::context> tls;
     std::mutex mutex;
@@ -96,7 +116,7 @@ bool CHttpServer::State::Listen(const std::string& address, std::uint16_t wanted
     ErrorCode failure;
     const auto host = asio::ip::make_address(address, failure);
     const tcp::endpoint endpoint(host, wanted == 0 ? port : wanted);
-    auto opened = std::make_shared<tcp::acceptor>(asio::make_strand(io));
+    auto opened = std::make_shared<tcp::acceptor>(threads.Door());
     if (!failure)
         opened->open(endpoint.protocol(), failure);
     if (!failure)
@@ -120,7 +140,7 @@ void CHttpServer::State::Accept(std::shared_ptr<tcp::acceptor> from)
 {
     if (!from->is_open())
         return;
-    from->async_accept(asio::make_strand(io),
+    from->async_accept(threads.Next(),
                        [self = shared_from_this(), from](ErrorCode error, tcp::socket socket) {
                            if (!error)
                                self->Serve(std::move(socket));
@@ -138,7 +158,7 @@ void CHttpServer::State::Serve(tcp::socket socket)
     }
     const auto run = [this](auto connection) {
         if (Keep(connection))
-            connection->Run();
+            connection->Begin();
     };
     if (tls)
         run(std::make_shared<CConnection<TlsStream>>(handler, PlainStream(std::move(socket)), *tls));
@@ -176,7 +196,7 @@ void CHttpServer::State::Close()
 }
 
 CHttpServer::CHttpServer(CServerThreads& threads, IHttpHandler& handler, const TlsIdentity* identity)
-    : m_state(std::make_shared<State>(threads.Inner().io, handler, identity))
+    : m_state(std::make_shared<State>(threads.Inner(), handler, identity))
 {}
 
 CHttpServer::~CHttpServer()

@@ -13,18 +13,19 @@ struct TlsIdentity
     std::string key;
 };
 
-/// The threads on which servers wait and handlers run.
+/// The threads on which servers wait and handlers run. Each has its own connections, so that a request costs
+/// no change of thread.
 class CServerThreads
 {
 public:
-    CServerThreads();
+    explicit CServerThreads(unsigned count);
     /// Ends what is under way without finishing it. Servers must be gone before.
     ~CServerThreads();
 
     CServerThreads(const CServerThreads&) = delete;
     CServerThreads& operator=(const CServerThreads&) = delete;
 
-    void Start(unsigned count);
+    void Start();
     /// After it returned, no handler runs and none will.
     void Stop();
 

@@ -62,8 +62,9 @@ class CVoiceChannels::CUpload : public IUpload
 {
 public:
     CUpload(std::shared_ptr<Busy> busy, unsigned channel, const VoiceFormat& format,
-            std::unique_ptr<CWavFile> file)
-        : m_busy(std::move(busy)), m_channel(channel), m_format(format), m_file(std::move(file))
+            std::unique_ptr<CWavFile> file, std::function<void()> onVoice)
+        : m_busy(std::move(busy)), m_channel(channel), m_format(format), m_file(std::move(file)),
+          m_onVoice(std::move(onVoice))
     {}
 
     ~CUpload() override
@@ -74,6 +75,7 @@ public:
 
     bool Write(std::string_view octets) override
     {
+        m_onVoice();
         if (!m_file || octets.empty())
             return true;
         return m_format.decode ? m_file->Write(m_format.decode(octets)) : m_file->Write(octets);
@@ -86,14 +88,17 @@ private:
     const unsigned m_channel;
     const VoiceFormat m_format;
     const std::unique_ptr<CWavFile> m_file;
+    const std::function<void()> m_onVoice;
 };
 
 CVoiceChannels::CVoiceChannels(const DevicePlan& plan, const std::string& folder)
     : m_plan(plan), m_folder(folder.empty() ? folder : folder + "../")
 {}
 
-std::variant<HttpAnswer, std::unique_ptr<IUpload>>
-CVoiceChannels::Begin(unsigned channel, std::optional<unsigned> encoding, std::optional<unsigned> rate)
+std::variant<HttpAnswer, std::unique_ptr<IUpload>> CVoiceChannels::Begin(unsigned channel,
+                                                                         std::optional<unsigned> encoding,
+                                                                         std::optional<unsigned> rate,
+                                                                         std::function<void()> onVoice)
 {
     if (channel == 0 || channel > m_plan.voiceChannels)
         return AnswerOf(kUnknownChannel);
@@ -112,7 +117,7 @@ CVoiceChannels::Begin(unsigned channel, std::optional<unsigned> encoding, std::o
                                     std::to_string(channel) + ".wav",
                                 WavOf(format, *rate));
     const bool failed = !m_folder.empty() && !file;
-    auto upload = std::make_unique<CUpload>(m_busy, channel, format, std::move(file));
+    auto upload = std::make_unique<CUpload>(m_busy, channel, format, std::move(file), std::move(onVoice));
     if (failed)
         return AnswerOf(kCannotKeep);
     return upload;

@@ -3,6 +3,7 @@
 #include "simulator/device/DevicePlan.h"
 #include "simulator/device/Refused.h"
 
+#include <functional>
 #include <mutex>
 #include <set>
 
@@ -16,9 +17,11 @@ public:
     /// folder: that of the device, ending in "/"; the files stand in the one above. Empty: they are not kept.
     CVoiceChannels(const DevicePlan& plan, const std::string& folder);
 
-    /// Takes the channel until the upload is gone.
-    std::variant<HttpAnswer, std::unique_ptr<IUpload>>
-    Begin(unsigned channel, std::optional<unsigned> encoding, std::optional<unsigned> rate);
+    /// Takes the channel until the upload is gone; onVoice is called whenever something was said.
+    std::variant<HttpAnswer, std::unique_ptr<IUpload>> Begin(unsigned channel,
+                                                             std::optional<unsigned> encoding,
+                                                             std::optional<unsigned> rate,
+                                                             std::function<void()> onVoice);
 
 private:
     /// Shared with uploads, which may outlive the object.

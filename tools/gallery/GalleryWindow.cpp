@@ -1,5 +1,7 @@
 #include "gallery/GalleryWindow.h"
 
+#include "gallery/TreePage.h"
+
 #include "VantorGUIToolkit/Gallery/GalleryPage.h"
 #include "VantorGUIToolkit/SkinLoader.h"
 #include "VantorGUIToolkit/Toolkit.h"
@@ -17,7 +19,8 @@ namespace gallery {
 
 using namespace VantorGUIToolkit;
 
-GalleryWindow::GalleryWindow(const Options& options) : m_skin(options.skin), m_language(options.language)
+GalleryWindow::GalleryWindow(const Options& options)
+    : m_skin(options.skin), m_language(options.language), m_tree(options.tree), m_search(options.search)
 {
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
@@ -36,7 +39,11 @@ void GalleryWindow::Rebuild()
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(MakeBar());
-    auto* page = new CGalleryPage(m_content);
+    QWidget* page = nullptr;
+    if (m_tree)
+        page = new TreePage(m_search, m_content);
+    else
+        page = new CGalleryPage(m_content);
     column->addWidget(page, 1);
     setWindowTitle(page->windowTitle());
     layout()->addWidget(m_content);
@@ -55,9 +62,14 @@ QWidget* GalleryWindow::MakeBar()
     for (const int language : allLanguages())
         languages->addItem(QLocale(languageTag(language)).nativeLanguageName(), language);
     languages->setCurrentIndex(languages->findData(m_language));
+    auto* pages = new QComboBox(bar);
+    pages->setAccessibleName(tr("Page"));
+    pages->addItems({tr("Widgets"), tr("Resource tree")});
+    pages->setCurrentIndex(m_tree ? 1 : 0);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(Grid::Wide, Grid::Small, Grid::Wide, Grid::Small);
     row->setSpacing(Grid::Medium);
+    row->addWidget(pages);
     row->addWidget(skins);
     row->addWidget(languages);
     row->addStretch(1);
@@ -68,6 +80,10 @@ QWidget* GalleryWindow::MakeBar()
     const auto change = [this] { QTimer::singleShot(0, this, &GalleryWindow::Rebuild); };
     connect(skins, QOverload<int>::of(&QComboBox::activated), this, [=] {
         m_skin = skins->currentText();
+        change();
+    });
+    connect(pages, QOverload<int>::of(&QComboBox::activated), this, [=](int page) {
+        m_tree = page == 1;
         change();
     });
     connect(languages, QOverload<int>::of(&QComboBox::activated), this, [=] {

@@ -20,6 +20,8 @@ private:
 
     QString m_skin;
     int m_language;
+    bool m_tree; ///< the resource tree is shown
+    const QString m_search;
     QWidget* m_content = nullptr;
 };
 

@@ -40,6 +40,8 @@ std::optional<Options> ReadOptions(const QStringList& arguments)
         {{"skin", "One of " + SkinNames().join(", ") + ".", "name", SkinNames().first()},
          {"language", "1 English, 2 Chinese, 3 German, 13 Hebrew, 34 Arabic.", "number", "1"},
          {"picture", "Writes a picture (PNG) and ends.", "file"},
+         {"tree", "The resource tree instead of the widgets."},
+         {"search", "What the resource tree is searched for.", "text"},
          {"size", "Size of the picture, such as 1280x900; the whole page unless given.", "WxH"}});
     if (!parser.parse(arguments))
         return Refuse(parser.errorText());
@@ -54,6 +56,8 @@ std::optional<Options> ReadOptions(const QStringList& arguments)
     if (std::find(languages.begin(), languages.end(), options.language) == languages.end())
         return Refuse("no language [" + parser.value("language") + "]");
     options.picture = parser.value("picture");
+    options.tree = parser.isSet("tree");
+    options.search = parser.value("search");
     options.size = ReadSize(parser.value("size"));
     if (parser.isSet("size") && !options.size.isValid())
         return Refuse("no size [" + parser.value("size") + "]");

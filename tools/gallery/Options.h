@@ -14,8 +14,10 @@ struct Options
 {
     QString skin = QStringLiteral("BlackRedSkin");
     int language = VantorGUIToolkit::English;
-    QString picture; ///< a PNG file to write; empty to show the window
-    QSize size;      ///< of the picture; empty for the whole page
+    QString picture;   ///< a PNG file to write; empty to show the window
+    QSize size;        ///< of the picture; empty for the whole page
+    bool tree = false; ///< the resource tree instead of the widgets
+    QString search;    ///< what the tree is searched for
 };
 
 /// Reads the command line. Nothing, with a line on stderr, for one that cannot be taken; ends the program

@@ -1,5 +1,6 @@
 #include "gallery/GalleryWindow.h"
 #include "gallery/Options.h"
+#include "gallery/TreePage.h"
 
 #include "VantorGUIToolkit/Gallery/GalleryPage.h"
 #include "VantorGUIToolkit/SkinLoader.h"
@@ -21,15 +22,29 @@ QSize WholePage(const QWidget& page)
     return {width, height};
 }
 
+std::unique_ptr<QWidget> MakePage(const gallery::Options& options)
+{
+    if (options.tree)
+        return std::make_unique<gallery::TreePage>(options.search);
+    return std::make_unique<VantorGUIToolkit::CGalleryPage>();
+}
+
+QSize SizeOf(const gallery::Options& options, const QWidget& page)
+{
+    if (options.size.isValid())
+        return options.size;
+    return options.tree ? QSize(1280, 900) : WholePage(page);
+}
+
 /// 0 when the picture is written.
 int WritePicture(const gallery::Options& options)
 {
     VantorGUIToolkit::takeLook(VantorGUIToolkit::toolkit(), options.skin, options.language);
-    VantorGUIToolkit::CGalleryPage page;
-    page.resize(options.size.isValid() ? options.size : WholePage(page));
-    page.show();
+    const std::unique_ptr<QWidget> page = MakePage(options);
+    page->resize(SizeOf(options, *page));
+    page->show();
     QApplication::processEvents();
-    if (page.grab().save(options.picture, "PNG"))
+    if (page->grab().save(options.picture, "PNG"))
         return 0;
     qWarning("vantor-gallery: cannot write %s", qPrintable(options.picture));
     return 1;

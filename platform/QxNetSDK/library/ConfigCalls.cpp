@@ -9,19 +9,11 @@ using sdk::Failure;
 
 namespace {
 
-constexpr char kRoot[] = "/vantor/device/v1/";
+using sdk::kRoot;
 
 std::string Text(const void* data, std::size_t size)
 {
     return size == 0 ? std::string() : std::string(static_cast<const char*>(data), size);
-}
-
-Failure CallDevice(std::int32_t login, const sdk::Request& request, sdk::Answer& answer)
-{
-    std::shared_ptr<sdk::CSession> session;
-    if (const Failure failure = sdk::CLibrary::Instance().Find(login, session))
-        return failure;
-    return session->Call(request, answer);
 }
 
 bool IsConfigCall(std::uint32_t command, std::int32_t channel, const void* structure, std::uint32_t size)
@@ -41,7 +33,7 @@ Failure GetConfig(std::int32_t login, std::uint32_t command, std::int32_t channe
         return {QXNET_ERROR_ARGUMENT};
     const sdk::Request request{"GET", ConfigTarget(command, channel), {}, {200, size, size}, true};
     sdk::Answer answer;
-    if (const Failure failure = CallDevice(login, request, answer))
+    if (const Failure failure = sdk::CallDevice(login, request, answer))
         return failure;
     if (const Failure failure = sdk::CheckStructure(command, answer.body.data(), size))
         return failure;
@@ -57,7 +49,7 @@ Failure SetConfig(std::int32_t login, std::uint32_t command, std::int32_t channe
     const sdk::Request request{
         "PUT", ConfigTarget(command, channel), Text(structure, size), {204, 0, 0}, false};
     sdk::Answer answer;
-    return CallDevice(login, request, answer);
+    return sdk::CallDevice(login, request, answer);
 }
 
 /// A batch: its items and the sizes of one condition and one structure.
@@ -121,7 +113,7 @@ Failure GetBatch(std::int32_t login, const Batch& batch, const void* condition, 
                                {200, statusBytes + size, statusBytes + size},
                                true};
     sdk::Answer answer;
-    if (const Failure failure = CallDevice(login, request, answer))
+    if (const Failure failure = sdk::CallDevice(login, request, answer))
         return failure;
     const std::vector<std::uint32_t> words = StatusWords(answer.body, batch.count);
     if (const Failure failure = CheckItems(batch, words, answer.body.data() + statusBytes))
@@ -142,7 +134,7 @@ Failure SetBatch(std::int32_t login, const Batch& batch, const void* condition, 
                                {200, statusBytes, statusBytes},
                                false};
     sdk::Answer answer;
-    if (const Failure failure = CallDevice(login, request, answer))
+    if (const Failure failure = sdk::CallDevice(login, request, answer))
         return failure;
     std::memcpy(status, StatusWords(answer.body, batch.count).data(), statusBytes);
     return {};

@@ -61,6 +61,13 @@ std::string CPlayedConnection::Request()
     }
 }
 
+void CPlayedConnection::BeginRequest()
+{
+    char part[1024];
+    boost::system::error_code ignored;
+    (void)m_socket.read_some(boost::asio::buffer(part), ignored);
+}
+
 bool CPlayedConnection::Send(const std::string& bytes)
 {
     boost::system::error_code error;
@@ -78,6 +85,12 @@ void CPlayedConnection::WaitForEnd()
 {
     while (!Request().empty())
         continue;
+}
+
+void CPlayedConnection::Linger()
+{
+    while (!m_isStopped)
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
 }
 
 void CPlayedConnection::Stop()

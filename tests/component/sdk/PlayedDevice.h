@@ -19,12 +19,16 @@ public:
 
     /// The next request, head and body; empty when the client has closed the connection.
     std::string Request();
+    /// Waits for the next request to begin, and reads only what there is of it.
+    void BeginRequest();
     /// False when the client is gone.
     bool Send(const std::string& bytes);
     /// Sends the bytes one at a time with pauses, until the client is gone or Stop.
     void Drip(const std::string& bytes, int pauseMs);
     /// Waits until the client closes the connection.
     void WaitForEnd();
+    /// Reads nothing any more and keeps the connection open until the end of the test.
+    void Linger();
     void Stop();
 
 private:

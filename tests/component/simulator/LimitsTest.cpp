@@ -130,6 +130,9 @@ TEST(DeviceSimLimits, RefusesWhatIsNotItsOwn)
         {"POST", "batch/get/3352?count=1&condition=76&size=4", 76, 400, "502"},
         {"POST", "std/get/6118", 3, 400, "502"},
         {"GET", "nothing/1", 0, 404, "500"},
+        {"GET", "ability/9?channel=1", 0, 404, "500"},
+        {"GET", "ability/1?channel=5", 0, 404, "501"},
+        {"GET", "ability/1?channel=1", 0, 200, ""},
     };
     DeviceSim sim({"--devices", "1", "--channels", "4"});
     PlainClient client(sim.Port());

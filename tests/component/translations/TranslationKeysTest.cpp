@@ -75,8 +75,10 @@ QStringList Markers(const QString& text)
 bool FormFits(const TsText& text, const QString& form)
 {
     QStringList wanted = Markers(text.source);
-    if (text.forms.size() > 1 && !form.contains("%n"))
-        wanted.removeAll("%n");
+    static const QRegularExpression number("^%L?n$");
+    if (text.forms.size() > 1 && Markers(form).filter(number).isEmpty())
+        for (const QString& left : wanted.filter(number))
+            wanted.removeAll(left);
     return !form.trimmed().isEmpty() && Markers(form) == wanted;
 }
 

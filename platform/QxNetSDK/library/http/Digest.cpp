@@ -112,7 +112,9 @@ std::string Response(const DigestChallenge& challenge, const DigestLogin& login)
 bool ReadChallenge(std::string_view text, DigestChallenge& challenge)
 {
     constexpr std::size_t kScheme = sizeof "Digest";
-    if (text.size() < kScheme)
+    // Its parts become header lines of ours.
+    const auto isControl = [](unsigned char c) { return (c < 0x20 && c != '\t') || c == 0x7F; };
+    if (text.size() < kScheme || std::any_of(text.begin(), text.end(), isControl))
         return false;
     text.remove_prefix(kScheme);
     SkipBlanks(text);

@@ -15,6 +15,7 @@ constexpr std::uint32_t kMostBatchItems = 256;
 constexpr std::uint32_t kMostStandardBytes = 1024 * 1024;
 constexpr std::uint32_t kMostAbilityBytes = 1024 * 1024;
 
+constexpr char kRoot[] = "/vantor/device/v1/";
 constexpr char kSessionTarget[] = "/vantor/device/v1/session";
 
 } // namespace sdk

@@ -13,7 +13,9 @@ CConnectionPool::CConnectionPool(DeviceEndpoint device, std::chrono::millisecond
                                  CTrustStore& trust)
     : m_device(std::move(device)), m_name(HostText(m_device.address, m_device.port)),
       m_connectTimeout(connectTimeout), m_trust(trust)
-{}
+{
+    m_idle.reserve(kMostIdle); // so that giving a connection back cannot fail
+}
 
 CConnectionPool::CLease::~CLease()
 {

@@ -156,4 +156,12 @@ Failure CLibrary::Find(std::int32_t handle, std::shared_ptr<CSession>& session)
     return {};
 }
 
+Failure CallDevice(std::int32_t login, const Request& request, Answer& answer)
+{
+    std::shared_ptr<CSession> session;
+    if (const Failure failure = CLibrary::Instance().Find(login, session))
+        return failure;
+    return session->Call(request, answer);
+}
+
 } // namespace sdk

@@ -39,4 +39,7 @@ private:
     std::map<std::int32_t, SessionPointer> m_sessions;
 };
 
+/// One call of a session that is known by its handle; see CSession::Call.
+Failure CallDevice(std::int32_t login, const Request& request, Answer& answer);
+
 } // namespace sdk

@@ -131,10 +131,14 @@ void CSession::LogOut(Deadline deadline)
     }
     if (ticket.session.empty())
         return;
-    Request request{"DELETE", kSessionTarget, {}, {204, 0, 0}, true};
-    Answer ignored;
-    CInterrupt never;
-    (void)Send(request, {m_host, ticket.session, {}}, deadline, never, ignored);
+    try {
+        const Request request{"DELETE", kSessionTarget, {}, {204, 0, 0}, true};
+        Answer ignored;
+        CInterrupt never;
+        (void)Send(request, {m_host, ticket.session, {}}, deadline, never, ignored);
+    } catch (const std::exception&) {
+        // The device ends the session by itself.
+    }
 }
 
 Deadline CSession::CallDeadline() const
