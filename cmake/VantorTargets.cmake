@@ -71,6 +71,9 @@ function(vantor_shared_library target)
         set(exports "${CMAKE_CURRENT_SOURCE_DIR}/${SHARED_EXPORTS}")
         target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
         set_target_properties(${target} PROPERTIES LINK_DEPENDS "${exports}")
+        # A linker that leaves out what is not needed would do so before it comes to the archives that need it.
+        target_link_options(${target} INTERFACE
+            "LINKER:--push-state,--no-as-needed,$<TARGET_LINKER_FILE:${target}>,--pop-state")
     endif()
 endfunction()
 

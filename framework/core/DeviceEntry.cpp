@@ -10,10 +10,9 @@ namespace framework {
 namespace {
 
 constexpr std::size_t kNameLimit = 64;
-constexpr std::size_t kAddressLimit = 253; // of a host name, RFC 1035
-constexpr std::size_t kCredentialLimit = 128;
+constexpr std::size_t kAddressLimit = 253;    // of a host name, RFC 1035
+constexpr std::size_t kCredentialLimit = 127; // of the device SDK
 constexpr int kLastPort = 65535;
-constexpr int kMostChannels = 64;
 
 /// The letters of host names and of IPv4 and IPv6 addresses.
 bool IsAddress(const std::string& text)
@@ -26,29 +25,20 @@ bool IsAddress(const std::string& text)
     return !text.empty() && text.size() <= kAddressLimit && std::all_of(text.begin(), text.end(), fits);
 }
 
-bool IsDeviceType(int typeCode)
-{
-    return typeCode == Encoder || typeCode == Recorder || typeCode == StorageServer;
-}
-
 } // namespace
 
 std::string ProblemOf(const DeviceEntry& entry)
 {
     if (!IsName(entry.name, kNameLimit))
         return "The name must have 1 to 64 characters.";
-    if (!IsDeviceType(entry.typeCode))
-        return "The type must be encoder, recorder or storage server.";
     if (!IsAddress(entry.address))
         return "The address must be a host name or an IP address.";
     if (entry.port < 1 || entry.port > kLastPort)
         return "The port must be between 1 and 65535.";
     if (entry.userName.size() > kCredentialLimit)
-        return "The user name must have at most 128 bytes.";
+        return "The user name must have at most 127 bytes.";
     if (entry.password.size() > kCredentialLimit)
-        return "The password must have at most 128 bytes.";
-    if (entry.channels < 0 || entry.channels > kMostChannels)
-        return "The number of channels must be between 0 and 64.";
+        return "The password must have at most 127 bytes.";
     return {};
 }
 

@@ -1,7 +1,9 @@
 #include "framework/core/Routes.h"
 
+#include "LPC_Forward/Answer.h"
 #include "Protocol/JSONStruct/HTTP/Routes.h"
 #include "Protocol/JSONStruct/HTTP/ToolJSONStruct.h"
+#include "framework/core/DeviceActions.h"
 
 #include <algorithm>
 
@@ -75,7 +77,18 @@ lpc::Message AllOutputs(const CResources& resources)
     return Found(list);
 }
 
-lpc::Message SwitchOutput(CResources& resources, const RouteRequest& request, bool active)
+/// The device was asked, and did not do it.
+lpc::Message NotDone(const protocol::ResultCode& result)
+{
+    constexpr int kBadGateway = 502;
+    protocol::CommonResponseData response;
+    response.result = result;
+    response.message = "The device did not do it.";
+    return lpcforward::MakeAnswer(kBadGateway, 0, protocol::WriteJSONStr(response));
+}
+
+lpc::Message SwitchOutput(CResources& resources, const RouteServices& services, const RouteRequest& request,
+                          bool active)
 {
     const std::string& device = request.ids[0];
     const std::string& output = request.ids[1];
@@ -83,10 +96,16 @@ lpc::Message SwitchOutput(CResources& resources, const RouteRequest& request, bo
     if (!resources.Find(device, isOnline))
         return NoDevice(device);
     const auto outputs = resources.AlarmOutputs(device);
-    if (std::none_of(outputs.begin(), outputs.end(), [&](const auto& has) { return has.guid == output; }))
+    const auto found = std::find_if(outputs.begin(), outputs.end(),
+                                    [&](const auto& candidate) { return candidate.guid == output; });
+    if (found == outputs.end())
         return Failed(404, "There is no alarm output \"" + output + "\".");
-    if (!isOnline)
-        return Failed(503, "The device is offline.");
+    const std::int32_t session = services.session(device);
+    if (session < 0)
+        return Failed(kOfflineDevice, "The device is offline.");
+    const protocol::ResultCode result = SwitchDeviceOutput(session, found->number, active);
+    if (result.errorCode != 0)
+        return NotDone(result);
     return resources.SwitchOutput(device, output, active) ? Done()
                                                           : Failed(500, "The state cannot be saved.");
 }
@@ -106,14 +125,21 @@ lpc::Message ModifyGroups(CResources& resources, const protocol::ModifyGroupCond
     return isSaved ? Found(list) : Failed(500, "The groups cannot be saved.");
 }
 
-protocol::ResultCode ResultFor(const CResources& resources, const std::string& deviceGuid)
+/// What work at the session of a device gives; why there is no session.
+template<typename Work>
+protocol::ResultCode ResultFor(const CResources& resources, const RouteServices& services,
+                               const std::string& deviceGuid, Work work)
 {
     bool isOnline = false;
     protocol::ResultCode result;
-    if (!resources.Find(deviceGuid, isOnline))
+    if (!resources.Find(deviceGuid, isOnline)) {
         result.errorCode = kUnknownDevice;
-    else if (!isOnline)
-        result.errorCode = kOfflineDevice;
+        return result;
+    }
+    const std::int32_t session = services.session(deviceGuid);
+    if (session >= 0)
+        return work(session);
+    result.errorCode = kOfflineDevice;
     return result;
 }
 
@@ -122,7 +148,7 @@ lpc::Message SynchroniseTime(const CResources& resources, const RouteServices& s
 {
     protocol::TimeSyncResultListData list;
     for (const std::string& guid : devices.deviceGuids)
-        list.results.push_back({guid, ResultFor(resources, guid)});
+        list.results.push_back({guid, ResultFor(resources, services, guid, SetDeviceClock)});
     services.logOperation("The clocks of " + std::to_string(list.results.size()) +
                           " devices were to be set.");
     return Found(list);
@@ -136,8 +162,12 @@ lpc::Message MoveWipers(const CResources& resources, const RouteServices& servic
     for (const std::string& guid : control.channelGuids) {
         const auto channel = std::find_if(channels.begin(), channels.end(),
                                           [&](const auto& candidate) { return candidate.guid == guid; });
+        const bool isKnown = channel != channels.end();
+        const auto move = [&](std::int32_t session) {
+            return MoveWiper(session, channel->channelNo, control.action);
+        };
         list.results.push_back(
-            {guid, ResultFor(resources, channel == channels.end() ? std::string() : channel->deviceGuid)});
+            {guid, ResultFor(resources, services, isKnown ? channel->deviceGuid : std::string(), move)});
     }
     services.logOperation("The wipers of " + std::to_string(list.results.size()) +
                           " cameras were to be moved.");
@@ -169,11 +199,12 @@ void AddDeviceRoutes(CRouteTable& routes, CResources& resources, const RouteServ
                PartsOfDevice(resources, &AlarmInputInfoData::inputs, &CResources::AlarmInputs));
     routes.Add("GET", OfDevice(route::kAlarmOutputs),
                PartsOfDevice(resources, &AlarmOutputInfoData::outputs, &CResources::AlarmOutputs));
-    routes.Add("PUT", OfDevice(route::kAlarmOutputs) + "/*" + route::kControls,
-               WithBody<AlarmOutputControlData>(
-                   [&resources](const RouteRequest& request, const AlarmOutputControlData& control) {
-                       return SwitchOutput(resources, request, control.active);
-                   }));
+    routes.Add(
+        "PUT", OfDevice(route::kAlarmOutputs) + "/*" + route::kControls,
+        WithBody<AlarmOutputControlData>(
+            [&resources, services](const RouteRequest& request, const AlarmOutputControlData& control) {
+                return SwitchOutput(resources, services, request, control.active);
+            }));
     routes.Add("GET", route::kGroups, [&resources](const RouteRequest&) { return AllGroups(resources); });
     routes.Add("PUT", route::kGroups,
                WithBody<ModifyGroupCondition>(

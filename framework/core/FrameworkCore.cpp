@@ -137,6 +137,11 @@ CResources& CFrameworkCore::Resources()
     return *m_parts->resources;
 }
 
+CDeviceLinks& CFrameworkCore::Devices()
+{
+    return *m_parts->devices;
+}
+
 CUsers& CFrameworkCore::Users()
 {
     return *m_parts->users;

@@ -2,6 +2,7 @@
 
 #include "Protocol/JSONStruct/HTTP/LocalFileJSONStruct.h"
 #include "framework/core/ComponentAnswer.h"
+#include "framework/core/DeviceLinks.h"
 #include "framework/core/FrameworkEvents.h"
 #include "framework/core/FrameworkSettings.h"
 #include "framework/core/Resources.h"
@@ -26,6 +27,8 @@ struct FrameworkOptions
     std::string componentOutput;  ///< file for what the component prints; empty: as this process
     std::chrono::milliseconds endLimit{5000};     ///< for the component to end before it is killed
     std::chrono::milliseconds answerLimit{10000}; ///< for the component's routes to answer
+    bool connectDevices = true;                   ///< false: nothing is heard of them
+    devices::SessionLimits deviceLimits{};
 };
 
 /// A window of the component, ready to be embedded.
@@ -95,6 +98,7 @@ public:
 
     // What is kept on disk; to be used from a successful Start on.
     CResources& Resources();
+    CDeviceLinks& Devices(); ///< the sessions with what the resources list
     CUsers& Users();
     CFrameworkSettings& Settings();
     CJournal& Operations(); ///< the operation log

@@ -1,5 +1,6 @@
 #include "framework/core/FrameworkParts.h"
 
+#include "Base/AsyncTask.h"
 #include "Base/FileUtil.h"
 #include "Base/StringUtil.h"
 #include "LPC_Wire/WellKnownNames.h"
@@ -135,6 +136,8 @@ bool FrameworkParts::Start(std::string& error)
         return false;
     }
     link.Open();
+    if (options.connectDevices)
+        devices->Start();
     return true;
 }
 
@@ -161,6 +164,8 @@ bool FrameworkParts::Load(std::string& error)
     lastUser = users->Current().name;
     resources = std::make_unique<CResources>(folder + "resources.json", encryption->Params(),
                                              [this](const ResourceChange& change) { OnResource(change); });
+    devices = std::make_unique<CDeviceLinks>(
+        *resources, folder + "certificates", [this] { TellResources(); }, options.deviceLimits);
     for (const std::string& problem :
          {settings->LoadProblem(), users->LoadProblem(), resources->LoadProblem()})
         if (!problem.empty())
@@ -180,6 +185,7 @@ void FrameworkParts::AddRoutes(const Base::Encrypt::AESParams& seal)
     services.logOperation = [this](const std::string& text) {
         operations->Add(users->Current().name, "device", text);
     };
+    services.session = [this](const std::string& guid) { return devices->Session(guid); };
     AddFrameworkRoutes(link.Routes(), *settings, services);
     AddDeviceRoutes(link.Routes(), *resources, services);
 }
@@ -188,10 +194,15 @@ void FrameworkParts::Stop()
 {
     if (isStopped.exchange(true))
         return;
+    const auto devicesEnd = Base::RunAsync("stop-devices", [this] {
+        if (devices)
+            devices->Stop();
+    });
     std::promise<void> ended;
     loop.Post([&] { supervisor.Finish([&] { ended.set_value(); }); });
     ended.get_future().wait();
     link.Stop();
+    devicesEnd.wait();
     loop.Stop();
     eventLoop.Stop();
     answerLoop.Stop();
@@ -250,7 +261,15 @@ void FrameworkParts::OnResource(const ResourceChange& change)
 {
     link.Publish(change.type, change.guid, change.data);
     if (!change.text.empty())
-        operations->Add(users->Current().name, "device", change.text);
+        operations->Add(change.isOfUser ? users->Current().name : std::string(), "device", change.text);
+    const bool isDevice = change.type.rfind("device", 0) == 0;
+    if (isDevice && change.isOfUser)
+        devices->Follow(change.guid);
+    TellResources();
+}
+
+void FrameworkParts::TellResources()
+{
     if (resourceEventWaits.exchange(true))
         return;
     eventLoop.PostTask([this] {

@@ -5,6 +5,7 @@
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "framework/core/ComponentLink.h"
 #include "framework/core/ComponentProcess.h"
+#include "framework/core/DeviceLinks.h"
 #include "framework/core/FrameworkCore.h"
 #include "framework/core/NewestOnly.h"
 #include "framework/core/Supervisor.h"
@@ -20,8 +21,8 @@ namespace framework {
 /// What the core is made of, and what goes on between the parts.
 ///
 /// Threads: the server's (never waits), the worker of the routes, "component" (supervision, timers), "events"
-/// (calls of IFrameworkEvents and of window answers), "answers" (of the component's routes), and the
-/// callers'.
+/// (calls of IFrameworkEvents and of window answers), "answers" (of the component's routes), those of
+/// CDeviceLinks, and the callers'.
 struct FrameworkParts : Base::CNoncopyable
 {
     FrameworkParts(IFrameworkEvents& events, FrameworkOptions options);
@@ -58,6 +59,7 @@ struct FrameworkParts : Base::CNoncopyable
     std::unique_ptr<CFrameworkSettings> settings;
     std::unique_ptr<CUsers> users;
     std::unique_ptr<CResources> resources;
+    std::unique_ptr<CDeviceLinks> devices;
     CTimedLoop loop{"component"};
     CComponentLink link;
     CComponentProcess process;
@@ -79,6 +81,7 @@ private:
     void OnReady();
     void OnState(ComponentState newState, const std::string& detail);
     void OnResource(const ResourceChange& change);
+    void TellResources();
     void OnUsers();
     void TellUser();
 };

@@ -3,6 +3,7 @@
 #include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
 #include "Protocol/JSONStruct/HTTP/DeviceJSONStruct.h"
 #include "framework/core/Resources.h"
+#include "framework/core/Stored.h"
 
 #include <string>
 #include <vector>
@@ -52,12 +53,26 @@ ResourceChange ChangeOf(const char* what, const protocol::AlarmInputInfo& input)
 ResourceChange ChangeOf(const char* what, const protocol::AlarmOutputInfo& output, std::string text = {});
 ResourceChange ChangeOf(const char* what, const StoredGroup& group);
 
-/// Gives the device that many channels in a group of its name, and two inputs and outputs when it has any
-/// channel.
-void FitParts(ResourceFile& file, const protocol::DeviceResponseData& device, int channels,
-              ResourceChanges& changes);
+/// What a device has.
+struct DeviceParts
+{
+    std::vector<devices::ChannelState> channels;
+    int inputs = 0;
+    int outputs = 0;
+};
 
-/// The number of the device's channels.
-int ChannelCount(const ResourceFile& file, const std::string& deviceGuid);
+/// Gives the device these channels in a group of its name, and so many inputs and outputs. Channels keep
+/// their identifier by their number.
+Changed FitParts(ResourceFile& file, const protocol::DeviceResponseData& device, const DeviceParts& parts,
+                 ResourceChanges& changes);
+
+/// Gives the group of the device's channels its name.
+void NameGroup(ResourceFile& file, const protocol::DeviceResponseData& device, ResourceChanges& changes);
+
+/// Takes over what is heard of a device of the file.
+Changed TakeStatus(ResourceFile& file, protocol::DeviceResponseData& device,
+                   const devices::DeviceStatus& status, ResourceChanges& changes);
+
+Changed SetAllOffline(ResourceFile& file);
 
 } // namespace framework

@@ -87,17 +87,19 @@ struct CResources::State
     void Take(const DeviceEntry& entry, DeviceResponseData& device) const
     {
         device.name = entry.name;
-        device.typeCode = entry.typeCode;
         device.address = entry.address;
         device.port = static_cast<std::uint16_t>(entry.port);
         device.userName = Sealed(entry.userName);
         device.password = Sealed(entry.password);
+        device.useTls = entry.useTls;
     }
 };
 
 CResources::CResources(std::string path, const Base::Encrypt::AESParams& seal, OnChange onChange)
     : m_state(new State{seal, std::move(onChange), {std::move(path), [] { return ResourceFile(); }, {}}})
-{}
+{
+    (void)m_state->stored.Change([](ResourceFile& file) { return SetAllOffline(file); });
+}
 
 CResources::~CResources() = default;
 
@@ -154,7 +156,6 @@ std::string CResources::Add(const DeviceEntry& entry, std::string& error)
         return {};
     DeviceResponseData device;
     device.guid = Base::GuidUtil::CreateGuid();
-    device.online = true;
     m_state->Take(entry, device);
     const auto add = [&](ResourceFile& file, ResourceChanges& changes) {
         if (file.devices.size() >= kMostDevices)
@@ -165,7 +166,6 @@ std::string CResources::Add(const DeviceEntry& entry, std::string& error)
             return false;
         file.devices.push_back(device);
         changes.push_back(ChangeOf("Add", device, "Device " + Quoted(device.name) + " was added."));
-        FitParts(file, device, entry.channels, changes);
         return true;
     };
     return m_state->Change(error, add) ? device.guid : std::string();
@@ -186,7 +186,7 @@ bool CResources::Edit(const std::string& guid, const DeviceEntry& entry, std::st
             return false;
         m_state->Take(entry, *device);
         changes.push_back(ChangeOf("Change", *device, "Device " + Quoted(device->name) + " was changed."));
-        FitParts(file, *device, entry.channels, changes);
+        NameGroup(file, *device, changes);
         return true;
     };
     return m_state->Change(error, edit);
@@ -199,7 +199,7 @@ bool CResources::Remove(const std::string& guid)
         if (!found)
             return false;
         const DeviceResponseData device = *found;
-        FitParts(file, device, 0, changes);
+        FitParts(file, device, {}, changes);
         changes.push_back(ChangeOf("Remove", device, "Device " + Quoted(device.name) + " was removed."));
         file.devices.erase(file.devices.begin() + (found - file.devices.data()));
         return true;
@@ -213,31 +213,20 @@ bool CResources::EntryOf(const std::string& guid, DeviceEntry& entry) const
         if (!device)
             return false;
         entry = {device->name,
-                 device->typeCode,
                  device->address,
                  device->port,
                  m_state->Opened(device->userName),
                  m_state->Opened(device->password),
-                 ChannelCount(file, guid)};
+                 device->useTls};
         return true;
     });
 }
 
-void CResources::SetOnline(const std::string& guid, bool online)
+void CResources::Hear(const devices::DeviceStatus& status)
 {
     (void)m_state->Change([&](ResourceFile& file, ResourceChanges& changes) {
-        DeviceResponseData* device = FindDevice(file, guid);
-        if (!device || device->online == online)
-            return false;
-        device->online = online;
-        changes.push_back(ChangeOf("Change", *device));
-        for (protocol::DeviceChannelInfo& channel : file.channels) {
-            if (channel.deviceGuid != guid)
-                continue;
-            channel.online = online;
-            changes.push_back(ChangeOf("Change", channel));
-        }
-        return true;
+        DeviceResponseData* device = FindDevice(file, status.id);
+        return device ? TakeStatus(file, *device, status, changes) : Changed::Nothing;
     });
 }
 

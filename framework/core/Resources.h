@@ -2,6 +2,7 @@
 
 #include "Base/Encrypt.h"
 #include "Base/Noncopyable.h"
+#include "DeviceSessions/DeviceSessions.h"
 #include "Protocol/JSONStruct/HTTP/AlarmJSONStruct.h"
 #include "Protocol/JSONStruct/HTTP/DeviceJSONStruct.h"
 
@@ -12,19 +13,18 @@
 
 namespace framework {
 
-/// The kinds of device, as "typeCode" has them.
-enum DeviceType : int { Encoder = 1, Recorder = 2, StorageServer = 128 };
+/// The kinds of device, as "typeCode" has them. A device may also say another maker's number.
+enum DeviceType : int { UnknownDevice = 0, Encoder = 1, Recorder = 2, StorageServer = 128 };
 
-/// A device as the user enters it.
+/// A device as the user enters it. What else it is, the device itself tells.
 struct DeviceEntry
 {
-    std::string name; ///< 1 to 64 characters
-    int typeCode = Encoder;
+    std::string name;    ///< 1 to 64 characters
     std::string address; ///< host name or IP address
     int port = 8000;     ///< 1 to 65535
     std::string userName;
     std::string password;
-    int channels = 4; ///< 0 to 64; inputs and outputs: 2 each where there are channels
+    bool useTls = false;
 };
 
 /// One change, as components are told it.
@@ -32,12 +32,13 @@ struct ResourceChange
 {
     std::string type; ///< of the notification, for example "deviceAdd"
     std::string guid;
-    std::string data; ///< the thing as JSON, without credentials; empty when it is gone
-    std::string text; ///< for the operation log; empty for what merely follows from another change
+    std::string data;     ///< the thing as JSON, without credentials; empty when it is gone
+    std::string text;     ///< for the operation log; empty for what merely follows from another change
+    bool isOfUser = true; ///< somebody asked for it; false: the device told
 };
 
 /// Devices with their channels, alarm inputs and outputs, and the groups of channels. Kept on disk, passwords
-/// sealed. Any thread.
+/// sealed, but for who is online, which nobody is at first. Any thread.
 class CResources : Base::CNoncopyable
 {
 public:
@@ -64,16 +65,18 @@ public:
     /// Whether the device is known, and whether it is online.
     [[nodiscard]] bool Find(const std::string& deviceGuid, bool& online) const;
 
-    /// The new device's guid, or "" with the reason in error (an English sentence naming the field). Its
-    /// channels, a group of its name, inputs and outputs are made with it.
+    /// The new device's guid, or "" with the reason in error (an English sentence naming the field). It is
+    /// offline and has no channels until it is heard of.
     [[nodiscard]] std::string Add(const DeviceEntry& entry, std::string& error);
-    /// Changes what was entered; the number of channels may grow or shrink.
+    /// Changes what was entered.
     [[nodiscard]] bool Edit(const std::string& guid, const DeviceEntry& entry, std::string& error);
     [[nodiscard]] bool Remove(const std::string& guid);
     /// The entry of a device, for editing it.
     [[nodiscard]] bool EntryOf(const std::string& guid, DeviceEntry& entry) const;
 
-    void SetOnline(const std::string& guid, bool online);
+    /// Takes what the device tells: whether it is online, its kind, names and states of its channels, its
+    /// inputs and outputs. A group of its name holds the channels. Nothing for a device that is not known.
+    void Hear(const devices::DeviceStatus& status);
     [[nodiscard]] bool SwitchOutput(const std::string& deviceGuid, const std::string& outputGuid,
                                     bool active);
     /// Applies the condition to all groups; the groups that it changed. isSaved, when given, tells whether

@@ -17,6 +17,7 @@ struct RouteServices
     std::function<bool()> isComponentReady;
     std::function<void(const std::string& window, int width, int height)> onFrameResize;
     std::function<void(const std::string& text)> logOperation;
+    std::function<std::int32_t(const std::string& guid)> session; ///< of a device; negative: there is none
 };
 
 /// Components, default folders, date and time formats, sizes of windows.

@@ -29,6 +29,9 @@ std::string SetAside(const std::string& path, const std::string& problem);
 
 } // namespace stored
 
+/// What a piece of work has changed: nothing; what need not outlive the process; what is to be on the disk.
+enum class Changed { Nothing, InMemory, OnDisk };
+
 /// A structure with a list of fields that lives in a JSON file. A file that does not hold the structure is
 /// set aside, never overwritten. What was changed is on the disk before the change is seen; readers never
 /// wait for the disk. Any thread.
@@ -76,13 +79,17 @@ public:
     }
 
     /// Lets work change a copy, saves it and puts it in place; then calls after, before another change
-    /// begins. False, with nothing changed, when work returns false or the file cannot be written.
+    /// begins. work returns a Changed, or a bool: whether there is something for the disk. False, with
+    /// nothing changed, when it returns that nothing is, or the file cannot be written.
     template<typename Work, typename After>
     [[nodiscard]] bool Change(Work work, After after)
     {
         std::lock_guard<std::mutex> changing(m_changing);
         T value = Get();
-        if (!work(value) || !stored::Write(m_path, protocol::json::Kind<T>::Write(value)))
+        const Changed changed = As(work(value));
+        if (changed == Changed::Nothing)
+            return false;
+        if (changed == Changed::OnDisk && !stored::Write(m_path, protocol::json::Kind<T>::Write(value)))
             return false;
         {
             std::lock_guard<std::mutex> lock(m_mutex);
@@ -99,6 +106,9 @@ public:
     }
 
 private:
+    static Changed As(Changed changed) { return changed; }
+    static Changed As(bool isChanged) { return isChanged ? Changed::OnDisk : Changed::Nothing; }
+
     std::string Take(const cJSON* item, const Check& check)
     {
         protocol::json::ReadError error;

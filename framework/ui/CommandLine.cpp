@@ -23,8 +23,10 @@ void AddOptions(QCommandLineParser& parser)
          "Walks through every tab, writes a picture of each to the folder and ends. The exit code is 0 "
          "only if every step worked.",
          "FOLDER"},
-        {"demonstration",
-         "Fills a data root that has no devices with some, and with pictures and clips, once."},
+        {"demonstration", "Fills a data root that has no devices with simulated ones, and with pictures and "
+                          "clips, once; plays these devices."},
+        {"simulator", "The program that plays devices; vantor-device-sim beside this one until given.",
+         "PROGRAM"},
         {"report", "Writes a line of JSON for everything that happens; - is standard output.", "FILE"},
         {QStringList{"h", "help"}, "Shows this text."},
     });
@@ -63,6 +65,7 @@ std::optional<CommandLine> ParseCommandLine(const QStringList& arguments, QStrin
     line.open = parser.values("open");
     line.tourFolder = parser.value("tour");
     line.report = parser.value("report");
+    line.simulator = parser.value("simulator");
     line.demonstration = parser.isSet("demonstration");
     line.help = parser.isSet("help");
     if (error.isEmpty() && parser.isSet("skin") && !IsSkin(line.skin))

@@ -17,6 +17,7 @@ struct CommandLine
     QString tourFolder;          ///< empty: no tour
     QString report;              ///< file, "-" for standard output, empty for none
     bool demonstration = false;  ///< fills a fresh data root
+    QString simulator;           ///< the program that plays its devices
     bool help = false;
 };
 

@@ -23,13 +23,18 @@ namespace {
 /// The core kills a component that does not end within five seconds.
 constexpr int kLongestEndMs = 6000;
 
+/// The program that was given, else the one of that name beside this one.
+std::string ProgramOr(const QString& given, const char* name)
+{
+    const QString beside = QCoreApplication::applicationDirPath() + '/' + name;
+    return (given.isEmpty() ? beside : given).toLocal8Bit().toStdString();
+}
+
 FrameworkOptions OptionsOf(const CommandLine& line, const std::string& folder)
 {
     FrameworkOptions options;
     options.dataFolder = folder;
-    const QString beside = QCoreApplication::applicationDirPath() + "/Vantor.Video.C";
-    options.componentProgram =
-        (line.component.isEmpty() ? beside : line.component).toLocal8Bit().toStdString();
+    options.componentProgram = ProgramOr(line.component, "Vantor.Video.C");
     options.componentOutput = folder + "component.out";
     return options;
 }
@@ -52,6 +57,7 @@ CFrameworkApplication::~CFrameworkApplication()
         m_stopping.wait();
     m_core.Stop();
     m_demonstration.reset();
+    m_simulated.reset();
     m_tour.reset();
     m_window.reset();
     EndDiskLooks();
@@ -183,10 +189,15 @@ void CFrameworkApplication::StartDemonstration()
         QMetaObject::invokeMethod(
             &m_pages, [this] { emit m_pages.LocalFilesChanged(); }, Qt::QueuedConnection);
     });
-    connect(&m_relay, &CEventRelay::ComponentChanged, this, [this](ComponentState state) {
-        if (state == ComponentState::Ready)
-            m_demonstration->Run();
+    connect(&m_relay, &CEventRelay::ComponentChanged, this, [this] { m_demonstration->Run(); });
+    m_simulated = std::make_unique<CSimulatedDevices>(ProgramOr(m_line.simulator, "vantor-device-sim"),
+                                                      m_folder + "simulator/");
+    connect(m_simulated.get(), &CSimulatedDevices::Ready, this, [this](const SimulatorReady& ready) {
+        m_demonstration->TakeDevices(ready);
+        m_demonstration->Run();
     });
+    if (m_demonstration->WantsDevices())
+        m_simulated->Start(m_demonstration->Ports());
 }
 
 void CFrameworkApplication::StartTour()
@@ -197,7 +208,7 @@ void CFrameworkApplication::StartTour()
                               m_core.Settings().Set(choices);
                               ChangeLook(choices);
                           },
-                          m_line.demonstration};
+                          m_line.demonstration, m_simulated.get()};
     m_tour = std::make_unique<CTour>(stage, m_line.tourFolder);
     connect(m_tour.get(), &CTour::Finished, this, [this](bool success) {
         m_exitCode = success ? 0 : 1;

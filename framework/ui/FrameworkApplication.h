@@ -62,6 +62,7 @@ private:
     std::unique_ptr<CMainWindow> m_window;
     std::unique_ptr<CTour> m_tour;
     std::unique_ptr<CDemonstration> m_demonstration;
+    std::unique_ptr<CSimulatedDevices> m_simulated; ///< the devices of the demonstration
     std::future<void> m_stopping;
 };
 

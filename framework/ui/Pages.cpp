@@ -73,10 +73,22 @@ QWidget* CPages::MakeHome(QWidget* parent)
 QWidget* CPages::MakeDevices(QWidget* parent)
 {
     auto* page = new CDevicesPage(
-        m_core.Resources(),
+        m_core.Resources(), m_core.Devices(),
+        [this](const DeviceEntry& entry, CDeviceLinks::OnTried onTried) {
+            TestDevice(entry, std::move(onTried));
+        },
         [this](const std::string& guid, const std::string& text) { m_core.RaiseAlarm(guid, text); }, parent);
     connect(&m_relay, &CEventRelay::ResourcesChanged, page, &CDevicesPage::Reload);
     return page;
+}
+
+// The object outlives the core's threads, so that posting to it is safe.
+void CPages::TestDevice(const DeviceEntry& entry, CDeviceLinks::OnTried onTried)
+{
+    m_core.Devices().Test(entry, [this, onTried = std::move(onTried)](const devices::TriedDevice& tried) {
+        QMetaObject::invokeMethod(
+            this, [onTried, tried] { onTried(tried); }, Qt::QueuedConnection);
+    });
 }
 
 QWidget* CPages::MakeLocalFiles(QWidget* parent)

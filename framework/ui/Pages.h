@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/core/DeviceLinks.h"
 #include "framework/core/FrameworkSettings.h"
 
 #include <QObject>
@@ -40,6 +41,7 @@ private:
     QWidget* MakeOwn(const QString& name, QWidget* parent);
     QWidget* MakeHome(QWidget* parent);
     QWidget* MakeDevices(QWidget* parent);
+    void TestDevice(const DeviceEntry& entry, CDeviceLinks::OnTried onTried);
     QWidget* MakeLocalFiles(QWidget* parent);
     QWidget* MakeNotices(QWidget* parent);
     QWidget* MakeOperations(QWidget* parent);

@@ -47,22 +47,6 @@
 <context>
     <name>DeviceForm</name>
     <message>
-        <source>Encoder</source>
-        <translation>جهاز ترميز</translation>
-    </message>
-    <message>
-        <source>Recorder</source>
-        <translation>جهاز تسجيل</translation>
-    </message>
-    <message>
-        <source>Storage server</source>
-        <translation>خادم تخزين</translation>
-    </message>
-    <message>
-        <source>Enter a name.</source>
-        <translation>أدخل اسمًا.</translation>
-    </message>
-    <message>
         <source>A name has at most 64 characters.</source>
         <translation>الاسم لا يتجاوز 64 حرفًا.</translation>
     </message>
@@ -81,6 +65,45 @@
     <message>
         <source>Enter the user of the device.</source>
         <translation>أدخل مستخدم الجهاز.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceText</name>
+    <message>
+        <source>Device</source>
+        <translation>جهاز</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>جهاز ترميز</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>جهاز تسجيل</translation>
+    </message>
+    <message>
+        <source>Storage server</source>
+        <translation>خادم تخزين</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>قيد التسجيل</translation>
+    </message>
+    <message>
+        <source>Not supported by its device</source>
+        <translation>لا يدعمها جهازها</translation>
     </message>
 </context>
 <context>
@@ -248,14 +271,6 @@
         <translation>عدد الأجهزة كبير جدًّا.</translation>
     </message>
     <message>
-        <source>The user name must have at most 128 bytes.</source>
-        <translation>يجب ألا يتجاوز اسم المستخدم 128 بايت.</translation>
-    </message>
-    <message>
-        <source>The password must have at most 128 bytes.</source>
-        <translation>يجب ألا تتجاوز كلمة المرور 128 بايت.</translation>
-    </message>
-    <message>
         <source>The users cannot be saved.</source>
         <translation>تعذّر حفظ المستخدمين.</translation>
     </message>
@@ -298,6 +313,22 @@
     <message>
         <source>folder of pictures</source>
         <translation>مجلد الصور</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is online.</source>
+        <translation>الجهاز &quot;%1&quot; متصل.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is offline.</source>
+        <translation>الجهاز &quot;%1&quot; غير متصل.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 127 bytes.</source>
+        <translation>يجب ألا يتجاوز اسم المستخدم 127 بايت.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 127 bytes.</source>
+        <translation>يجب ألا تتجاوز كلمة المرور 127 بايت.</translation>
     </message>
 </context>
 <context>
@@ -462,6 +493,61 @@
     </message>
 </context>
 <context>
+    <name>framework::CDeviceDetails</name>
+    <message>
+        <source>Try now</source>
+        <translation>المحاولة الآن</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>المستخدم</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>النوع</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>الطراز</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>الرقم التسلسلي</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>البرنامج الثابت</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>القنوات</translation>
+    </message>
+    <message>
+        <source>Alarm inputs and outputs</source>
+        <translation>مداخل الإنذار ومخارجه</translation>
+    </message>
+    <message>
+        <source>%1, encrypted</source>
+        <translation>%1، مشفّر</translation>
+    </message>
+    <message>
+        <source>%1, online %2</source>
+        <translation>%1، المتصل منها %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 و%2</translation>
+    </message>
+    <message>
+        <source>Channel %1: %2</source>
+        <translation>القناة %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>framework::CDeviceDialog</name>
     <message>
         <source>Add device</source>
@@ -488,10 +574,6 @@
         <translation>الاسم</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>النوع</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>العنوان</translation>
     </message>
@@ -512,12 +594,28 @@
         <translation>كلمة المرور</translation>
     </message>
     <message>
-        <source>Channels</source>
-        <translation>القنوات</translation>
-    </message>
-    <message>
         <source>The device does not exist any more.</source>
         <translation>لم يعد الجهاز موجودًا.</translation>
+    </message>
+    <message>
+        <source>Encrypted connection (TLS)</source>
+        <translation>اتصال مشفّر (TLS)</translation>
+    </message>
+    <message>
+        <source>Empty: the name that the device has</source>
+        <translation>فارغ: الاسم الذي يحمله الجهاز</translation>
+    </message>
+    <message>
+        <source>Connecting to the device…</source>
+        <translation>جارٍ الاتصال بالجهاز…</translation>
+    </message>
+    <message>
+        <source>Add anyway</source>
+        <translation>إضافة على أي حال</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>حفظ على أي حال</translation>
     </message>
 </context>
 <context>
@@ -525,26 +623,6 @@
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>الكاميرات وأجهزة التسجيل وخوادم التخزين التي يعمل معها البرنامج.</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>الاسم</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>النوع</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>العنوان</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>القنوات</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>الحالة</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -557,22 +635,6 @@
     <message>
         <source>Add device</source>
         <translation>إضافة جهاز</translation>
-    </message>
-    <message>
-        <source>No device yet</source>
-        <translation>لا توجد أجهزة بعد</translation>
-    </message>
-    <message>
-        <source>Add the first device to see its channels.</source>
-        <translation>أضف أول جهاز لعرض قنواته.</translation>
-    </message>
-    <message>
-        <source>Online</source>
-        <translation>متصل</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>غير متصل</translation>
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
@@ -595,12 +657,16 @@
         <translation>محاكاة إنذار</translation>
     </message>
     <message>
-        <source>Set online</source>
-        <translation>تعيين كمتصل</translation>
+        <source>No device chosen</source>
+        <translation>لم يُختر أي جهاز</translation>
     </message>
     <message>
-        <source>Set offline</source>
-        <translation>تعيين كغير متصل</translation>
+        <source>Choose one in the list, or add the first one.</source>
+        <translation>اختر جهازًا من القائمة أو أضف أول جهاز.</translation>
+    </message>
+    <message>
+        <source>Try now</source>
+        <translation>المحاولة الآن</translation>
     </message>
 </context>
 <context>

@@ -47,22 +47,6 @@
 <context>
     <name>DeviceForm</name>
     <message>
-        <source>Encoder</source>
-        <translation>Encoder</translation>
-    </message>
-    <message>
-        <source>Recorder</source>
-        <translation>Rekorder</translation>
-    </message>
-    <message>
-        <source>Storage server</source>
-        <translation>Speicherserver</translation>
-    </message>
-    <message>
-        <source>Enter a name.</source>
-        <translation>Geben Sie einen Namen ein.</translation>
-    </message>
-    <message>
         <source>A name has at most 64 characters.</source>
         <translation>Ein Name hat höchstens 64 Zeichen.</translation>
     </message>
@@ -81,6 +65,45 @@
     <message>
         <source>Enter the user of the device.</source>
         <translation>Geben Sie den Benutzer des Geräts ein.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceText</name>
+    <message>
+        <source>Device</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Encoder</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Rekorder</translation>
+    </message>
+    <message>
+        <source>Storage server</source>
+        <translation>Speicherserver</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindet</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Zeichnet auf</translation>
+    </message>
+    <message>
+        <source>Not supported by its device</source>
+        <translation>Vom Gerät nicht unterstützt</translation>
     </message>
 </context>
 <context>
@@ -248,14 +271,6 @@
         <translation>Es gibt zu viele Geräte.</translation>
     </message>
     <message>
-        <source>The user name must have at most 128 bytes.</source>
-        <translation>Der Benutzername darf höchstens 128 Byte lang sein.</translation>
-    </message>
-    <message>
-        <source>The password must have at most 128 bytes.</source>
-        <translation>Das Kennwort darf höchstens 128 Byte lang sein.</translation>
-    </message>
-    <message>
         <source>The users cannot be saved.</source>
         <translation>Die Benutzer lassen sich nicht speichern.</translation>
     </message>
@@ -298,6 +313,22 @@
     <message>
         <source>folder of pictures</source>
         <translation>Ordner für Bilder</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is online.</source>
+        <translation>Das Gerät „%1“ ist online.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is offline.</source>
+        <translation>Das Gerät „%1“ ist offline.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 127 bytes.</source>
+        <translation>Der Benutzername darf höchstens 127 Byte lang sein.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 127 bytes.</source>
+        <translation>Das Kennwort darf höchstens 127 Byte lang sein.</translation>
     </message>
 </context>
 <context>
@@ -462,6 +493,61 @@
     </message>
 </context>
 <context>
+    <name>framework::CDeviceDetails</name>
+    <message>
+        <source>Try now</source>
+        <translation>Jetzt versuchen</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Alarm inputs and outputs</source>
+        <translation>Alarmein- und -ausgänge</translation>
+    </message>
+    <message>
+        <source>%1, encrypted</source>
+        <translation>%1, verschlüsselt</translation>
+    </message>
+    <message>
+        <source>%1, online %2</source>
+        <translation>%1, davon online: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 und %2</translation>
+    </message>
+    <message>
+        <source>Channel %1: %2</source>
+        <translation>Kanal %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>framework::CDeviceDialog</name>
     <message>
         <source>Add device</source>
@@ -488,10 +574,6 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>Adresse</translation>
     </message>
@@ -512,12 +594,28 @@
         <translation>Kennwort</translation>
     </message>
     <message>
-        <source>Channels</source>
-        <translation>Kanäle</translation>
-    </message>
-    <message>
         <source>The device does not exist any more.</source>
         <translation>Das Gerät gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Encrypted connection (TLS)</source>
+        <translation>Verschlüsselte Verbindung (TLS)</translation>
+    </message>
+    <message>
+        <source>Empty: the name that the device has</source>
+        <translation>Leer: der Name, den das Gerät hat</translation>
+    </message>
+    <message>
+        <source>Connecting to the device…</source>
+        <translation>Das Gerät wird angesprochen …</translation>
+    </message>
+    <message>
+        <source>Add anyway</source>
+        <translation>Trotzdem hinzufügen</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>Trotzdem speichern</translation>
     </message>
 </context>
 <context>
@@ -525,26 +623,6 @@
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>Kameras, Rekorder und Speicherserver, mit denen der Client arbeitet.</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Typ</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Adresse</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Kanäle</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>Zustand</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -557,22 +635,6 @@
     <message>
         <source>Add device</source>
         <translation>Gerät hinzufügen</translation>
-    </message>
-    <message>
-        <source>No device yet</source>
-        <translation>Noch kein Gerät</translation>
-    </message>
-    <message>
-        <source>Add the first device to see its channels.</source>
-        <translation>Fügen Sie das erste Gerät hinzu, um seine Kanäle zu sehen.</translation>
-    </message>
-    <message>
-        <source>Online</source>
-        <translation>Online</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Offline</translation>
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
@@ -595,12 +657,16 @@
         <translation>Alarm simulieren</translation>
     </message>
     <message>
-        <source>Set online</source>
-        <translation>Online setzen</translation>
+        <source>No device chosen</source>
+        <translation>Kein Gerät gewählt</translation>
     </message>
     <message>
-        <source>Set offline</source>
-        <translation>Offline setzen</translation>
+        <source>Choose one in the list, or add the first one.</source>
+        <translation>Wählen Sie eines in der Liste, oder fügen Sie das erste hinzu.</translation>
+    </message>
+    <message>
+        <source>Try now</source>
+        <translation>Jetzt versuchen</translation>
     </message>
 </context>
 <context>

@@ -47,22 +47,6 @@
 <context>
     <name>DeviceForm</name>
     <message>
-        <source>Encoder</source>
-        <translation>Encoder</translation>
-    </message>
-    <message>
-        <source>Recorder</source>
-        <translation>Recorder</translation>
-    </message>
-    <message>
-        <source>Storage server</source>
-        <translation>Storage server</translation>
-    </message>
-    <message>
-        <source>Enter a name.</source>
-        <translation>Enter a name.</translation>
-    </message>
-    <message>
         <source>A name has at most 64 characters.</source>
         <translation>A name has at most 64 characters.</translation>
     </message>
@@ -81,6 +65,45 @@
     <message>
         <source>Enter the user of the device.</source>
         <translation>Enter the user of the device.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceText</name>
+    <message>
+        <source>Device</source>
+        <translation>Device</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>Encoder</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>Recorder</translation>
+    </message>
+    <message>
+        <source>Storage server</source>
+        <translation>Storage server</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>Online</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>Offline</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connecting</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Not supported by its device</source>
+        <translation>Not supported by its device</translation>
     </message>
 </context>
 <context>
@@ -248,14 +271,6 @@
         <translation>There are too many devices.</translation>
     </message>
     <message>
-        <source>The user name must have at most 128 bytes.</source>
-        <translation>The user name must have at most 128 bytes.</translation>
-    </message>
-    <message>
-        <source>The password must have at most 128 bytes.</source>
-        <translation>The password must have at most 128 bytes.</translation>
-    </message>
-    <message>
         <source>The users cannot be saved.</source>
         <translation>The users cannot be saved.</translation>
     </message>
@@ -298,6 +313,22 @@
     <message>
         <source>folder of pictures</source>
         <translation>folder of pictures</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is online.</source>
+        <translation>Device &quot;%1&quot; is online.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is offline.</source>
+        <translation>Device &quot;%1&quot; is offline.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 127 bytes.</source>
+        <translation>The user name must have at most 127 bytes.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 127 bytes.</source>
+        <translation>The password must have at most 127 bytes.</translation>
     </message>
 </context>
 <context>
@@ -462,6 +493,61 @@
     </message>
 </context>
 <context>
+    <name>framework::CDeviceDetails</name>
+    <message>
+        <source>Try now</source>
+        <translation>Try now</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>User</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Serial number</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Alarm inputs and outputs</source>
+        <translation>Alarm inputs and outputs</translation>
+    </message>
+    <message>
+        <source>%1, encrypted</source>
+        <translation>%1, encrypted</translation>
+    </message>
+    <message>
+        <source>%1, online %2</source>
+        <translation>%1, online %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 and %2</translation>
+    </message>
+    <message>
+        <source>Channel %1: %2</source>
+        <translation>Channel %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>framework::CDeviceDialog</name>
     <message>
         <source>Add device</source>
@@ -488,10 +574,6 @@
         <translation>Name</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>Type</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>Address</translation>
     </message>
@@ -512,12 +594,28 @@
         <translation>Password</translation>
     </message>
     <message>
-        <source>Channels</source>
-        <translation>Channels</translation>
-    </message>
-    <message>
         <source>The device does not exist any more.</source>
         <translation>The device does not exist any more.</translation>
+    </message>
+    <message>
+        <source>Encrypted connection (TLS)</source>
+        <translation>Encrypted connection (TLS)</translation>
+    </message>
+    <message>
+        <source>Empty: the name that the device has</source>
+        <translation>Empty: the name that the device has</translation>
+    </message>
+    <message>
+        <source>Connecting to the device…</source>
+        <translation>Connecting to the device…</translation>
+    </message>
+    <message>
+        <source>Add anyway</source>
+        <translation>Add anyway</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>Save anyway</translation>
     </message>
 </context>
 <context>
@@ -525,26 +623,6 @@
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>Cameras, recorders and storage servers that the client works with.</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>Name</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>Type</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>Address</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>Channels</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>State</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -557,22 +635,6 @@
     <message>
         <source>Add device</source>
         <translation>Add device</translation>
-    </message>
-    <message>
-        <source>No device yet</source>
-        <translation>No device yet</translation>
-    </message>
-    <message>
-        <source>Add the first device to see its channels.</source>
-        <translation>Add the first device to see its channels.</translation>
-    </message>
-    <message>
-        <source>Online</source>
-        <translation>Online</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>Offline</translation>
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
@@ -595,12 +657,16 @@
         <translation>Simulate an alarm</translation>
     </message>
     <message>
-        <source>Set online</source>
-        <translation>Set online</translation>
+        <source>No device chosen</source>
+        <translation>No device chosen</translation>
     </message>
     <message>
-        <source>Set offline</source>
-        <translation>Set offline</translation>
+        <source>Choose one in the list, or add the first one.</source>
+        <translation>Choose one in the list, or add the first one.</translation>
+    </message>
+    <message>
+        <source>Try now</source>
+        <translation>Try now</translation>
     </message>
 </context>
 <context>

@@ -47,22 +47,6 @@
 <context>
     <name>DeviceForm</name>
     <message>
-        <source>Encoder</source>
-        <translation>מקודד</translation>
-    </message>
-    <message>
-        <source>Recorder</source>
-        <translation>מקליט</translation>
-    </message>
-    <message>
-        <source>Storage server</source>
-        <translation>שרת אחסון</translation>
-    </message>
-    <message>
-        <source>Enter a name.</source>
-        <translation>הזן שם.</translation>
-    </message>
-    <message>
         <source>A name has at most 64 characters.</source>
         <translation>שם יכול לכלול עד 64 תווים.</translation>
     </message>
@@ -81,6 +65,45 @@
     <message>
         <source>Enter the user of the device.</source>
         <translation>הזן את משתמש ההתקן.</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceText</name>
+    <message>
+        <source>Device</source>
+        <translation>התקן</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>מקודד</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>מקליט</translation>
+    </message>
+    <message>
+        <source>Storage server</source>
+        <translation>שרת אחסון</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>מקוון</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>לא מקוון</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>מתחבר</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>מקליט</translation>
+    </message>
+    <message>
+        <source>Not supported by its device</source>
+        <translation>אינה נתמכת בהתקן שלה</translation>
     </message>
 </context>
 <context>
@@ -248,14 +271,6 @@
         <translation>יש יותר מדי התקנים.</translation>
     </message>
     <message>
-        <source>The user name must have at most 128 bytes.</source>
-        <translation>שם המשתמש יכול לכלול עד 128 בתים.</translation>
-    </message>
-    <message>
-        <source>The password must have at most 128 bytes.</source>
-        <translation>הסיסמה יכולה לכלול עד 128 בתים.</translation>
-    </message>
-    <message>
         <source>The users cannot be saved.</source>
         <translation>לא ניתן לשמור את המשתמשים.</translation>
     </message>
@@ -298,6 +313,22 @@
     <message>
         <source>folder of pictures</source>
         <translation>תיקיית התמונות</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is online.</source>
+        <translation>ההתקן &quot;%1&quot; מקוון.</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is offline.</source>
+        <translation>ההתקן &quot;%1&quot; אינו מקוון.</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 127 bytes.</source>
+        <translation>שם המשתמש יכול לכלול עד 127 בתים.</translation>
+    </message>
+    <message>
+        <source>The password must have at most 127 bytes.</source>
+        <translation>הסיסמה יכולה לכלול עד 127 בתים.</translation>
     </message>
 </context>
 <context>
@@ -462,6 +493,61 @@
     </message>
 </context>
 <context>
+    <name>framework::CDeviceDetails</name>
+    <message>
+        <source>Try now</source>
+        <translation>לנסות כעת</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>כתובת</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>משתמש</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>סוג</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>דגם</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>מספר סידורי</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>קושחה</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>ערוצים</translation>
+    </message>
+    <message>
+        <source>Alarm inputs and outputs</source>
+        <translation>כניסות ויציאות אזעקה</translation>
+    </message>
+    <message>
+        <source>%1, encrypted</source>
+        <translation>%1, מוצפן</translation>
+    </message>
+    <message>
+        <source>%1, online %2</source>
+        <translation>%1, מקוונים: %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 ו-%2</translation>
+    </message>
+    <message>
+        <source>Channel %1: %2</source>
+        <translation>ערוץ %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>framework::CDeviceDialog</name>
     <message>
         <source>Add device</source>
@@ -488,10 +574,6 @@
         <translation>שם</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>סוג</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>כתובת</translation>
     </message>
@@ -512,12 +594,28 @@
         <translation>סיסמה</translation>
     </message>
     <message>
-        <source>Channels</source>
-        <translation>ערוצים</translation>
-    </message>
-    <message>
         <source>The device does not exist any more.</source>
         <translation>ההתקן אינו קיים עוד.</translation>
+    </message>
+    <message>
+        <source>Encrypted connection (TLS)</source>
+        <translation>חיבור מוצפן (TLS)</translation>
+    </message>
+    <message>
+        <source>Empty: the name that the device has</source>
+        <translation>ריק: השם שיש להתקן</translation>
+    </message>
+    <message>
+        <source>Connecting to the device…</source>
+        <translation>מתחבר להתקן…</translation>
+    </message>
+    <message>
+        <source>Add anyway</source>
+        <translation>להוסיף בכל זאת</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>לשמור בכל זאת</translation>
     </message>
 </context>
 <context>
@@ -525,26 +623,6 @@
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>המצלמות, המקליטים ושרתי האחסון שהתוכנה עובדת איתם.</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>שם</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>סוג</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>כתובת</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>ערוצים</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>מצב</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -557,22 +635,6 @@
     <message>
         <source>Add device</source>
         <translation>הוסף התקן</translation>
-    </message>
-    <message>
-        <source>No device yet</source>
-        <translation>אין עדיין התקנים</translation>
-    </message>
-    <message>
-        <source>Add the first device to see its channels.</source>
-        <translation>הוסף את ההתקן הראשון כדי לראות את הערוצים שלו.</translation>
-    </message>
-    <message>
-        <source>Online</source>
-        <translation>מקוון</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>לא מקוון</translation>
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
@@ -595,12 +657,16 @@
         <translation>הדמה התראה</translation>
     </message>
     <message>
-        <source>Set online</source>
-        <translation>סמן כמקוון</translation>
+        <source>No device chosen</source>
+        <translation>לא נבחר התקן</translation>
     </message>
     <message>
-        <source>Set offline</source>
-        <translation>סמן כלא מקוון</translation>
+        <source>Choose one in the list, or add the first one.</source>
+        <translation>בחרו אחד ברשימה, או הוסיפו את הראשון.</translation>
+    </message>
+    <message>
+        <source>Try now</source>
+        <translation>לנסות כעת</translation>
     </message>
 </context>
 <context>

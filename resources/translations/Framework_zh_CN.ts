@@ -47,22 +47,6 @@
 <context>
     <name>DeviceForm</name>
     <message>
-        <source>Encoder</source>
-        <translation>编码器</translation>
-    </message>
-    <message>
-        <source>Recorder</source>
-        <translation>录像机</translation>
-    </message>
-    <message>
-        <source>Storage server</source>
-        <translation>存储服务器</translation>
-    </message>
-    <message>
-        <source>Enter a name.</source>
-        <translation>请输入名称。</translation>
-    </message>
-    <message>
         <source>A name has at most 64 characters.</source>
         <translation>名称最多 64 个字符。</translation>
     </message>
@@ -81,6 +65,45 @@
     <message>
         <source>Enter the user of the device.</source>
         <translation>请输入设备用户名。</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceText</name>
+    <message>
+        <source>Device</source>
+        <translation>设备</translation>
+    </message>
+    <message>
+        <source>Encoder</source>
+        <translation>编码器</translation>
+    </message>
+    <message>
+        <source>Recorder</source>
+        <translation>录像机</translation>
+    </message>
+    <message>
+        <source>Storage server</source>
+        <translation>存储服务器</translation>
+    </message>
+    <message>
+        <source>Online</source>
+        <translation>在线</translation>
+    </message>
+    <message>
+        <source>Offline</source>
+        <translation>离线</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>正在连接</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>正在录像</translation>
+    </message>
+    <message>
+        <source>Not supported by its device</source>
+        <translation>其设备不支持</translation>
     </message>
 </context>
 <context>
@@ -248,14 +271,6 @@
         <translation>设备过多。</translation>
     </message>
     <message>
-        <source>The user name must have at most 128 bytes.</source>
-        <translation>用户名最多 128 字节。</translation>
-    </message>
-    <message>
-        <source>The password must have at most 128 bytes.</source>
-        <translation>密码最多 128 字节。</translation>
-    </message>
-    <message>
         <source>The users cannot be saved.</source>
         <translation>无法保存用户。</translation>
     </message>
@@ -298,6 +313,22 @@
     <message>
         <source>folder of pictures</source>
         <translation>图片文件夹</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is online.</source>
+        <translation>设备“%1”在线。</translation>
+    </message>
+    <message>
+        <source>Device &quot;%1&quot; is offline.</source>
+        <translation>设备“%1”离线。</translation>
+    </message>
+    <message>
+        <source>The user name must have at most 127 bytes.</source>
+        <translation>用户名最多 127 字节。</translation>
+    </message>
+    <message>
+        <source>The password must have at most 127 bytes.</source>
+        <translation>密码最多 127 字节。</translation>
     </message>
 </context>
 <context>
@@ -462,6 +493,61 @@
     </message>
 </context>
 <context>
+    <name>framework::CDeviceDetails</name>
+    <message>
+        <source>Try now</source>
+        <translation>立即重试</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Alarm inputs and outputs</source>
+        <translation>报警输入和输出</translation>
+    </message>
+    <message>
+        <source>%1, encrypted</source>
+        <translation>%1，已加密</translation>
+    </message>
+    <message>
+        <source>%1, online %2</source>
+        <translation>%1，在线 %2</translation>
+    </message>
+    <message>
+        <source>%1 and %2</source>
+        <translation>%1 和 %2</translation>
+    </message>
+    <message>
+        <source>Channel %1: %2</source>
+        <translation>通道 %1：%2</translation>
+    </message>
+</context>
+<context>
     <name>framework::CDeviceDialog</name>
     <message>
         <source>Add device</source>
@@ -488,10 +574,6 @@
         <translation>名称</translation>
     </message>
     <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
         <source>Address</source>
         <translation>地址</translation>
     </message>
@@ -512,12 +594,28 @@
         <translation>密码</translation>
     </message>
     <message>
-        <source>Channels</source>
-        <translation>通道</translation>
-    </message>
-    <message>
         <source>The device does not exist any more.</source>
         <translation>该设备已不存在。</translation>
+    </message>
+    <message>
+        <source>Encrypted connection (TLS)</source>
+        <translation>加密连接 (TLS)</translation>
+    </message>
+    <message>
+        <source>Empty: the name that the device has</source>
+        <translation>留空则使用设备自己的名称</translation>
+    </message>
+    <message>
+        <source>Connecting to the device…</source>
+        <translation>正在连接设备…</translation>
+    </message>
+    <message>
+        <source>Add anyway</source>
+        <translation>仍然添加</translation>
+    </message>
+    <message>
+        <source>Save anyway</source>
+        <translation>仍然保存</translation>
     </message>
 </context>
 <context>
@@ -525,26 +623,6 @@
     <message>
         <source>Cameras, recorders and storage servers that the client works with.</source>
         <translation>客户端使用的摄像机、录像机和存储服务器。</translation>
-    </message>
-    <message>
-        <source>Name</source>
-        <translation>名称</translation>
-    </message>
-    <message>
-        <source>Type</source>
-        <translation>类型</translation>
-    </message>
-    <message>
-        <source>Address</source>
-        <translation>地址</translation>
-    </message>
-    <message>
-        <source>Channels</source>
-        <translation>通道</translation>
-    </message>
-    <message>
-        <source>State</source>
-        <translation>状态</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -557,22 +635,6 @@
     <message>
         <source>Add device</source>
         <translation>添加设备</translation>
-    </message>
-    <message>
-        <source>No device yet</source>
-        <translation>尚无设备</translation>
-    </message>
-    <message>
-        <source>Add the first device to see its channels.</source>
-        <translation>添加第一台设备以查看其通道。</translation>
-    </message>
-    <message>
-        <source>Online</source>
-        <translation>在线</translation>
-    </message>
-    <message>
-        <source>Offline</source>
-        <translation>离线</translation>
     </message>
     <message>
         <source>Remove the device &quot;%1&quot; with its channels?</source>
@@ -595,12 +657,16 @@
         <translation>模拟报警</translation>
     </message>
     <message>
-        <source>Set online</source>
-        <translation>设为在线</translation>
+        <source>No device chosen</source>
+        <translation>未选择设备</translation>
     </message>
     <message>
-        <source>Set offline</source>
-        <translation>设为离线</translation>
+        <source>Choose one in the list, or add the first one.</source>
+        <translation>请在列表中选择，或添加第一个设备。</translation>
+    </message>
+    <message>
+        <source>Try now</source>
+        <translation>立即重试</translation>
     </message>
 </context>
 <context>

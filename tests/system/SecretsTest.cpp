@@ -107,8 +107,7 @@ protected:
 void Secrets::Enter(framework::CFrameworkCore& core)
 {
     std::string error;
-    framework::DeviceEntry entry{
-        kDeviceName, framework::Encoder, "192.0.2.1", 8000, kDeviceUser, kDevicePassword, 2};
+    framework::DeviceEntry entry{kDeviceName, "192.0.2.1", 8000, kDeviceUser, kDevicePassword, false};
     device = core.Resources().Add(entry, error);
     ASSERT_NE(device, "") << error;
     entry.password = kNewDevicePassword;

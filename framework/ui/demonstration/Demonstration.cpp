@@ -5,7 +5,9 @@
 #include "framework/core/Stored.h"
 #include "framework/ui/demonstration/DemonstrationFiles.h"
 
+#include <algorithm>
 #include <chrono>
+#include <thread>
 
 namespace framework {
 
@@ -17,29 +19,23 @@ struct Progress
     protocol::Seconds begin; ///< the files lie in the days before
     std::int32_t reported = 0;
     bool isOver = false;
+    std::vector<std::string> devices; ///< as they were added; some may have been removed since
+    std::vector<std::int32_t> ports;  ///< of theirs, in the same order
 
     static constexpr auto Fields()
     {
         using T = Progress;
+        using protocol::May;
         using protocol::Must;
         return std::make_tuple(Must("begin", &T::begin), Must("reported", &T::reported),
-                               Must("isOver", &T::isOver));
+                               Must("isOver", &T::isOver), May("devices", &T::devices),
+                               May("ports", &T::ports));
     }
 };
 
-struct SampleDevice
-{
-    const char* name;
-    DeviceType type;
-    const char* address; ///< of those that are kept for examples, RFC 5737
-    int channels;
-};
-
-constexpr SampleDevice kDevices[] = {
-    {"Main gate", Recorder, "192.0.2.21", 4},
-    {"Warehouse", Recorder, "192.0.2.22", 4},
-    {"Car park", Encoder, "192.0.2.23", 2},
-};
+constexpr const char* kThisComputer = "127.0.0.1";
+constexpr std::chrono::milliseconds kPoll{50};
+constexpr std::chrono::seconds kLongestWait{20}; ///< for the devices to be reached
 
 /// Asks, and waits for the one answer.
 template<typename Answer, typename Ask>
@@ -61,7 +57,9 @@ struct CDemonstration::State
 
     void Run();
     [[nodiscard]] bool Begin();
-    void AddDevices();
+    void AddDevices(const SimulatorReady& ready);
+    void MoveDevices(const SimulatorReady& ready);
+    void AwaitDevices() const;
     /// Why the file could not be made or reported; empty when its record is there.
     std::string Make(const DemonstrationFile& file, bool mayBeThere);
     bool IsThere(const protocol::LocalFileNotify& record);
@@ -72,29 +70,51 @@ CDemonstration::CDemonstration(CFrameworkCore& core, const std::string& folder,
                                std::function<void()> onReported, int files)
     : m_state(new State{
           core, std::move(onReported), {folder + "demonstration.json", [] { return Progress(); }, {}}, files})
-{}
+{
+    if (m_state->progress.Get().begin.count == 0 && !core.Resources().Devices().empty())
+        (void)m_state->Begin();
+}
 
 CDemonstration::~CDemonstration() = default;
+
+bool CDemonstration::WantsDevices() const
+{
+    const Progress now = m_state->progress.Get();
+    return !now.devices.empty() || (now.begin.count == 0 && m_state->core.Resources().Devices().empty());
+}
+
+std::vector<std::int32_t> CDemonstration::Ports() const
+{
+    return m_state->progress.Get().ports;
+}
+
+void CDemonstration::TakeDevices(const SimulatorReady& ready)
+{
+    const Progress now = m_state->progress.Get();
+    if (now.begin.count == 0 && m_state->Begin())
+        m_state->AddDevices(ready);
+    else
+        m_state->MoveDevices(ready);
+}
 
 void CDemonstration::Run()
 {
     const bool isRunning =
         m_run.valid() && m_run.wait_for(std::chrono::seconds(0)) != std::future_status::ready;
-    if (isRunning || m_state->progress.Get().isOver)
+    const Progress now = m_state->progress.Get();
+    const bool isReady = m_state->core.State() == ComponentState::Ready && now.begin.count != 0;
+    if (isRunning || now.isOver || !isReady)
         return;
     m_run = Base::RunAsync("demonstration", [state = m_state] { state->Run(); });
 }
 
 void CDemonstration::State::Run()
 {
-    if (progress.Get().begin.count == 0 && !Begin())
-        return;
-    if (core.Resources().Devices().empty())
-        AddDevices();
+    AwaitDevices();
     const Progress before = progress.Get();
     const std::vector<DemonstrationFile> files =
         PlanDemonstration(core.Resources(), before.begin.count, count);
-    std::string problem;
+    std::string problem = files.empty() ? "no camera is known" : "";
     int reported = before.reported;
     while (reported < static_cast<int>(files.size()) && problem.empty()) {
         problem = Make(files[static_cast<std::size_t>(reported)], reported == before.reported);
@@ -122,19 +142,61 @@ bool CDemonstration::State::Begin()
     return progress.Change(begin) && isFresh;
 }
 
-void CDemonstration::State::AddDevices()
+void CDemonstration::State::AddDevices(const SimulatorReady& ready)
 {
-    for (const SampleDevice& sample : kDevices) {
-        DeviceEntry entry;
-        entry.name = sample.name;
-        entry.typeCode = sample.type;
-        entry.address = sample.address;
-        entry.userName = "admin";
-        entry.channels = sample.channels;
+    std::vector<std::string> guids;
+    std::vector<std::int32_t> ports;
+    for (const SimulatedDevice& device : ready.devices) {
+        const DeviceEntry entry{
+            device.name, kThisComputer, device.port, ready.user, CSimulatedDevices::kPassword, false};
         std::string error;
-        if (core.Resources().Add(entry, error).empty())
+        guids.push_back(core.Resources().Add(entry, error));
+        ports.push_back(device.port);
+        if (!error.empty())
             BASE_WARN("A device of the demonstration was not added: %s", error.c_str());
     }
+    const auto note = [&](Progress& now) {
+        now.devices = guids;
+        now.ports = ports;
+        return true;
+    };
+    if (!progress.Change(note))
+        BASE_WARN("The devices of the demonstration cannot be noted.");
+}
+
+void CDemonstration::State::MoveDevices(const SimulatorReady& ready)
+{
+    const Progress before = progress.Get();
+    std::vector<std::int32_t> ports;
+    for (std::size_t at = 0; at < std::min(before.devices.size(), ready.devices.size()); ++at) {
+        DeviceEntry entry;
+        std::string error;
+        ports.push_back(ready.devices[at].port);
+        if (!core.Resources().EntryOf(before.devices[at], entry) || entry.port == ports.back())
+            continue;
+        entry.port = ports.back();
+        if (!core.Resources().Edit(before.devices[at], entry, error))
+            BASE_WARN("A device of the demonstration was not moved: %s", error.c_str());
+    }
+    const auto note = [&](Progress& now) {
+        now.ports = ports;
+        return ports != before.ports;
+    };
+    (void)progress.Change(note);
+}
+
+// Their cameras are known once they were reached.
+void CDemonstration::State::AwaitDevices() const
+{
+    const auto isAwaited = [this](const std::string& guid) {
+        bool isOnline = false;
+        return core.Resources().Find(guid, isOnline) && !isOnline;
+    };
+    const std::vector<std::string> guids = progress.Get().devices;
+    const auto end = std::chrono::steady_clock::now() + kLongestWait;
+    while (std::any_of(guids.begin(), guids.end(), isAwaited) && std::chrono::steady_clock::now() < end &&
+           core.State() == ComponentState::Ready)
+        std::this_thread::sleep_for(kPoll);
 }
 
 std::string CDemonstration::State::Make(const DemonstrationFile& file, bool mayBeThere)

@@ -8,6 +8,7 @@
 #include <QSaveFile>
 
 #include <map>
+#include <string_view>
 
 namespace framework {
 
@@ -26,6 +27,15 @@ bool Write(const std::string& path, const QByteArray& content)
     QSaveFile file(name);
     return QDir().mkpath(QFileInfo(name).path()) && file.open(QIODevice::WriteOnly) &&
            file.write(content) == content.size() && file.commit();
+}
+
+/// A name that a device gave, as the name of a file.
+std::string FileName(std::string name)
+{
+    for (char& letter : name)
+        if (std::string_view("/\\:*?\"<>|").find(letter) != std::string_view::npos)
+            letter = '_';
+    return name == "." || name == ".." ? "_" : name;
 }
 
 QByteArray PictureOf(const DemonstrationFile& file, double second, double passed)
@@ -72,8 +82,8 @@ std::vector<DemonstrationFile> PlanDemonstration(const CResources& resources, st
 protocol::LocalFileNotify RecordOf(const DemonstrationFile& file, const FrameworkChoices& folders)
 {
     const QDateTime moment = QDateTime::fromSecsSinceEpoch(file.moment);
-    const std::string day = file.group + '/' + moment.toString("yyyy-MM-dd").toStdString() + '/';
-    const std::string name = file.camera + moment.toString(" yyyy-MM-dd HH-mm-ss").toStdString();
+    const std::string day = FileName(file.group) + '/' + moment.toString("yyyy-MM-dd").toStdString() + '/';
+    const std::string name = FileName(file.camera) + moment.toString(" yyyy-MM-dd HH-mm-ss").toStdString();
     const bool isClip = file.type == LocalFileType::Video;
     protocol::LocalFileNotify record;
     record.type = file.type;

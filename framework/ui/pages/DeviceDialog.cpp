@@ -1,16 +1,19 @@
 #include "framework/ui/pages/DeviceDialog.h"
 
-#include "VantorGUIToolkit/Icons.h"
 #include "VantorGUIToolkit/Widgets/Banner.h"
 #include "VantorGUIToolkit/Widgets/FormGrid.h"
 #include "VantorGUIToolkit/Widgets/PasswordEdit.h"
+#include "VantorGUIToolkit/Widgets/Switch.h"
+#include "framework/ui/parts/DeviceText.h"
 #include "framework/ui/parts/Sentences.h"
 
-#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMovie>
+#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
-#include <QVBoxLayout>
 
 namespace framework {
 
@@ -19,16 +22,10 @@ using namespace VantorGUIToolkit;
 namespace {
 
 constexpr int kWidth = 480;
-constexpr int kMostChannels = 64;
 constexpr int kMostPort = 65535;
+constexpr int kMovieSize = Grid::Wide;
 
-QSpinBox* MakeSpinBox(int from, int to, const char* name, QWidget* parent)
-{
-    auto* box = new QSpinBox(parent);
-    box->setObjectName(name);
-    box->setRange(from, to);
-    return box;
-}
+const QString kMovie = QStringLiteral(":/VantorGUIToolkit/Dialog/Images/Dialog/Loading.gif");
 
 QLineEdit* MakeEdit(const char* name, QWidget* parent)
 {
@@ -39,13 +36,13 @@ QLineEdit* MakeEdit(const char* name, QWidget* parent)
 
 } // namespace
 
-CDeviceDialog::CDeviceDialog(CResources& resources, const QString& guid, QWidget* parent)
+CDeviceDialog::CDeviceDialog(CResources& resources, Test test, const QString& guid, QWidget* parent)
     : CDialog(guid.isEmpty() ? tr("Add device") : tr("Edit device"), parent), m_resources(resources),
-      m_guid(guid), m_refusal(new CBanner({}, Tone::Error, this)), m_form(new CFormGrid(this)),
-      m_name(MakeEdit("deviceName", this)), m_type(new QComboBox(this)),
-      m_address(MakeEdit("deviceAddress", this)), m_port(MakeSpinBox(1, kMostPort, "devicePort", this)),
-      m_user(MakeEdit("deviceUser", this)), m_password(new CPasswordEdit(this)),
-      m_channels(MakeSpinBox(0, kMostChannels, "deviceChannels", this))
+      m_test(std::move(test)), m_guid(guid), m_refusal(new CBanner({}, Tone::Error, this)),
+      m_form(new CFormGrid(this)), m_name(MakeEdit("deviceName", this)),
+      m_address(MakeEdit("deviceAddress", this)), m_port(new QSpinBox(this)),
+      m_tls(new CSwitch(tr("Encrypted connection (TLS)"), this)), m_user(MakeEdit("deviceUser", this)),
+      m_password(new CPasswordEdit(this)), m_waiting(MakeWaiting())
 {
     setObjectName("deviceDialog");
     setMinimumWidth(kWidth);
@@ -54,10 +51,7 @@ CDeviceDialog::CDeviceDialog(CResources& resources, const QString& guid, QWidget
     if (!guid.isEmpty() && !m_resources.EntryOf(guid.toStdString(), entry))
         entry = {};
     Fill(entry);
-    AddButton(tr("Cancel"), ButtonKind::Normal, Rejected)->setObjectName("cancel");
-    QPushButton* apply = AddButton(guid.isEmpty() ? tr("Add") : tr("Save"), ButtonKind::Primary);
-    apply->setObjectName("apply");
-    connect(apply, &QPushButton::clicked, this, &CDeviceDialog::Apply);
+    AddButtons();
     for (QLineEdit* edit : {m_name, m_address, m_user})
         connect(edit, &QLineEdit::textChanged, this, [this] {
             if (m_tried)
@@ -67,43 +61,73 @@ CDeviceDialog::CDeviceDialog(CResources& resources, const QString& guid, QWidget
 
 void CDeviceDialog::BuildForm()
 {
-    m_type->setObjectName("deviceType");
-    for (const int type : {Encoder, Recorder, StorageServer})
-        m_type->addItem(icon(DeviceTypeIcon(type)), DeviceTypeText(type), type);
+    m_port->setObjectName("devicePort");
+    m_port->setRange(1, kMostPort);
+    m_tls->setObjectName("deviceTls");
     m_password->setObjectName("devicePassword");
+    m_refusal->setObjectName("deviceRefusal");
     m_refusal->hide();
-    m_form->AddRow(tr("Name"), m_name);
-    m_form->AddRow(tr("Type"), m_type);
     m_form->AddRow(tr("Address"), m_address, tr("Host name or IP address"));
     m_form->AddRow(tr("Port"), m_port);
+    m_form->AddField(m_tls);
     m_form->AddRow(tr("User"), m_user);
     m_form->AddRow(tr("Password"), m_password);
-    m_form->AddRow(tr("Channels"), m_channels);
+    m_form->AddRow(tr("Name"), m_name, tr("Empty: the name that the device has"));
     ContentLayout()->addWidget(m_refusal);
     ContentLayout()->addWidget(m_form);
+    ContentLayout()->addWidget(m_waiting);
+}
+
+QWidget* CDeviceDialog::MakeWaiting()
+{
+    auto* waiting = new QWidget(this);
+    waiting->setObjectName("deviceWaiting");
+    auto* picture = new QLabel(waiting);
+    auto* movie = new QMovie(kMovie, {}, picture);
+    movie->setScaledSize({kMovieSize, kMovieSize});
+    picture->setMovie(movie);
+    movie->start();
+    auto* row = new QHBoxLayout(waiting);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Grid::Small);
+    row->addWidget(picture);
+    row->addWidget(makeLabel(tr("Connecting to the device…"), TextRole::Hint, waiting), 1);
+    waiting->hide();
+    return waiting;
+}
+
+void CDeviceDialog::AddButtons()
+{
+    AddButton(tr("Cancel"), ButtonKind::Normal, Rejected)->setObjectName("cancel");
+    const bool isNew = m_guid.isEmpty();
+    m_anyway = AddButton(isNew ? tr("Add anyway") : tr("Save anyway"), ButtonKind::Normal);
+    m_anyway->setObjectName("anyway");
+    m_anyway->hide();
+    connect(m_anyway, &QPushButton::clicked, this, [this] { Take(Entered()); });
+    m_apply = AddButton(isNew ? tr("Add") : tr("Save"), ButtonKind::Primary);
+    m_apply->setObjectName("apply");
+    connect(m_apply, &QPushButton::clicked, this, &CDeviceDialog::Apply);
 }
 
 void CDeviceDialog::Fill(const DeviceEntry& entry)
 {
     m_name->setText(QString::fromStdString(entry.name));
-    m_type->setCurrentIndex(m_type->findData(entry.typeCode));
     m_address->setText(QString::fromStdString(entry.address));
     m_port->setValue(entry.port);
+    m_tls->setChecked(entry.useTls);
     m_user->setText(QString::fromStdString(entry.userName));
     m_password->setText(QString::fromStdString(entry.password));
-    m_channels->setValue(entry.channels);
 }
 
 DeviceEntry CDeviceDialog::Entered() const
 {
     DeviceEntry entry;
     entry.name = m_name->text().trimmed().toStdString();
-    entry.typeCode = m_type->currentData().toInt();
     entry.address = m_address->text().trimmed().toStdString();
     entry.port = m_port->value();
+    entry.useTls = m_tls->isChecked();
     entry.userName = m_user->text().toStdString();
     entry.password = m_password->text().toStdString();
-    entry.channels = m_channels->value();
     return entry;
 }
 
@@ -119,10 +143,58 @@ void CDeviceDialog::Check(const DeviceEntry& entry)
 void CDeviceDialog::Apply()
 {
     m_tried = true;
+    m_refusal->hide();
+    m_anyway->hide();
     const DeviceEntry entry = Entered();
     Check(entry);
     if (m_form->FocusFirstError())
         return;
+    if (IsReachedAsBefore(entry))
+        Take(entry);
+    else
+        Begin(entry);
+}
+
+void CDeviceDialog::Begin(const DeviceEntry& entry)
+{
+    SetWaiting(true);
+    m_test(entry, [self = QPointer<CDeviceDialog>(this), attempt = ++m_attempt,
+                   entry](const devices::TriedDevice& tried) {
+        if (self && self->m_attempt == attempt)
+            self->End(entry, tried);
+    });
+}
+
+void CDeviceDialog::End(const DeviceEntry& entry, const devices::TriedDevice& tried)
+{
+    SetWaiting(false);
+    if (tried.error == 0) {
+        DeviceEntry named = entry;
+        if (named.name.empty())
+            named.name = NameFor(QString::fromUtf8(tried.info.name), entry, OtherNames());
+        return Take(named);
+    }
+    Refuse(DeviceErrorText(tried.error, tried.moduleError));
+    m_anyway->setVisible(IsOutOfReach(tried.error));
+}
+
+void CDeviceDialog::SetWaiting(bool isWaiting)
+{
+    m_waiting->setVisible(isWaiting);
+    m_form->setEnabled(!isWaiting);
+    m_apply->setEnabled(!isWaiting);
+}
+
+void CDeviceDialog::Refuse(const QString& why)
+{
+    m_refusal->Set(why, Tone::Error);
+    m_refusal->show();
+}
+
+void CDeviceDialog::Take(DeviceEntry entry)
+{
+    if (entry.name.empty())
+        entry.name = NameFor({}, entry, OtherNames());
     std::string error;
     if (m_guid.isEmpty())
         m_guid = QString::fromStdString(m_resources.Add(entry, error));
@@ -130,8 +202,24 @@ void CDeviceDialog::Apply()
         error = tr("The device does not exist any more.").toStdString();
     if (error.empty())
         return accept();
-    m_refusal->Set(InUserLanguage(error), Tone::Error);
-    m_refusal->show();
+    Refuse(InUserLanguage(error));
+}
+
+// The first cancel ends the wait for the device.
+void CDeviceDialog::done(int result)
+{
+    if (result != Rejected || !m_waiting->isVisibleTo(this))
+        return CDialog::done(result);
+    ++m_attempt;
+    SetWaiting(false);
+}
+
+bool CDeviceDialog::IsReachedAsBefore(const DeviceEntry& entry) const
+{
+    DeviceEntry before;
+    return m_resources.EntryOf(m_guid.toStdString(), before) && before.address == entry.address &&
+           before.port == entry.port && before.useTls == entry.useTls && before.userName == entry.userName &&
+           before.password == entry.password;
 }
 
 std::vector<std::string> CDeviceDialog::OtherNames() const

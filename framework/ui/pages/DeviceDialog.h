@@ -1,11 +1,12 @@
 #pragma once
 
 #include "VantorGUIToolkit/Widgets/Dialog.h"
-#include "framework/core/Resources.h"
+#include "framework/core/DeviceLinks.h"
 #include "framework/ui/pages/DeviceForm.h"
 
-class QComboBox;
+class QCheckBox;
 class QLineEdit;
+class QPushButton;
 class QSpinBox;
 
 namespace VantorGUIToolkit {
@@ -16,39 +17,56 @@ class CPasswordEdit;
 
 namespace framework {
 
-/// Adds a device, or changes one. What cannot be taken is shown at the fields, and the dialog stays. GUI
-/// thread.
+/// Adds a device, or changes how one is reached, after it was reached so; one that is out of reach can be
+/// taken all the same. What cannot be taken is said, and the dialog stays. GUI thread.
 class CDeviceDialog : public VantorGUIToolkit::CDialog
 {
     Q_OBJECT
 
 public:
+    /// Tries to reach a device and calls onTried later, on the GUI thread.
+    using Test = std::function<void(const DeviceEntry& entry, CDeviceLinks::OnTried onTried)>;
+
     /// guid: the device to change; empty for a new one.
-    CDeviceDialog(CResources& resources, const QString& guid, QWidget* parent);
+    CDeviceDialog(CResources& resources, Test test, const QString& guid, QWidget* parent);
 
     /// The device that was added or changed.
     QString Guid() const { return m_guid; }
 
+    void done(int result) override;
+
 private:
     void BuildForm();
+    QWidget* MakeWaiting();
+    void AddButtons();
     void Fill(const DeviceEntry& entry);
     DeviceEntry Entered() const;
     void Check(const DeviceEntry& entry);
     void Apply();
+    void Begin(const DeviceEntry& entry);
+    void End(const DeviceEntry& entry, const devices::TriedDevice& tried);
+    void SetWaiting(bool isWaiting);
+    void Refuse(const QString& why);
+    void Take(DeviceEntry entry);
+    bool IsReachedAsBefore(const DeviceEntry& entry) const;
     std::vector<std::string> OtherNames() const;
 
     CResources& m_resources;
+    const Test m_test;
     QString m_guid;
     VantorGUIToolkit::CBanner* m_refusal;
     VantorGUIToolkit::CFormGrid* m_form;
     QLineEdit* m_name;
-    QComboBox* m_type;
     QLineEdit* m_address;
     QSpinBox* m_port;
+    QCheckBox* m_tls;
     QLineEdit* m_user;
     VantorGUIToolkit::CPasswordEdit* m_password;
-    QSpinBox* m_channels;
+    QWidget* m_waiting; ///< shown while a device is tried
+    QPushButton* m_anyway = nullptr;
+    QPushButton* m_apply = nullptr;
     bool m_tried = false; ///< from the first try on, errors follow the typing
+    int m_attempt = 0;    ///< the answer of an earlier one is not waited for any more
 };
 
 } // namespace framework

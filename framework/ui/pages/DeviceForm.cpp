@@ -11,26 +11,6 @@ namespace {
 
 constexpr int kLongestName = 64;
 
-struct TypeLook
-{
-    int typeCode;
-    const char* text;
-    const char* icon;
-};
-
-constexpr TypeLook kTypes[] = {
-    {Encoder, QT_TRANSLATE_NOOP("DeviceForm", "Encoder"), "device"},
-    {Recorder, QT_TRANSLATE_NOOP("DeviceForm", "Recorder"), "recorder"},
-    {StorageServer, QT_TRANSLATE_NOOP("DeviceForm", "Storage server"), "storage"},
-};
-
-const TypeLook& LookOf(int typeCode)
-{
-    const auto look = std::find_if(std::begin(kTypes), std::end(kTypes),
-                                   [&](const auto& each) { return each.typeCode == typeCode; });
-    return look == std::end(kTypes) ? kTypes[0] : *look;
-}
-
 QString Text(const char* key)
 {
     return QCoreApplication::translate("DeviceForm", key);
@@ -52,8 +32,6 @@ bool IsAddress(const QString& address)
 QString NameError(const DeviceEntry& entry, const std::vector<std::string>& others)
 {
     const QString name = QString::fromStdString(entry.name);
-    if (name.trimmed().isEmpty())
-        return Text(QT_TRANSLATE_NOOP("DeviceForm", "Enter a name."));
     if (name.size() > kLongestName)
         return Text(QT_TRANSLATE_NOOP("DeviceForm", "A name has at most 64 characters."));
     if (std::find(others.begin(), others.end(), entry.name) != others.end())
@@ -88,14 +66,17 @@ std::map<DeviceField, QString> CheckDevice(const DeviceEntry& entry, const std::
     return errors;
 }
 
-QString DeviceTypeText(int typeCode)
+std::string NameFor(const QString& own, const DeviceEntry& entry, const std::vector<std::string>& others)
 {
-    return Text(LookOf(typeCode).text);
-}
-
-QString DeviceTypeIcon(int typeCode)
-{
-    return LookOf(typeCode).icon;
+    constexpr int kRoomForNumber = 4;
+    QString wanted = own.trimmed().left(kLongestName - kRoomForNumber);
+    if (wanted.isEmpty())
+        wanted = QString::fromStdString(entry.address).left(kLongestName - kRoomForNumber);
+    QString name = wanted;
+    for (int number = 2; std::find(others.begin(), others.end(), name.toStdString()) != others.end();
+         ++number)
+        name = QStringLiteral("%1 %2").arg(wanted).arg(number);
+    return name.toStdString();
 }
 
 } // namespace framework

@@ -12,11 +12,11 @@ namespace framework {
 enum class DeviceField { Name, Address, UserName };
 
 /// What is wrong with a device as it was entered, in the language of the user, by field. Empty: nothing.
-/// others: the names of all other devices.
+/// others: the names of all other devices. It may have no name yet.
 std::map<DeviceField, QString> CheckDevice(const DeviceEntry& entry, const std::vector<std::string>& others);
 
-/// "Encoder", "Recorder", "Storage server" in the language of the user, and the icon that goes with it.
-QString DeviceTypeText(int typeCode);
-QString DeviceTypeIcon(int typeCode);
+/// A name for a device that was given none: that by which it calls itself, else its address; with a number
+/// behind it where another device has it.
+std::string NameFor(const QString& own, const DeviceEntry& entry, const std::vector<std::string>& others);
 
 } // namespace framework

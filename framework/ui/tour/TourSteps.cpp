@@ -5,48 +5,17 @@
 #include "framework/core/FrameworkCore.h"
 #include "framework/ui/pages/LocalFilesPage.h"
 #include "framework/ui/pages/SkinPicker.h"
-#include "framework/ui/parts/Report.h"
 #include "framework/ui/parts/WindowTable.h"
-#include "framework/ui/shell/ComponentTab.h"
 #include "framework/ui/shell/MainWindow.h"
+#include "framework/ui/tour/TourDevices.h"
+#include "framework/ui/tour/TourParts.h"
 
 #include <QAbstractButton>
-#include <QApplication>
-#include <QDialog>
 #include <QTimer>
 
 namespace framework {
 
 namespace {
-
-const QString kCameraName = QStringLiteral("Entrance north");
-
-QString PendingTab(const TourStage& stage, const QString& name)
-{
-    CTabArea& tabs = stage.window().Tabs();
-    if (tabs.Current() != name)
-        return QStringLiteral("the tab did not come to the front");
-    const auto* tab = qobject_cast<CComponentTab*>(tabs.Page(name));
-    if (!tab)
-        return {};
-    const TabState state = const_cast<CComponentTab*>(tab)->Session().State();
-    return state == TabState::Embedded ? QString()
-                                       : QStringLiteral("the tab is in the state \"%1\"").arg(NameOf(state));
-}
-
-QRect ContentArea(const TourStage& stage)
-{
-    return ScreenRect(stage.window().Tabs().Content());
-}
-
-TourStep TabStep(const TourStage& stage, const QString& name, const QString& tab)
-{
-    return {name,
-            [=] { stage.window().Open(tab); },
-            [=] { return PendingTab(stage, tab); },
-            [=] { return ContentArea(stage); },
-            {}};
-}
 
 CLocalFilesPage* FilesPage(const TourStage& stage)
 {
@@ -67,71 +36,6 @@ TourStep FilesStep(const TourStage& stage, const QString& name, const QString& k
         const CLocalFilesPage* page = FilesPage(stage);
         const bool isEmpty = stage.hasDemonstration && (!page || page->FileCount() <= 0);
         return isEmpty ? QStringLiteral("no file is listed") : PendingTab(stage, "LocalFiles");
-    };
-    return step;
-}
-
-void PressLater(QWidget* parent, const QString& buttonName)
-{
-    QTimer::singleShot(0, parent, [=] {
-        if (auto* button = parent->findChild<QAbstractButton*>(buttonName))
-            button->click();
-    });
-}
-
-QDialog* OpenDialog(const QString& name)
-{
-    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    return dialog && dialog->objectName() == name ? dialog : nullptr;
-}
-
-/// A dialog that begin opens; pressed: the button that is pressed in it before the picture, if any.
-TourStep DialogStep(const QString& name, const QString& dialogName, const std::function<void()>& begin,
-                    const QString& pressed = {})
-{
-    const auto pressedOnce = std::make_shared<bool>(pressed.isEmpty());
-    return {name, begin,
-            [=] {
-                QDialog* dialog = OpenDialog(dialogName);
-                if (!dialog)
-                    return QStringLiteral("the dialog did not open");
-                if (!*pressedOnce)
-                    PressLater(dialog, pressed);
-                *pressedOnce = true;
-                return QString();
-            },
-            [=] {
-                const QDialog* dialog = OpenDialog(dialogName);
-                return dialog ? ScreenRect(*dialog) : QRect();
-            },
-            [=] {
-                if (QDialog* dialog = OpenDialog(dialogName))
-                    dialog->reject();
-            }};
-}
-
-DeviceEntry SampleDevice()
-{
-    DeviceEntry entry;
-    entry.name = kCameraName.toStdString();
-    entry.typeCode = Recorder;
-    entry.address = "192.168.20.14";
-    entry.userName = "admin";
-    entry.password = "sample-password";
-    return entry;
-}
-
-TourStep DeviceStep(const TourStage& stage)
-{
-    TourStep step = TabStep(stage, "device-added", "Devices");
-    const auto error = std::make_shared<std::string>();
-    step.begin = [=] {
-        if (!stage.core.Resources().Add(SampleDevice(), *error).empty())
-            error->clear();
-        stage.window().Open("Devices");
-    };
-    step.pending = [=] {
-        return error->empty() ? PendingTab(stage, "Devices") : QString::fromStdString(*error);
     };
     return step;
 }
@@ -195,6 +99,7 @@ void AddLooks(const TourStage& stage, std::vector<TourStep>& steps)
             steps.push_back(LookStep(stage, "skin-" + choice.skin, "ToolkitGallery",
                                      choice.skin.toStdString(), first.language));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-home", "Home"));
+            steps.push_back(TabStep(stage, "skin-" + choice.skin + "-devices", "Devices"));
             steps.push_back(TabStep(stage, "skin-" + choice.skin + "-settings", "Settings"));
             steps.push_back(FilesStep(stage, "skin-" + choice.skin + "-files", "pictures"));
         }
@@ -219,10 +124,7 @@ std::vector<TourStep> AllTourSteps(const TourStage& stage)
         steps.push_back(QString(row.name) == "LocalFiles" ? FilesStep(stage, row.name, "pictures")
                                                           : TabStep(stage, row.name, row.name));
     steps.push_back(FilesStep(stage, "local-clips", "clips"));
-    steps.push_back(DeviceStep(stage));
-    steps.push_back(DialogStep(
-        "device-dialog", "deviceDialog",
-        [stage] { PressLater(stage.window().Tabs().Page("Devices"), "addDevice"); }, "apply"));
+    AddDeviceSteps(stage, steps);
     steps.push_back(NoticeStep(stage));
     steps.push_back(TabStep(stage, "notification-centre", "Notices"));
     steps.push_back(DialogStep("switch-user", "switchUserDialog", [stage] {

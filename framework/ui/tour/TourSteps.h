@@ -12,6 +12,7 @@ namespace framework {
 
 class CFrameworkCore;
 class CMainWindow;
+class CSimulatedDevices;
 
 /// What the tour walks through. The window may be another one after each change of the choices.
 struct TourStage
@@ -19,7 +20,8 @@ struct TourStage
     std::function<CMainWindow&()> window;
     CFrameworkCore& core;
     std::function<void(const FrameworkChoices&)> apply;
-    bool hasDemonstration = false; ///< its files are waited for
+    bool hasDemonstration = false;          ///< its files are waited for
+    CSimulatedDevices* simulated = nullptr; ///< with the demonstration; goes and comes back
 };
 
 /// One picture of the tour.

@@ -122,9 +122,10 @@ CoreTest::CoreTest()
 void CoreTest::StartCore(const std::string& program)
 {
     core.reset();
-    core = std::make_unique<framework::CFrameworkCore>(
-        events,
-        framework::FrameworkOptions{Folder(), program, root.Path() + "output", endLimit, answerLimit});
+    framework::FrameworkOptions options{
+        Folder(), program, root.Path() + "output", endLimit, answerLimit, connectDevices, {}};
+    options.deviceLimits.watch = options.deviceLimits.again = std::chrono::milliseconds(20);
+    core = std::make_unique<framework::CFrameworkCore>(events, options);
     std::string error;
     ASSERT_TRUE(core->Start(error)) << error;
 }
@@ -138,8 +139,16 @@ void CoreTest::Block(const std::string& name)
 std::string CoreTest::AddDevice(const std::string& name, int port, int channels)
 {
     std::string error;
-    const std::string guid = core->Resources().Add(
-        {name, framework::Encoder, "192.0.2.1", port, kUserName, kPassword, channels}, error);
+    const std::string guid =
+        core->Resources().Add({name, "192.0.2.1", port, kUserName, kPassword, false}, error);
     EXPECT_NE(guid, "") << error;
+    devices::DeviceStatus status;
+    status.id = guid;
+    status.state = devices::SessionState::Online;
+    status.info.typeCode = framework::Encoder;
+    status.info.alarmInputs = status.info.alarmOutputs = 2;
+    for (int number = 1; number <= channels; ++number)
+        status.channels.push_back({number, QXNET_CHANNEL_ONLINE, "Camera " + std::to_string(number)});
+    core->Resources().Hear(status);
     return guid;
 }

@@ -80,10 +80,12 @@ class CoreTest : public testing::Test
 protected:
     CoreTest();
 
-    /// Starts a core, ending the earlier one. program: see FrameworkOptions.
+    /// Starts a core, ending the earlier one. program: see FrameworkOptions. It connects to no device unless
+    /// connectDevices says so.
     void StartCore(const std::string& program = {});
     /// Lets no change of the file be written.
     void Block(const std::string& name);
+    /// A device that is online, with so many channels "Camera 1" and so on, two inputs and two outputs.
     std::string AddDevice(const std::string& name, int port = 8000, int channels = 2);
     std::string Folder() const { return root.Path() + "Framework.C/"; }
 
@@ -91,6 +93,7 @@ protected:
     Events events;
     std::chrono::milliseconds endLimit{5000};     ///< of the components of cores that are started
     std::chrono::milliseconds answerLimit{10000}; ///< of the routes of components
+    bool connectDevices = false;
     std::unique_ptr<framework::CFrameworkCore> core;
 };
 

@@ -48,10 +48,15 @@ TEST_F(Kept, IsWhatTheUserEnteredAndNoSecretIsReadable)
     framework::DeviceEntry entry;
     ASSERT_TRUE(core->Resources().EntryOf(device, entry));
     EXPECT_EQ(entry.password, kPassword);
-    EXPECT_EQ(entry.channels, 3);
+    EXPECT_EQ(core->Resources().Channels(device)[2].name, "Camera 3");
+    EXPECT_FALSE(core->Resources().Channels(device)[2].online);
     EXPECT_EQ(core->Notices().Entries().back().text, "Motion");
-    EXPECT_EQ(core->Operations().Entries().back().text, "Device \"Yard\" was added.");
-    EXPECT_EQ(core->Operations().Entries().back().user, "Mia");
+    const auto operations = core->Operations().Entries();
+    ASSERT_GE(operations.size(), 2u);
+    EXPECT_EQ(operations[operations.size() - 2].text, "Device \"Yard\" was added.");
+    EXPECT_EQ(operations[operations.size() - 2].user, "Mia");
+    EXPECT_EQ(operations.back().text, "Device \"Yard\" is online.");
+    EXPECT_EQ(operations.back().user, "");
     for (const auto& file : fs::directory_iterator(Folder())) {
         std::string content;
         ASSERT_TRUE(Base::FileUtil::ReadFile(file.path(), content));
@@ -139,18 +144,13 @@ TEST_F(Kept, IsWhatWasBeforeAChangeThatCannotBeWritten)
     EXPECT_TRUE(component.received.Take(
         R"(switchUserUpdateFrame {"method":"switchUserUpdateFrame","data":{"userName":"admin")"));
     Block("resources.json");
-    const std::string devices = "/vantor/v1/deviceManagement/devices/";
-    const std::string output = core->Resources().AlarmOutputs(device)[0].guid;
-    EXPECT_EQ(component
-                  .Request("PUT", devices + device + "/alarmOutputs/" + output + "/controls",
-                           R"({"alarmOutputControl":{"active":true}})")
-                  .status,
-              "500");
     EXPECT_EQ(component
                   .Request("PUT", "/vantor/v1/deviceManagement/groups",
                            R"({"modifyGroupCondition":{"allSmartRule":1}})")
                   .status,
               "500");
+    const std::string output = core->Resources().AlarmOutputs(device)[0].guid;
+    EXPECT_FALSE(core->Resources().SwitchOutput(device, output, true));
     EXPECT_FALSE(core->Resources().AlarmOutputs(device)[0].active);
 }
 
@@ -201,7 +201,7 @@ TEST_F(Kept, AreDevicesWithSoundEntriesOnly)
 {
     StartCore();
     AddDevice("Yard");
-    const framework::DeviceEntry good{"Gate", framework::Recorder, "gate.example", 1, "", "", 0};
+    const framework::DeviceEntry good{"Gate", "gate.example", 1, "", "", false};
     const struct
     {
         const char* word; ///< of the reason
@@ -209,11 +209,10 @@ TEST_F(Kept, AreDevicesWithSoundEntriesOnly)
     } rows[] = {{"name", [](auto& entry) { entry.name = ""; }},
                 {"name", [](auto& entry) { entry.name = std::string(65, 'x'); }},
                 {"name", [](auto& entry) { entry.name = "a\nb"; }},
-                {"type", [](auto& entry) { entry.typeCode = 3; }},
                 {"address", [](auto& entry) { entry.address = "a b"; }},
                 {"port", [](auto& entry) { entry.port = 65536; }},
-                {"channels", [](auto& entry) { entry.channels = 65; }},
-                {"another device", [](auto& entry) { entry = {"Z", 1, "192.0.2.1", 8000, "", "", 1}; }}};
+                {"password", [](auto& entry) { entry.password = std::string(128, 'x'); }},
+                {"another device", [](auto& entry) { entry = {"Z", "192.0.2.1", 8000, "", "", false}; }}};
     for (const auto& row : rows) {
         framework::DeviceEntry entry = good;
         row.spoil(entry);

@@ -5,6 +5,10 @@
 #include "CommonMethod/DataEncryptionConfig.h"
 #include "CommonMethod/DecryptionComm.h"
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
+#include "support/FakeDevices.h"
+#include "support/WaitUntil.h"
+
+#include <cstring>
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -77,10 +81,30 @@ class Routes : public CoreTest
 protected:
     Routes()
     {
+        connectDevices = true;
         StartCore();
-        device = AddDevice("Yard");
-        off = AddDevice("Off", 8001);
-        core->Resources().SetOnline(off, false);
+        fakedevices::Device played = fakedevices::Make(2);
+        played.password = kPassword;
+        device = Reach("Yard", "yard.example", played);
+        off = Reach("Off", "off.example", played);
+        played.error = QXNET_ERROR_UNREACHABLE;
+        fakedevices::Set("off.example", played);
+        EXPECT_TRUE(WaitUntil([&] { return !core->Resources().Devices()[1].online; }));
+    }
+    ~Routes() override
+    {
+        core.reset();
+        fakedevices::Clear();
+    }
+
+    std::string Reach(const std::string& name, const std::string& host, const fakedevices::Device& played)
+    {
+        fakedevices::Set(host, played);
+        std::string error;
+        const std::string guid =
+            core->Resources().Add({name, host, 8000, kUserName, kPassword, false}, error);
+        EXPECT_TRUE(WaitUntil([&] { return core->Resources().Devices().back().online; })) << error;
+        return guid;
     }
 
     std::string Filled(std::string text) const
@@ -113,6 +137,16 @@ TEST_F(Routes, AnswerTheComponentAndSayWhatIsWrongWithARequest)
             << row.url << row.body;
     }
     EXPECT_TRUE(events.texts.Take("resize MainView 800x600"));
+    QxNetOutputSwitch output{};
+    const std::string written = fakedevices::Written("yard.example", QXNET_SWITCH_ALARM_OUTPUT, 1);
+    ASSERT_EQ(written.size(), sizeof output);
+    std::memcpy(&output, written.data(), sizeof output);
+    EXPECT_EQ(output.on, 1);
+    QxNetClock clock{};
+    ASSERT_EQ(fakedevices::Written("yard.example", QXNET_SET_CLOCK, 0).size(), sizeof clock);
+    std::memcpy(&clock, fakedevices::Written("yard.example", QXNET_SET_CLOCK, 0).data(), sizeof clock);
+    EXPECT_GE(clock.year, 2025);
+    EXPECT_EQ(fakedevices::Written("yard.example", QXNET_SET_WIPER, 1).size(), sizeof(QxNetWiper));
 }
 
 TEST_F(Routes, GiveCredentialsToTheComponentOnlyAndEnciphered)

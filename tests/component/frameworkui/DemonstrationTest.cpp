@@ -2,6 +2,7 @@
 
 #include "Protocol/JSONStruct/ParseJSONUtil.h"
 #include "component/framework/CoreWorld.h"
+#include "support/FakeDevices.h"
 
 #include <QFileInfo>
 #include <QImage>
@@ -9,13 +10,27 @@
 #include <atomic>
 #include <set>
 
+using framework::CSimulatedDevices;
+
 namespace {
 
 /// A catalogue in this process that loses one answer.
 class Demonstration : public CoreTest
 {
 protected:
-    Demonstration() { StartCore(); }
+    Demonstration()
+    {
+        connectDevices = true;
+        StartCore();
+        fakedevices::Device device = fakedevices::Make(3);
+        device.password = CSimulatedDevices::kPassword;
+        fakedevices::Set("127.0.0.1", device);
+    }
+    ~Demonstration() override
+    {
+        core.reset();
+        fakedevices::Clear();
+    }
 
     void Serve(const lpc::CallBackData& call)
     {
@@ -46,9 +61,12 @@ protected:
     {
         framework::CDemonstration demonstration(
             *core, Folder(), [this] { ++reports; }, kFiles);
+        if (demonstration.WantsDevices())
+            demonstration.TakeDevices({"admin", {{"East", port}, {"West", port + 1}}});
         demonstration.Run();
     }
 
+    std::int32_t port = 4000;
     static constexpr int kFiles = 12;
     static constexpr std::size_t kLost = 6; ///< the first clip is among those before
     protocol::LocalFileQueryResult known;   ///< the latest record
@@ -63,8 +81,11 @@ TEST_F(Demonstration, GoesOnWhereItEndedAndMakesEachFileOnce)
     component.BecomeReady();
     Run();
     EXPECT_EQ(records.size(), kLost);
+    port = 5000;
     for (int again = 0; again < 2; ++again)
         Run();
+    ASSERT_EQ(core->Resources().Devices().size(), 2u);
+    EXPECT_EQ(core->Resources().Devices()[1].port, 5001);
     EXPECT_EQ(reports, 2);
     ASSERT_EQ(records.size(), std::size_t(kFiles));
 

@@ -28,7 +28,7 @@ TEST(DeviceForm, SaysWhichFieldsCannotBeTaken)
         {"Gate", "192.0.2.10", "admin", {}},
         {"Gate", "camera-3.site.example", "admin", {}},
         {"Gate", "2001:db8::7", "admin", {}},
-        {"", "", "", {DeviceField::Name, DeviceField::Address, DeviceField::UserName}},
+        {"", "", "", {DeviceField::Address, DeviceField::UserName}},
         {"Taken", "192.0.2.10", "admin", {DeviceField::Name}},
         {std::string(65, 'x'), "192.0.2.10", "admin", {DeviceField::Name}},
         {"Gate", "192.0.2.300", "admin", {DeviceField::Address}},
@@ -51,32 +51,96 @@ TEST(DeviceForm, SaysWhichFieldsCannotBeTaken)
 
 struct DeviceDialogTest : testing::Test
 {
+    DeviceDialogTest() { answer.info.name[0] = 'X'; }
+
+    std::unique_ptr<CDeviceDialog> Open(const std::string& guid = {})
+    {
+        const auto test = [this](const DeviceEntry& entry, CDeviceLinks::OnTried onTried) {
+            tested.push_back(entry);
+            if (isAnswering)
+                onTried(answer);
+            else
+                waiting = std::move(onTried);
+        };
+        return std::make_unique<CDeviceDialog>(resources, test, QString::fromStdString(guid), nullptr);
+    }
+
+    static void Enter(CDeviceDialog& dialog, const char* address)
+    {
+        dialog.findChild<QLineEdit*>("deviceAddress")->setText(address);
+        dialog.findChild<QLineEdit*>("deviceUser")->setText("admin");
+        dialog.findChild<QLineEdit*>("devicePassword")->setText("secret");
+    }
+
+    static void Press(CDeviceDialog& dialog, const char* button)
+    {
+        dialog.findChild<QPushButton*>(button)->click();
+    }
+
+    bool isAnswering = true;
+    devices::TriedDevice answer;
+    CDeviceLinks::OnTried waiting;
+    std::vector<DeviceEntry> tested;
     TestDataRoot root;
     CResources resources{root.Path() + "resources.json",
                          Base::Encrypt::ParamsOf(Base::Encrypt::RandomKeyText(), "test").value(),
                          [](const ResourceChange&) {}};
 };
 
-TEST_F(DeviceDialogTest, AddsTheDeviceOnlyWhenTheFieldsAreRight)
+TEST_F(DeviceDialogTest, AddsADeviceThatIsReachedUnderANameOfItsOwn)
 {
-    CDeviceDialog dialog(resources, {}, nullptr);
-    auto* apply = dialog.findChild<QPushButton*>("apply");
-    auto* name = dialog.findChild<QLineEdit*>("deviceName");
-    apply->click();
-    EXPECT_NE(dialog.result(), QDialog::Accepted);
-    EXPECT_TRUE(name->property("invalid").toBool());
-    EXPECT_THAT(resources.Devices(), IsEmpty());
-
-    name->setText("Gate");
-    EXPECT_FALSE(name->property("invalid").toBool());
-    dialog.findChild<QLineEdit*>("deviceAddress")->setText("192.0.2.10");
-    dialog.findChild<QLineEdit*>("deviceUser")->setText("admin");
-    dialog.findChild<QLineEdit*>("devicePassword")->setText("secret");
-    apply->click();
-    EXPECT_EQ(dialog.result(), QDialog::Accepted);
-    ASSERT_EQ(resources.Devices().size(), 1u);
+    for (const char* address : {"192.0.2.10", "192.0.2.11"}) {
+        const auto dialog = Open();
+        Press(*dialog, "apply");
+        EXPECT_NE(dialog->result(), QDialog::Accepted);
+        EXPECT_TRUE(dialog->findChild<QLineEdit*>("deviceAddress")->property("invalid").toBool());
+        Enter(*dialog, address);
+        EXPECT_FALSE(dialog->findChild<QLineEdit*>("deviceAddress")->property("invalid").toBool());
+        Press(*dialog, "apply");
+        EXPECT_EQ(dialog->result(), QDialog::Accepted);
+        EXPECT_EQ(resources.Devices().back().guid, dialog->Guid().toStdString());
+    }
+    ASSERT_EQ(resources.Devices().size(), 2u);
     EXPECT_EQ(resources.Devices()[0].password, "secret");
-    EXPECT_EQ(resources.Devices()[0].guid, dialog.Guid().toStdString());
+    EXPECT_EQ(resources.Devices()[0].name, "X");
+    EXPECT_EQ(resources.Devices()[1].name, "X 2");
+}
+
+TEST_F(DeviceDialogTest, TakesADeviceOutOfReachWhenToldToAndNoneThatRefuses)
+{
+    const std::pair<std::uint32_t, bool> rows[] = {{QXNET_ERROR_PASSWORD, false},
+                                                   {QXNET_ERROR_VERSION, false},
+                                                   {QXNET_ERROR_CERTIFICATE_CHANGED, false},
+                                                   {QXNET_ERROR_UNREACHABLE, true}};
+    const auto dialog = Open();
+    Enter(*dialog, "192.0.2.10");
+    for (const auto& [error, mayAnyway] : rows) {
+        answer.error = error;
+        Press(*dialog, "apply");
+        EXPECT_TRUE(dialog->findChild<QWidget*>("deviceRefusal")->isVisibleTo(dialog.get())) << error;
+        EXPECT_EQ(dialog->findChild<QWidget*>("anyway")->isVisibleTo(dialog.get()), mayAnyway) << error;
+        EXPECT_THAT(resources.Devices(), IsEmpty());
+    }
+    Press(*dialog, "anyway");
+    ASSERT_EQ(resources.Devices().size(), 1u);
+    EXPECT_EQ(resources.Devices()[0].name, "192.0.2.10");
+}
+
+TEST_F(DeviceDialogTest, StopsWaitingWhenItIsCancelledAndHearsNoLateAnswer)
+{
+    isAnswering = false;
+    auto dialog = Open();
+    Enter(*dialog, "192.0.2.10");
+    Press(*dialog, "apply");
+    const auto* wait = dialog->findChild<QWidget*>("deviceWaiting");
+    EXPECT_TRUE(wait->isVisibleTo(dialog.get()));
+    Press(*dialog, "cancel");
+    EXPECT_FALSE(wait->isVisibleTo(dialog.get()));
+    waiting(answer);
+    Press(*dialog, "apply");
+    dialog.reset();
+    waiting(answer);
+    EXPECT_THAT(resources.Devices(), IsEmpty());
 }
 
 TEST_F(DeviceDialogTest, ARefusalOfTheListIsShownAndNothingChanges)
@@ -87,13 +151,18 @@ TEST_F(DeviceDialogTest, ARefusalOfTheListIsShownAndNothingChanges)
     other.name = "Yard";
     other.address = "192.0.2.11";
     const std::string second = resources.Add(other, error);
-    CDeviceDialog dialog(resources, QString::fromStdString(second), nullptr);
-    dialog.findChild<QLineEdit*>("deviceAddress")->setText("192.0.2.10");
-    dialog.findChild<QPushButton*>("apply")->click();
-    EXPECT_NE(dialog.result(), QDialog::Accepted);
+    const auto renamed = Open(second);
+    renamed->findChild<QLineEdit*>("deviceName")->setText("Garden");
+    Press(*renamed, "apply");
+    EXPECT_THAT(tested, IsEmpty());
+    const auto dialog = Open(second);
+    dialog->findChild<QLineEdit*>("deviceAddress")->setText("192.0.2.10");
+    Press(*dialog, "apply");
+    EXPECT_NE(dialog->result(), QDialog::Accepted);
     DeviceEntry kept;
     ASSERT_TRUE(resources.EntryOf(second, kept));
     EXPECT_EQ(kept.address, "192.0.2.11");
+    EXPECT_EQ(kept.name, "Garden");
 }
 
 } // namespace

@@ -81,7 +81,11 @@ struct LocalFilesPageTest : testing::Test
         entry.name = "Gate";
         entry.address = "192.0.2.10";
         std::string error;
-        EXPECT_NE(resources.Add(entry, error), "");
+        devices::DeviceStatus status;
+        status.id = resources.Add(entry, error);
+        status.state = devices::SessionState::Online;
+        status.channels = {{1, QXNET_CHANNEL_ONLINE, "Camera 01"}, {2, QXNET_CHANNEL_ONLINE, {}}};
+        resources.Hear(status);
         page = std::make_unique<CLocalFilesPage>(source, resources);
         page->show();
     }

@@ -1,0 +1,24 @@
+#include "DeviceSessions/TryDevice.h"
+
+#include "DeviceSessions/DeviceCalls.h"
+
+namespace devices {
+
+TriedDevice TryDevice(const DeviceAddress& address, std::chrono::milliseconds answer)
+{
+    TriedDevice tried;
+    CallError error;
+    if (!QxNet_Init()) {
+        tried.error = QXNET_ERROR_NOT_INITIALISED;
+        return tried;
+    }
+    const std::int32_t login = LogIn(address, answer, tried.info, error);
+    if (login >= 0)
+        LogOut(login);
+    (void)QxNet_Cleanup();
+    tried.error = error.error;
+    tried.moduleError = error.module;
+    return tried;
+}
+
+} // namespace devices
