@@ -82,7 +82,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     sdk::CAnswerReader pieces(expected);
     const sdk::Failure failure = TakeAll(whole, bytes, bytes.size());
     const sdk::Failure inPieces = TakeAll(pieces, bytes, first);
-    FUZZ_CHECK(failure.code == inPieces.code && (failure || whole.IsComplete() == pieces.IsComplete()));
+    // A head that does not end may be found bad earlier or later.
+    const bool hasHead = bytes.find("\r\n\r\n") != std::string::npos;
+    FUZZ_CHECK(!hasHead ||
+               (failure.code == inPieces.code && (failure || whole.IsComplete() == pieces.IsComplete())));
     if (!failure && whole.IsComplete())
         CheckAnswer(whole.Result(), expected);
     CheckBody(bytes);

@@ -4,19 +4,13 @@
 
 namespace UiDataController {
 
-namespace {
-
-auto Tied(const ElementInfo& element)
-{
-    return std::tie(element.id, element.type, element.deviceId, element.groupId, element.name, element.state,
-                    element.problem, element.typeCode, element.subType, element.number);
-}
-
-} // namespace
-
 bool ElementInfo::operator==(const ElementInfo& other) const
 {
-    return Tied(*this) == Tied(other);
+    const auto all = [](const ElementInfo& info) {
+        return std::tie(info.id, info.type, info.deviceId, info.groupId, info.name, info.state, info.problem,
+                        info.typeCode, info.subType, info.number);
+    };
+    return all(*this) == all(other);
 }
 
 } // namespace UiDataController

@@ -86,6 +86,22 @@ TEST(ResourceTreeModel, OrdersByDeviceAndByGroup)
     EXPECT_EQ(DumpOf(model), "g1(g2(r1/1 r2/4 r3/1) r1/4 r2/1 r2/2) g3(r1/2 r1/3 r2/3 r2/5) r3/2 s1");
 }
 
+TEST(ResourceTreeModel, BringsElementsTogetherInWhateverOrderTheyCome)
+{
+    const ElementChanges changes = {
+        {Kind::Add, sampleChannel("r9", 2, "Channel", ElementState::Online, "g9")},
+        {Kind::Add, sampleGroup("g9", "Group", "g8")},
+        {Kind::Add, sampleGroup("g8", "Above", "g9")},
+        {Kind::Add, sampleDevice("r9", "Device")}};
+    CSampleElements source;
+    CResourceTreeModel byDevice(source);
+    CResourceTreeModel byGroup(source, ResourceOrder::ByGroup);
+    source.Apply(changes);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(DumpOf(byDevice), "r9(r9/2)");
+    EXPECT_EQ(DumpOf(byGroup), "g9(g8 r9/2)") << "a circle of groups stays in sight";
+}
+
 TEST(ResourceTreeModel, MakesRowsOnlyWhenTheyAreAskedFor)
 {
     CSampleElements source(siteElements());

@@ -91,6 +91,8 @@ TEST(SdkAbility, DocumentsAreTakenOnlyWithinTheirLimits)
         {"<!DOCTYPE a [<!ENTITY b \"c\">]><a>&b;</a>", false},
         {"<!DOCTYPE a SYSTEM \"http://192.0.2.1/a.dtd\"><a/>", false},
         {"<a>&b;</a>", false},
+        {"<a>" + std::string(4093, 'x') + "</a>", true},
+        {"<a>" + std::string(4094, 'x') + "</a>", false},
         {"<a><b></a>", false},
         {"<a/><b/>", false},
         {"<a>\xE4</a>", false},

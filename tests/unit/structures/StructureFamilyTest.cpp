@@ -1,5 +1,8 @@
 #include "DeviceStructures/Commands.h"
 #include "DeviceStructures/Json.h"
+#include "DeviceStructures/Markdown.h"
+
+#include "Base/FileUtil.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -89,6 +92,15 @@ TEST(ConfigCommands, HaveEachNameAndNumberOnce)
             }
     }
     EXPECT_EQ(devices::FindCommand(0), nullptr);
+}
+
+TEST(StructuresPage, IsWhatTheListsGive)
+{
+    std::string page;
+    ASSERT_TRUE(Base::FileUtil::ReadFile(STRUCTURES_PAGE, page));
+    const auto tables = page.find("## Parameters\n");
+    ASSERT_NE(tables, std::string::npos);
+    EXPECT_EQ(page.substr(tables), devices::StructureTables()) << "vantor-device --structures prints it";
 }
 
 TEST(StructureCheck, FindsFaultsDeepInside)

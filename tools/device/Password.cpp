@@ -1,0 +1,36 @@
+#include "device/Password.h"
+
+#include "device/Invocation.h"
+
+#include "Base/FileUtil.h"
+#include "Base/StringUtil.h"
+#include "TerminalPassword/TerminalPassword.h"
+
+#include <cstdlib>
+#include <istream>
+#include <ostream>
+
+namespace devicetool {
+
+std::optional<std::string> FindPassword(const Invocation& invocation, std::istream& in, std::ostream& err)
+{
+    if (const std::string file = invocation.Value("--password-file"); !file.empty()) {
+        std::string text;
+        const bool read =
+            file == "-" ? bool(std::getline(in, text)) : Base::FileUtil::ReadFile(file, text, 4096);
+        if (read)
+            return text.substr(0, text.find_first_of("\r\n"));
+        err << "vantor-device: the password cannot be read from " << file << "\n";
+        return std::nullopt;
+    }
+    if (const char* password = std::getenv("VANTOR_DEVICE_PASSWORD"))
+        return password;
+    auto typed = terminal::AskPassword("Password of " + invocation.target->user + " at " +
+                                       invocation.target->host + ": ");
+    if (typed)
+        return Base::LocalToUTF8(*typed);
+    err << "vantor-device: no password: give --password-file or VANTOR_DEVICE_PASSWORD\n";
+    return std::nullopt;
+}
+
+} // namespace devicetool

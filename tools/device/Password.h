@@ -1,0 +1,15 @@
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace devicetool {
+
+struct Invocation;
+
+/// The password of an invocation: the first line of --password-file ("-": of in), else the environment's
+/// VANTOR_DEVICE_PASSWORD, else what the person at the terminal types. None with a line to err.
+std::optional<std::string> FindPassword(const Invocation& invocation, std::istream& in, std::ostream& err);
+
+} // namespace devicetool
