@@ -126,7 +126,7 @@ TEST_P(Client, TakesClicksAndKeysWhereTheyAreMeant)
         client.Write(gallery.Of("galleryNameEdit"), page, "guest");
     }
     client.Click("nav:Devices");
-    const Area search = client.Item("ui:search");
+    const Area search = client.Item("ui:resourceSearch");
     client.Write(search, client.TopLevel(), "host");
     client.ExpectText(search, client.TopLevel(), "host");
 
