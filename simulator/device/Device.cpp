@@ -129,8 +129,11 @@ std::variant<std::string, HttpAnswer> CDevice::Identify(const HttpRequest& reque
 {
     if (request.version != "1")
         return Refusal(505, 301);
-    if (auto user = m_sessions.Touch(request.session))
-        return std::move(*user);
+    if (auto user = m_sessions.Touch(request.session)) {
+        if (m_users.LetsIn(*user))
+            return std::move(*user);
+        m_sessions.End(request.session);
+    }
     HttpAnswer answer;
     answer.status = 401;
     answer.headers = {{"Vantor-Session", "ended"}};
