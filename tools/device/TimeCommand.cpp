@@ -3,6 +3,7 @@
 
 #include "Base/StringUtil.h"
 #include "Base/TimeUtil.h"
+#include "DeviceStructures/Text.h"
 #include "QxNetSDK/Structures.h"
 
 #include <cstdlib>
@@ -52,7 +53,7 @@ void ShowClock(Context& context, const QxNetClock& clock)
                           clock.hour, clock.minute, clock.second, clock.zone < 0 ? '-' : '+',
                           std::abs(clock.zone) / 60, std::abs(clock.zone) % 60);
     if (clock.timeServer)
-        context.out << ", set by the time server " << clock.serverAddress;
+        context.out << ", set by the time server " << devices::Visible(clock.serverAddress);
     context.out << "\n";
 }
 
