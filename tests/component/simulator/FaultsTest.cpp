@@ -120,4 +120,20 @@ TEST_F(DeviceSimFaults, ABadFileIsToldAndChangesNothing)
     EXPECT_EQ(page[12], 2);
 }
 
+TEST(DeviceSimVoice, HasItsFaultsWhenItEnds)
+{
+    DeviceSim sim({"--devices", "1"});
+    sim.SetFaults(R"([{"path": "voice", "fault": "version", "version": 2, "times": 1}])");
+    PlainClient speaker(sim.Port());
+    ASSERT_EQ(speaker.Login().status, 200);
+    for (const char* version : {"2", "1"}) {
+        ASSERT_TRUE(speaker.Send(
+            speaker.Head("POST", "voice/1?encoding=0&rate=8000", "Transfer-Encoding: chunked\r\n") +
+            "1\r\nx\r\n0\r\n\r\n"));
+        const auto answer = speaker.Receive();
+        EXPECT_EQ(answer.status, 204);
+        EXPECT_EQ(answer.Header("Vantor-Protocol"), version);
+    }
+}
+
 } // namespace
