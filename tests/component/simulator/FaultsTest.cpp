@@ -91,16 +91,17 @@ TEST_F(DeviceSimFaults, LeaveOthersAlone)
 {
     PlainClient waiting(m_sim.Port());
     ASSERT_EQ(waiting.Login().status, 200);
-    m_sim.SetFaults(R"([{"path":"config/6118","times":1,"fault":"silent"},
+    m_sim.SetFaults(R"([{"path":"config/6118","channel":1,"fault":"silent"},
                         {"path":"config/6118","times":1,"fault":"length","bytes":4294967296}])");
     ASSERT_TRUE(waiting.Send(waiting.Head("GET", kRequest, "")));
     PlainClient other(m_sim.Port());
     ASSERT_EQ(other.Login().status, 200);
-    ASSERT_TRUE(other.Send(other.Head("GET", kRequest, "")));
+    const std::string second = "config/6118?channel=2";
+    ASSERT_TRUE(other.Send(other.Head("GET", second, "")));
     EXPECT_NE(other.ReceiveRaw(100).find("Content-Length: 4294967296"), std::string::npos);
     PlainClient third(m_sim.Port());
     ASSERT_EQ(third.Login().status, 200);
-    EXPECT_EQ(third.Ask("GET", kRequest).status, 200);
+    EXPECT_EQ(third.Ask("GET", second).status, 200);
 }
 
 TEST_F(DeviceSimFaults, ABadFileIsToldAndChangesNothing)
