@@ -41,7 +41,7 @@ Tone ToneOfChannel(int state)
     case QXNET_CHANNEL_NOT_SUPPORTED:
         return Tone::Warn;
     default:
-        return Tone::Idle;
+        return Tone::Error;
     }
 }
 
@@ -150,6 +150,8 @@ void CDeviceDetails::ShowChannel(const devices::DeviceStatus& status,
         tr("Channel %1: %2")
             .arg(QLocale().toString(channel->channelNo), QString::fromStdString(channel->name)));
     const auto place = static_cast<std::size_t>(channel->channelNo) - 1;
+    if (status.state == SessionState::Connecting)
+        return m_channelState->Set(TextOf(status.state), ToneOf(status.state));
     const bool isHeard = status.state == SessionState::Online && place < status.channels.size();
     const int state = isHeard ? status.channels[place].state : QXNET_CHANNEL_OFFLINE;
     m_channelState->Set(ChannelStateText(state), ToneOfChannel(state));
