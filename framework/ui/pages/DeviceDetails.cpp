@@ -70,6 +70,8 @@ CDeviceDetails::CDeviceDetails(QWidget* parent)
     m_channelState->setObjectName("channelState");
     m_problem->SetAction(tr("Try now"));
     connect(m_problem, &CBanner::SignalAction, this, &CDeviceDetails::TryNowRequested);
+    alignToReading(m_title);
+    alignToReading(m_channelTitle);
     auto* head = new QHBoxLayout;
     head->setSpacing(Grid::Small);
     head->addWidget(m_icon);
@@ -102,6 +104,7 @@ QLabel* CDeviceDetails::AddRow(const QString& label, const char* name)
     QLabel* value = makeLabel({}, TextRole::Plain, this);
     value->setObjectName(name);
     value->setWordWrap(true);
+    alignToReading(value);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_form->AddRow(label, value);
     return value;
