@@ -38,4 +38,9 @@ QIcon iconOnAccent(const QString& name)
     return IconOf(name, QStringLiteral("-on-accent"));
 }
 
+QIcon fadedIcon(const QString& name)
+{
+    return IconOf(name, QStringLiteral("-disabled"));
+}
+
 } // namespace VantorGUIToolkit

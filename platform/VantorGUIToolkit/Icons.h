@@ -14,4 +14,7 @@ QIcon icon(const QString& name);
 /// The same for a button of kind "primary", whose fill is the accent colour.
 QIcon iconOnAccent(const QString& name);
 
+/// The same for a thing that is away: the disabled picture where nothing is selected.
+QIcon fadedIcon(const QString& name);
+
 } // namespace VantorGUIToolkit

@@ -661,8 +661,8 @@
         <translation>لم يُختر أي جهاز</translation>
     </message>
     <message>
-        <source>Choose one in the list, or add the first one.</source>
-        <translation>اختر جهازًا من القائمة أو أضف أول جهاز.</translation>
+        <source>Choose a device or a camera to see more about it.</source>
+        <translation>اختر جهازًا أو كاميرا لعرض التفاصيل.</translation>
     </message>
     <message>
         <source>Try now</source>

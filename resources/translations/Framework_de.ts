@@ -95,11 +95,11 @@
     </message>
     <message>
         <source>Connecting</source>
-        <translation>Verbindet</translation>
+        <translation>Wird verbunden</translation>
     </message>
     <message>
         <source>Recording</source>
-        <translation>Zeichnet auf</translation>
+        <translation>Nimmt auf</translation>
     </message>
     <message>
         <source>Not supported by its device</source>
@@ -328,7 +328,7 @@
     </message>
     <message>
         <source>The password must have at most 127 bytes.</source>
-        <translation>Das Kennwort darf höchstens 127 Byte lang sein.</translation>
+        <translation>Das Passwort darf höchstens 127 Byte lang sein.</translation>
     </message>
 </context>
 <context>
@@ -591,7 +591,7 @@
     </message>
     <message>
         <source>Password</source>
-        <translation>Kennwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>The device does not exist any more.</source>
@@ -607,7 +607,7 @@
     </message>
     <message>
         <source>Connecting to the device…</source>
-        <translation>Das Gerät wird angesprochen …</translation>
+        <translation>Verbindung zum Gerät wird hergestellt …</translation>
     </message>
     <message>
         <source>Add anyway</source>
@@ -661,8 +661,8 @@
         <translation>Kein Gerät gewählt</translation>
     </message>
     <message>
-        <source>Choose one in the list, or add the first one.</source>
-        <translation>Wählen Sie eines in der Liste, oder fügen Sie das erste hinzu.</translation>
+        <source>Choose a device or a camera to see more about it.</source>
+        <translation>Wählen Sie ein Gerät oder eine Kamera, um mehr darüber zu sehen.</translation>
     </message>
     <message>
         <source>Try now</source>
@@ -1100,7 +1100,7 @@
     </message>
     <message>
         <source>Password</source>
-        <translation>Kennwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1112,7 +1112,7 @@
     </message>
     <message>
         <source>The password is wrong.</source>
-        <translation>Das Kennwort ist falsch.</translation>
+        <translation>Das Passwort ist falsch.</translation>
     </message>
 </context>
 <context>
@@ -1189,7 +1189,7 @@
     </message>
     <message>
         <source>Password</source>
-        <translation>Kennwort</translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Unchanged</source>

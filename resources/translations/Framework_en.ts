@@ -661,8 +661,8 @@
         <translation>No device chosen</translation>
     </message>
     <message>
-        <source>Choose one in the list, or add the first one.</source>
-        <translation>Choose one in the list, or add the first one.</translation>
+        <source>Choose a device or a camera to see more about it.</source>
+        <translation>Choose a device or a camera to see more about it.</translation>
     </message>
     <message>
         <source>Try now</source>

@@ -110,7 +110,7 @@
     <name>Journal</name>
     <message>
         <source>Alarm</source>
-        <translation>התראה</translation>
+        <translation>אזעקה</translation>
     </message>
     <message>
         <source>Device</source>
@@ -165,7 +165,7 @@
     </message>
     <message>
         <source>Alarm outputs</source>
-        <translation>יציאות התראה</translation>
+        <translation>יציאות אזעקה</translation>
     </message>
     <message>
         <source>Wipers</source>
@@ -244,7 +244,7 @@
     </message>
     <message>
         <source>Test alarm of %1</source>
-        <translation>התראת ניסיון מ-%1</translation>
+        <translation>אזעקת ניסיון מ-%1</translation>
     </message>
     <message>
         <source>Changed settings: %1.</source>
@@ -654,15 +654,15 @@
     </message>
     <message>
         <source>Simulate an alarm</source>
-        <translation>הדמה התראה</translation>
+        <translation>הדמה אזעקה</translation>
     </message>
     <message>
         <source>No device chosen</source>
         <translation>לא נבחר התקן</translation>
     </message>
     <message>
-        <source>Choose one in the list, or add the first one.</source>
-        <translation>בחרו אחד ברשימה, או הוסיפו את הראשון.</translation>
+        <source>Choose a device or a camera to see more about it.</source>
+        <translation>בחר התקן או מצלמה כדי לראות פרטים.</translation>
     </message>
     <message>
         <source>Try now</source>

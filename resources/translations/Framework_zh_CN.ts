@@ -661,8 +661,8 @@
         <translation>未选择设备</translation>
     </message>
     <message>
-        <source>Choose one in the list, or add the first one.</source>
-        <translation>请在列表中选择，或添加第一个设备。</translation>
+        <source>Choose a device or a camera to see more about it.</source>
+        <translation>选择设备或摄像机以查看详细信息。</translation>
     </message>
     <message>
         <source>Try now</source>

@@ -41,7 +41,7 @@ Tone ToneOfChannel(int state)
     case QXNET_CHANNEL_NOT_SUPPORTED:
         return Tone::Warn;
     default:
-        return Tone::Idle;
+        return Tone::Error;
     }
 }
 
@@ -70,6 +70,8 @@ CDeviceDetails::CDeviceDetails(QWidget* parent)
     m_channelState->setObjectName("channelState");
     m_problem->SetAction(tr("Try now"));
     connect(m_problem, &CBanner::SignalAction, this, &CDeviceDetails::TryNowRequested);
+    alignToReading(m_title);
+    alignToReading(m_channelTitle);
     auto* head = new QHBoxLayout;
     head->setSpacing(Grid::Small);
     head->addWidget(m_icon);
@@ -102,6 +104,7 @@ QLabel* CDeviceDetails::AddRow(const QString& label, const char* name)
     QLabel* value = makeLabel({}, TextRole::Plain, this);
     value->setObjectName(name);
     value->setWordWrap(true);
+    alignToReading(value);
     value->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_form->AddRow(label, value);
     return value;
@@ -150,6 +153,8 @@ void CDeviceDetails::ShowChannel(const devices::DeviceStatus& status,
         tr("Channel %1: %2")
             .arg(QLocale().toString(channel->channelNo), QString::fromStdString(channel->name)));
     const auto place = static_cast<std::size_t>(channel->channelNo) - 1;
+    if (status.state == SessionState::Connecting)
+        return m_channelState->Set(TextOf(status.state), ToneOf(status.state));
     const bool isHeard = status.state == SessionState::Online && place < status.channels.size();
     const int state = isHeard ? status.channels[place].state : QXNET_CHANNEL_OFFLINE;
     m_channelState->Set(ChannelStateText(state), ToneOfChannel(state));

@@ -11,7 +11,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMovie>
-#include <QPointer>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -39,10 +38,9 @@ QLineEdit* MakeEdit(const char* name, QWidget* parent)
 CDeviceDialog::CDeviceDialog(CResources& resources, Test test, const QString& guid, QWidget* parent)
     : CDialog(guid.isEmpty() ? tr("Add device") : tr("Edit device"), parent), m_resources(resources),
       m_test(std::move(test)), m_guid(guid), m_refusal(new CBanner({}, Tone::Error, this)),
-      m_form(new CFormGrid(this)), m_name(MakeEdit("deviceName", this)),
-      m_address(MakeEdit("deviceAddress", this)), m_port(new QSpinBox(this)),
+      m_form(new CFormGrid(this)), m_address(MakeEdit("deviceAddress", this)), m_port(new QSpinBox(this)),
       m_tls(new CSwitch(tr("Encrypted connection (TLS)"), this)), m_user(MakeEdit("deviceUser", this)),
-      m_password(new CPasswordEdit(this)), m_waiting(MakeWaiting())
+      m_password(new CPasswordEdit(this)), m_name(MakeEdit("deviceName", this)), m_waiting(MakeWaiting())
 {
     setObjectName("deviceDialog");
     setMinimumWidth(kWidth);
@@ -176,13 +174,22 @@ void CDeviceDialog::End(const DeviceEntry& entry, const devices::TriedDevice& tr
     }
     Refuse(DeviceErrorText(tried.error, tried.moduleError));
     m_anyway->setVisible(IsOutOfReach(tried.error));
+    if (tried.error == QXNET_ERROR_PASSWORD) {
+        m_password->setFocus(Qt::OtherFocusReason);
+        m_password->selectAll();
+    }
 }
 
+// What cannot be used loses the keyboard, and gets it back.
 void CDeviceDialog::SetWaiting(bool isWaiting)
 {
+    if (isWaiting)
+        m_focusBefore = focusWidget();
     m_waiting->setVisible(isWaiting);
     m_form->setEnabled(!isWaiting);
     m_apply->setEnabled(!isWaiting);
+    if (!isWaiting && m_focusBefore)
+        m_focusBefore->setFocus(Qt::OtherFocusReason);
 }
 
 void CDeviceDialog::Refuse(const QString& why)

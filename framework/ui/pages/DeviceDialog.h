@@ -4,6 +4,8 @@
 #include "framework/core/DeviceLinks.h"
 #include "framework/ui/pages/DeviceForm.h"
 
+#include <QPointer>
+
 class QCheckBox;
 class QLineEdit;
 class QPushButton;
@@ -56,17 +58,18 @@ private:
     QString m_guid;
     VantorGUIToolkit::CBanner* m_refusal;
     VantorGUIToolkit::CFormGrid* m_form;
-    QLineEdit* m_name;
-    QLineEdit* m_address;
+    QLineEdit* m_address; ///< from here on in the order in which Tab goes through them
     QSpinBox* m_port;
     QCheckBox* m_tls;
     QLineEdit* m_user;
     VantorGUIToolkit::CPasswordEdit* m_password;
+    QLineEdit* m_name;
     QWidget* m_waiting; ///< shown while a device is tried
     QPushButton* m_anyway = nullptr;
     QPushButton* m_apply = nullptr;
-    bool m_tried = false; ///< from the first try on, errors follow the typing
-    int m_attempt = 0;    ///< the answer of an earlier one is not waited for any more
+    QPointer<QWidget> m_focusBefore; ///< the wait
+    bool m_tried = false;            ///< from the first try on, errors follow the typing
+    int m_attempt = 0;               ///< the answer of an earlier one is not waited for any more
 };
 
 } // namespace framework

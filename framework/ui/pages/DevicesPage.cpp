@@ -87,7 +87,7 @@ QWidget* CDevicesPage::MakeDetailsSide()
 {
     auto* side = new QWidget(this);
     auto* nothing = new CEmptyState("device", tr("No device chosen"),
-                                    tr("Choose one in the list, or add the first one."), m_sides);
+                                    tr("Choose a device or a camera to see more about it."), m_sides);
     m_details = new CDeviceDetails(m_sides);
     connect(m_details, &CDeviceDetails::TryNowRequested, this, &CDevicesPage::TryNow);
     m_sides->addWidget(nothing);
@@ -124,7 +124,9 @@ void CDevicesPage::AddDevice()
     if (dialog.exec() != QDialog::Accepted)
         return;
     Reload();
-    Select(dialog.Guid());
+    // The tree takes its changes when the event loop runs.
+    QMetaObject::invokeMethod(
+        this, [this, guid = dialog.Guid()] { Select(guid); }, Qt::QueuedConnection);
 }
 
 void CDevicesPage::EditDevice()

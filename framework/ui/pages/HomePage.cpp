@@ -217,15 +217,12 @@ void CHomePage::ShowEvents()
 {
     Clear(*m_events);
     const std::vector<JournalEntry> entries = m_operations.Entries();
-    // A name or an unknown sentence in Latin letters would stand at the left in a layout from right to left.
-    const Qt::Alignment start = (layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft) |
-                                Qt::AlignAbsolute | Qt::AlignVCenter;
     const int count = std::min(kEvents, static_cast<int>(entries.size()));
     for (int row = 0; row < count; ++row) {
         const JournalEntry& entry = entries[entries.size() - 1 - static_cast<std::size_t>(row)];
         QLabel* text = makeLabel(InUserLanguage(entry.text), TextRole::Plain, this);
         text->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        text->setAlignment(start);
+        alignToReading(text);
         m_events->addWidget(makeIconLabel(JournalKindIcon(entry.kind), Grid::Large, this), row, 0);
         m_events->addWidget(makeLabel(JournalTimeText(entry), TextRole::Hint, this), row, 1);
         m_events->addWidget(text, row, 2);

@@ -4,7 +4,18 @@
 
 namespace framework {
 
-CEventRelay::CEventRelay() = default;
+namespace {
+
+constexpr int kGatherMs = 50;
+
+} // namespace
+
+CEventRelay::CEventRelay()
+{
+    m_resources.setSingleShot(true);
+    m_resources.setInterval(kGatherMs);
+    connect(&m_resources, &QTimer::timeout, this, &CEventRelay::ResourcesChanged);
+}
 
 template<typename Task>
 void CEventRelay::Post(Task task)
@@ -19,7 +30,10 @@ void CEventRelay::OnComponentState(ComponentState state, const std::string& deta
 
 void CEventRelay::OnResourcesChanged()
 {
-    Post([this] { emit ResourcesChanged(); });
+    Post([this] {
+        if (!m_resources.isActive())
+            m_resources.start();
+    });
 }
 
 void CEventRelay::OnUsersChanged()

@@ -4,10 +4,13 @@
 
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 namespace framework {
 
-/// Brings the events of the core to the GUI thread, as signals.
+/// Brings the events of the core to the GUI thread, as signals. Changes of the resources come in floods when
+/// a network fails, and whoever hears of them looks at all devices: those of some milliseconds are one
+/// signal.
 class CEventRelay : public QObject, public IFrameworkEvents
 {
     Q_OBJECT
@@ -33,6 +36,8 @@ signals:
 private:
     template<typename Task>
     void Post(Task task);
+
+    QTimer m_resources; ///< runs from the first change to its signal
 };
 
 } // namespace framework

@@ -67,7 +67,7 @@ bool isReachable(ElementState state)
 QIcon elementIcon(ElementType type, ElementState state)
 {
     const bool isFaded = type != ElementType::Group && !isReachable(state);
-    return VantorGUIToolkit::icon(isFaded ? IconName(type) + "-disabled" : IconName(type));
+    return isFaded ? VantorGUIToolkit::fadedIcon(IconName(type)) : VantorGUIToolkit::icon(IconName(type));
 }
 
 } // namespace UiDataController

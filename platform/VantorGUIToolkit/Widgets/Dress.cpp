@@ -73,6 +73,12 @@ QLabel* makeLabel(const QString& text, TextRole role, QWidget* parent)
     return label;
 }
 
+void alignToReading(QLabel* label)
+{
+    const Qt::Alignment start = label->layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+    label->setAlignment(start | Qt::AlignAbsolute | Qt::AlignVCenter);
+}
+
 QPushButton* makeButton(const QString& text, ButtonKind kind, QWidget* parent)
 {
     auto* button = new QPushButton(text, parent);

@@ -44,6 +44,10 @@ void setButtonKind(QPushButton* button, ButtonKind kind);
 /// A label of plain text (never markup, as names of devices come from outside). Titles, hints and errors
 /// wrap.
 QLabel* makeLabel(const QString& text, TextRole role, QWidget* parent);
+
+/// Lets a label begin where the user's language is read from, also when its text is of another direction: a
+/// name or an address in an Arabic window. The label has its direction already.
+void alignToReading(QLabel* label);
 QPushButton* makeButton(const QString& text, ButtonKind kind, QWidget* parent);
 
 /// A flat button with an icon of the skin; name is its accessible name and tool tip.

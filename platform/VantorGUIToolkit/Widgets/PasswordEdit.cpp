@@ -2,7 +2,7 @@
 
 #include "VantorGUIToolkit/Icons.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QToolButton>
 
 namespace VantorGUIToolkit {
@@ -21,6 +21,15 @@ void CPasswordEdit::SetRevealed(bool revealed)
     InlineButton()->setIcon(icon(revealed ? "eye-off" : "eye"));
     InlineButton()->setAccessibleName(name);
     InlineButton()->setToolTip(name);
+}
+
+// Keys that the button does not know arrive here as well, when somebody types on behind Tab.
+void CPasswordEdit::keyPressEvent(QKeyEvent* event)
+{
+    if (InlineButton()->hasFocus())
+        event->ignore();
+    else
+        CInlineEdit::keyPressEvent(event);
 }
 
 void CPasswordEdit::changeEvent(QEvent* event)

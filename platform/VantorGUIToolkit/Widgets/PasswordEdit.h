@@ -17,6 +17,7 @@ public:
     void SetRevealed(bool revealed);
 
 protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 };
