@@ -21,7 +21,8 @@ struct VoiceSource
 };
 
 /// Takes blocks of sound on a thread of its own, and opens the input again when nothing comes from it any
-/// more. For any thread.
+/// more. For any thread. It must live as long as the process: a sound server that does not answer may hold
+/// the thread longer than anybody waits for it.
 class CCapture
 {
 public:
@@ -34,21 +35,25 @@ public:
     void Stop();
 
 private:
+    Failure Begin(const VoiceSource& source, Take take);
     void Run(const VoiceSource& source, const Take& take);
+    bool Report(bool isOpened);
     std::unique_ptr<IVoiceInput> Open(const VoiceSource& source);
+    void Repeat(std::unique_ptr<IVoiceInput> input, const VoiceSource& source, const Take& take);
     void Listen(IVoiceInput& input, const Take& take);
-    void Report(const Failure& failure);
+    void Deliver(const VoiceBlock& block, const Take& take);
     void Pause(std::chrono::milliseconds time);
 
     std::mutex m_startOrStop;
     std::mutex m_mutex;
     std::condition_variable m_changed;
-    bool m_isOpened = false; ///< or failed to be
+    bool m_isRunning = false; ///< the thread
+    bool m_isOpened = false;  ///< or failed to be
+    bool m_isTaking = false;
     Failure m_failure;
-    std::int32_t m_error = 0;
-    std::atomic<bool> m_isStopping = true;
+    std::int32_t m_error = 0; ///< the thread's
+    std::atomic<bool> m_isStopping = false;
     std::atomic<std::thread::id> m_id;
-    std::thread m_thread;
 };
 
 } // namespace sdk
