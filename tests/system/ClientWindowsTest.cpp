@@ -126,7 +126,7 @@ TEST_P(Client, TakesClicksAndKeysWhereTheyAreMeant)
         client.Write(gallery.Of("galleryNameEdit"), page, "guest");
     }
     client.Click("nav:Devices");
-    const Area search = client.Item("ui:search");
+    const Area search = client.Item("ui:resourceSearch");
     client.Write(search, client.TopLevel(), "host");
     client.ExpectText(search, client.TopLevel(), "host");
 
@@ -313,7 +313,8 @@ TEST_F(BareClient, StartsWithoutSkinsStyleAndTranslations)
     const std::string bin = client.component.Path() + "product/bin/";
     const std::string built = Base::FileUtil::GetCurExeDir();
     fs::create_directories(bin);
-    for (const char* part : {"Vantor.Framework", "Vantor.Video.C", "maintain", "WidgetLayout"})
+    for (const char* part :
+         {"Vantor.Framework", "Vantor.Video.C", "libQxNetSDK.so", "maintain", "WidgetLayout"})
         fs::copy(built + part, bin + part, fs::copy_options::recursive);
     client.Start({"--language", "3"}, bin);
     const Window page = client.OpenTab(kGallery);
