@@ -106,7 +106,8 @@ bool ReadTypes(const COptions& options, Settings& settings, std::string& error)
         TypeCode type;
         int end = 0;
         const int read = std::sscanf(entry.c_str(), "%9u%n/%9u%n", &type.code, &end, &type.subType, &end);
-        if (!entry.empty() && (read < 1 || static_cast<std::size_t>(end) != entry.size())) {
+        const bool hasSign = entry.find_first_not_of("0123456789/") != std::string::npos;
+        if (!entry.empty() && (hasSign || read < 1 || static_cast<std::size_t>(end) != entry.size())) {
             error = "--type-code wants CODE or CODE/SUBTYPE, with commas between devices";
             return false;
         }
@@ -129,9 +130,17 @@ bool ReadVoice(const COptions& options, Settings& settings, std::string& error)
     return error.empty();
 }
 
+bool ReadUser(const COptions& options, Settings& settings, std::string& error)
+{
+    std::string& user = settings.door.user;
+    user = options.Value("--user", user);
+    if (user.empty() || user.size() >= QXNET_LABEL_LENGTH)
+        error = "--user must have 1 to 63 bytes";
+    return error.empty();
+}
+
 bool ReadPassword(const COptions& options, Settings& settings, std::string& error)
 {
-    settings.door.user = options.Value("--user", settings.door.user);
     if (!options.Has("--password-file"))
         return true;
     std::string& password = settings.door.password;
@@ -188,8 +197,8 @@ std::optional<Settings> ReadSettings(const std::vector<std::string>& arguments, 
     ReadPlaces(*options, settings);
     if (!ReadNumbers(*options, settings, error) || !ReadPorts(*options, settings, error) ||
         !ReadKind(*options, settings, error) || !ReadTypes(*options, settings, error) ||
-        !ReadVoice(*options, settings, error) || !ReadPassword(*options, settings, error) ||
-        !HasRoomForCameras(settings, error))
+        !ReadVoice(*options, settings, error) || !ReadUser(*options, settings, error) ||
+        !ReadPassword(*options, settings, error) || !HasRoomForCameras(settings, error))
         return std::nullopt;
     return settings;
 }

@@ -1,5 +1,6 @@
 #include "simulator/Simulator.h"
 
+#include "Base/FileUtil.h"
 #include "simulator/server/Certificate.h"
 
 #include <cjson/cJSON.h>
@@ -30,7 +31,7 @@ CSimulator::~CSimulator()
 
 bool CSimulator::Start(std::string& error)
 {
-    if (!LoadDevices(error) || !m_faults.Refresh(error))
+    if (!TakeStateFolder(error) || !LoadDevices(error) || !m_faults.Refresh(error))
         return false;
     if (m_settings.useTls) {
         m_identity = ProvideIdentity(m_settings.state, m_settings.wantsNewCertificate, error);
@@ -41,6 +42,20 @@ bool CSimulator::Start(std::string& error)
         return false;
     m_threads.Start();
     return true;
+}
+
+bool CSimulator::TakeStateFolder(std::string& error)
+{
+    using Result = Base::CFileLock::Result;
+    const std::string& folder = m_settings.state;
+    if (folder.empty())
+        return true;
+    const Result taken =
+        Base::FileUtil::MakeDirs(folder) ? m_stateLock.Take(folder + "lock") : Result::Failed;
+    if (taken != Result::Held)
+        error = "state folder " + folder +
+                (taken == Result::Busy ? " is in use by another program" : " cannot be used");
+    return taken == Result::Held;
 }
 
 bool CSimulator::LoadDevices(std::string& error)
@@ -84,8 +99,8 @@ void CSimulator::SetChannel(const ChannelSetting& setting)
 void CSimulator::Restart(unsigned device, std::chrono::milliseconds delay)
 {
     m_threads.After(delay, [this, device] {
-        m_devices[device]->EndSessions();
         m_servers[device]->Close();
+        m_devices[device]->EndSessions();
         m_threads.After(m_settings.rebootTime, [this, device] { ListenAgain(device); });
     });
 }

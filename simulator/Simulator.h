@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Base/FileLock.h"
 #include "simulator/Settings.h"
 #include "simulator/device/Device.h"
 #include "simulator/server/HttpServer.h"
@@ -25,6 +26,8 @@ public:
     std::string ReadyLine() const;
 
 private:
+    /// The folder is this program's alone from now on.
+    bool TakeStateFolder(std::string& error);
     bool LoadDevices(std::string& error);
     bool Listen(std::string& error);
     /// Lets a device be away for a while, beginning after the delay.
@@ -34,6 +37,7 @@ private:
 
     const Settings m_settings;
     const CDevice::Complain m_complain;
+    Base::CFileLock m_stateLock;
     CFaultBook m_faults;
     std::optional<TlsIdentity> m_identity;
     std::vector<std::unique_ptr<CDevice>> m_devices;

@@ -77,7 +77,7 @@ bool COptions::Number(const std::string& name, long lowest, long highest, long o
     char* end = nullptr;
     errno = 0;
     number = std::strtol(text.c_str(), &end, 10);
-    if (errno == 0 && *end == '\0' && number >= lowest && number <= highest)
+    if (errno == 0 && end != text.c_str() && *end == '\0' && number >= lowest && number <= highest)
         return true;
     error =
         name + " must be a whole number from " + std::to_string(lowest) + " to " + std::to_string(highest);

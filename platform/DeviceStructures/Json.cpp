@@ -150,9 +150,13 @@ std::string ToJson(const Layout& layout, const std::uint8_t* bytes)
 
 std::optional<std::string> FromJson(const Layout& layout, std::string_view text, Octets& bytes)
 {
-    const std::unique_ptr<cJSON, Release> object(cJSON_ParseWithLength(text.data(), text.size()));
+    const char* end = nullptr;
+    const std::unique_ptr<cJSON, Release> object(
+        cJSON_ParseWithLengthOpts(text.data(), text.size(), &end, false));
     if (!object)
         return "the text is no JSON";
+    if (text.find_first_not_of(" \t\r\n", static_cast<std::size_t>(end - text.data())) != text.npos)
+        return "something follows the JSON";
     Octets changed = bytes;
     if (Fault fault = ReadStructure(layout, object.get(), changed.data(), ""))
         return fault;

@@ -47,7 +47,7 @@ std::string ValueText(const Field& field, const std::uint8_t* at)
 {
     switch (field.kind) {
     case Kind::Text:
-        return ReadText(field, at);
+        return Visible(ReadText(field, at));
     case Kind::Octets:
         return OctetsText(field, at);
     case Kind::Numbers:
@@ -95,6 +95,25 @@ void AddStructure(const Layout& layout, const std::uint8_t* bytes, const std::st
 }
 
 } // namespace
+
+std::string Visible(std::string_view text)
+{
+    std::string visible;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        unsigned code = static_cast<std::uint8_t>(text[i]);
+        const unsigned next = i + 1 < text.size() ? static_cast<std::uint8_t>(text[i + 1]) : 0;
+        const bool isHighControl = code == 0xC2 && next >= 0x80 && next < 0xA0;
+        if (isHighControl) {
+            code = next;
+            ++i;
+        }
+        if (code < 0x20 || code == 0x7F || isHighControl)
+            visible += Format("\\u%04x", code);
+        else
+            visible += text[i];
+    }
+    return visible;
+}
 
 std::string ToText(const Layout& layout, const std::uint8_t* bytes)
 {

@@ -3,6 +3,7 @@
 #include "DeviceStructures/Values.h"
 
 #include <string>
+#include <string_view>
 
 namespace devices {
 
@@ -10,5 +11,9 @@ namespace devices {
 /// Equal neighbours of a list share their lines; what is all zero is one line with "-". The bytes must have
 /// passed Check.
 std::string ToText(const Layout& layout, const std::uint8_t* bytes);
+
+/// A text of a device as it may be shown on a terminal: control characters, which could move the cursor or
+/// worse, as "\u001b".
+std::string Visible(std::string_view text);
 
 } // namespace devices

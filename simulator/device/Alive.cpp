@@ -111,9 +111,9 @@ QxNetAlarmStates CConfiguration::AlarmStates() const
 
 std::optional<Refused> CConfiguration::SetUsers(const QxNetUserList& users)
 {
-    if (!CUsers::HasAdministrator(users))
+    if (!m_users.Takes(users))
         return kBadRequest;
-    return Keep({QXNET_GET_USERS, 0}, OctetsOf(users));
+    return m_users.Set(users) ? std::nullopt : std::optional<Refused>(kCannotKeep);
 }
 
 std::optional<Refused> CConfiguration::SetPassword(const QxNetUserPassword& password)
@@ -142,9 +142,9 @@ std::optional<Refused> CConfiguration::MoveWiper(unsigned channel, QxNetWiper wi
 std::optional<Refused> CConfiguration::Reset(const QxNetReset& reset)
 {
     const bool everything = reset.scope == QXNET_RESET_EVERYTHING;
-    m_parameters.Forget(
+    const bool isDone = m_parameters.Forget(
         [everything](const ParameterKey& key) { return everything || !IsOfNetworkOrUsers(key.command); });
-    return std::nullopt;
+    return isDone ? std::nullopt : std::optional<Refused>(kCannotKeep);
 }
 
 } // namespace simulator

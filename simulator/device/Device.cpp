@@ -46,6 +46,27 @@ std::optional<HttpAnswer> InsteadOfServing(const FaultRule& fault)
     return answer;
 }
 
+/// An upload whose answer has a fault.
+class CSpoiltUpload : public IUpload
+{
+public:
+    CSpoiltUpload(std::unique_ptr<IUpload> upload, FaultRule fault)
+        : m_upload(std::move(upload)), m_fault(std::move(fault))
+    {}
+
+    bool Write(std::string_view octets) override { return m_upload->Write(octets); }
+    HttpAnswer Finish() override
+    {
+        HttpAnswer answer = m_upload->Finish();
+        Spoil(m_fault, answer);
+        return answer;
+    }
+
+private:
+    const std::unique_ptr<IUpload> m_upload;
+    const FaultRule m_fault;
+};
+
 HttpAnswer Done()
 {
     return AnswerOf(std::optional<Refused>());
@@ -129,8 +150,11 @@ std::variant<std::string, HttpAnswer> CDevice::Identify(const HttpRequest& reque
 {
     if (request.version != "1")
         return Refusal(505, 301);
-    if (auto user = m_sessions.Touch(request.session))
-        return std::move(*user);
+    if (auto user = m_sessions.Touch(request.session)) {
+        if (m_users.LetsIn(*user))
+            return std::move(*user);
+        m_sessions.End(request.session);
+    }
     HttpAnswer answer;
     answer.status = 401;
     answer.headers = {{"Vantor-Session", "ended"}};
@@ -183,12 +207,23 @@ HttpAnswer CDevice::Ability(const Call& call)
     return AnswerOf(Outcome(std::make_shared<const std::string>(std::move(document))));
 }
 
-std::variant<HttpAnswer, std::unique_ptr<IUpload>> CDevice::BeginUpload(const HttpRequest& request)
+CDevice::Begun CDevice::BeginUpload(const HttpRequest& request)
 {
     const auto fault = TakeFault(request);
-    if (fault)
-        if (auto instead = InsteadOfServing(*fault))
-            return std::move(*instead);
+    if (!fault)
+        return ServeUpload(request);
+    if (auto instead = InsteadOfServing(*fault))
+        return std::move(*instead);
+    Begun begun = ServeUpload(request);
+    if (auto* refusal = std::get_if<HttpAnswer>(&begun))
+        Spoil(*fault, *refusal);
+    else
+        begun = std::make_unique<CSpoiltUpload>(std::move(std::get<std::unique_ptr<IUpload>>(begun)), *fault);
+    return begun;
+}
+
+CDevice::Begun CDevice::ServeUpload(const HttpRequest& request)
+{
     auto identity = Identify(request);
     if (auto* refusal = std::get_if<HttpAnswer>(&identity))
         return std::move(*refusal);

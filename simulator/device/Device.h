@@ -31,7 +31,7 @@ public:
 
     bool TakesConnection() override;
     HttpAnswer Answer(const HttpRequest& request) override;
-    std::variant<HttpAnswer, std::unique_ptr<IUpload>> BeginUpload(const HttpRequest& request) override;
+    Begun BeginUpload(const HttpRequest& request) override;
 
 private:
     struct Route;
@@ -42,6 +42,7 @@ private:
     /// The user of the request's session, or why it is not served.
     std::variant<std::string, HttpAnswer> Identify(const HttpRequest& request);
     HttpAnswer Serve(const HttpRequest& request);
+    Begun ServeUpload(const HttpRequest& request);
     HttpAnswer OpenSession(const Call& call);
     HttpAnswer EndSession(const Call& call);
     HttpAnswer Ability(const Call& call);

@@ -1,5 +1,7 @@
 #include "simulator/device/Parameters.h"
 
+#include <algorithm>
+
 namespace simulator {
 
 bool CParameters::Load(std::string& error)
@@ -25,18 +27,17 @@ bool CParameters::Set(const ParameterKey& key, Octets octets)
     return true;
 }
 
-void CParameters::Forget(const std::function<bool(const ParameterKey&)>& means)
+bool CParameters::Forget(const std::function<bool(const ParameterKey&)>& means)
 {
     std::lock_guard<std::mutex> writing(m_writing);
     std::lock_guard<std::shared_mutex> lock(m_mutex);
     for (auto value = m_values.begin(); value != m_values.end();) {
-        if (!means(value->first)) {
-            ++value;
-            continue;
-        }
-        m_folder.Forget(value->first);
-        value = m_values.erase(value);
+        const bool isForgotten = means(value->first) && m_folder.Remove(value->first);
+        value = isForgotten ? m_values.erase(value) : std::next(value);
     }
+    const bool isGone =
+        std::none_of(m_values.begin(), m_values.end(), [&](const auto& value) { return means(value.first); });
+    return m_folder.BringToDisk() && isGone;
 }
 
 } // namespace simulator

@@ -23,8 +23,8 @@ public:
     /// Kept when it returns true; otherwise everything is as it was.
     [[nodiscard]] bool Set(const ParameterKey& key, Octets octets);
 
-    /// Forgets those that the function names.
-    void Forget(const std::function<bool(const ParameterKey&)>& means);
+    /// Forgets those that the function names, also in the folder when it returns true; otherwise some stayed.
+    [[nodiscard]] bool Forget(const std::function<bool(const ParameterKey&)>& means);
 
 private:
     struct Hash

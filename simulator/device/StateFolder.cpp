@@ -17,6 +17,9 @@ namespace fs = std::filesystem;
 constexpr const char* kMark = "vantor-device-state 1 ";
 constexpr std::size_t kDigestLength = 64;
 
+/// An empty file: one that can be written is the only proof that others can be.
+constexpr const char* kProof = "writable";
+
 std::string FileName(const ParameterKey& key)
 {
     return Base::StringUtil::Format("%u-%u.state", key.command, key.channel);
@@ -51,9 +54,7 @@ bool CStateFolder::Open(const Reader& reader, std::string& error)
 {
     if (m_folder.empty())
         return true;
-    // A file that can be written is the only proof that others can be.
-    if (!Base::FileUtil::MakeDirs(m_folder) ||
-        !Base::FileUtil::WriteFileAtomically(m_folder + "in-use", "")) {
+    if (!Base::FileUtil::MakeDirs(m_folder) || !BringToDisk()) {
         error = "state folder " + m_folder + " cannot be used";
         return false;
     }
@@ -86,11 +87,18 @@ bool CStateFolder::Keep(const ParameterKey& key, const std::string& octets)
                                                                    kMark + Sha256Hex(octets) + '\n' + octets);
 }
 
-void CStateFolder::Forget(const ParameterKey& key)
+bool CStateFolder::Remove(const ParameterKey& key)
 {
-    std::error_code ignored;
+    std::error_code failure;
     if (!m_folder.empty())
-        fs::remove(m_folder + FileName(key), ignored);
+        fs::remove(m_folder + FileName(key), failure);
+    return !failure;
+}
+
+/// A file that is put in place takes the names of its whole folder along.
+bool CStateFolder::BringToDisk()
+{
+    return m_folder.empty() || Base::FileUtil::WriteFileAtomically(m_folder + kProof, "");
 }
 
 } // namespace simulator

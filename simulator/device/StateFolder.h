@@ -35,7 +35,9 @@ public:
 
     /// On the disk when it returns true.
     [[nodiscard]] bool Keep(const ParameterKey& key, const std::string& octets);
-    void Forget(const ParameterKey& key);
+    /// Not on the disk before BringToDisk.
+    [[nodiscard]] bool Remove(const ParameterKey& key);
+    [[nodiscard]] bool BringToDisk();
 
     /// Empty, or ending in "/".
     const std::string& Path() const { return m_folder; }

@@ -3,6 +3,7 @@
 #include "simulator/device/Refused.h"
 
 #include <algorithm>
+#include <set>
 #include <sstream>
 
 namespace simulator {
@@ -13,15 +14,9 @@ constexpr ParameterKey kListKey{QXNET_GET_USERS, 0};
 /// Lines of a name, a tab and the secret of its password.
 constexpr ParameterKey kSecretsKey{QXNET_SET_USER_PASSWORD, 0};
 
-std::map<std::string, std::string> ParseSecrets(const Octets& kept)
+bool IsAdministrator(const QxNetUser& user)
 {
-    std::map<std::string, std::string> secrets;
-    std::istringstream lines(kept ? *kept : std::string());
-    for (std::string line; std::getline(lines, line);) {
-        const std::size_t tab = std::min(line.rfind('\t'), line.size());
-        secrets[line.substr(0, tab)] = line.substr(std::min(tab + 1, line.size()));
-    }
-    return secrets;
+    return user.enabled && user.level == QXNET_USER_ADMINISTRATOR;
 }
 
 } // namespace
@@ -45,11 +40,55 @@ QxNetUserList CUsers::List() const
     return list;
 }
 
-bool CUsers::HasAdministrator(const QxNetUserList& list)
+/// The user of the settings has their password unless the device keeps another, or none.
+CUsers::Secrets CUsers::ReadSecrets() const
 {
-    return std::any_of(std::begin(list.users), std::end(list.users), [](const QxNetUser& user) {
-        return user.name[0] != '\0' && user.enabled && user.level == QXNET_USER_ADMINISTRATOR;
-    });
+    Secrets secrets;
+    const Octets kept = m_parameters.Find(kSecretsKey);
+    std::istringstream lines(kept ? *kept : std::string());
+    for (std::string line; std::getline(lines, line);) {
+        const std::size_t tab = std::min(line.rfind('\t'), line.size());
+        secrets[line.substr(0, tab)] = line.substr(std::min(tab + 1, line.size()));
+    }
+    secrets.emplace(m_door.user, DigestSecret(m_door.user, m_door.password));
+    return secrets;
+}
+
+bool CUsers::KeepSecrets(const Secrets& secrets)
+{
+    const std::string ofSettings = DigestSecret(m_door.user, m_door.password);
+    std::string lines;
+    for (const auto& [name, secret] : secrets)
+        if (secret != (name == m_door.user ? ofSettings : ""))
+            lines.append(name).append("\t").append(secret).append("\n");
+    return m_parameters.Set(kSecretsKey, std::make_shared<const std::string>(std::move(lines)));
+}
+
+bool CUsers::Takes(const QxNetUserList& list) const
+{
+    Secrets secrets = ReadSecrets();
+    std::set<std::string> names;
+    bool hasAdministrator = false;
+    for (const QxNetUser& user : list.users) {
+        const std::string name = user.name;
+        if (name.find_first_of("\t\n") != std::string::npos || (!name.empty() && !names.insert(name).second))
+            return false;
+        hasAdministrator |= IsAdministrator(user) && !secrets[name].empty();
+    }
+    return hasAdministrator;
+}
+
+bool CUsers::Set(const QxNetUserList& list)
+{
+    std::lock_guard<std::mutex> lock(m_changing);
+    if (!m_parameters.Set(kListKey, OctetsOf(list)))
+        return false;
+    const Secrets before = ReadSecrets();
+    Secrets secrets = before;
+    for (auto& [name, secret] : secrets)
+        if (!Knows(name))
+            secret.clear();
+    return secrets == before || KeepSecrets(secrets);
 }
 
 std::optional<QxNetUser> CUsers::Find(const std::string& name) const
@@ -62,32 +101,31 @@ std::optional<QxNetUser> CUsers::Find(const std::string& name) const
 
 bool CUsers::SetPassword(const std::string& user, const std::string& password)
 {
-    if (!Knows(user) || user.find_first_of("\t\n") != std::string::npos)
+    std::lock_guard<std::mutex> lock(m_changing);
+    if (!Knows(user))
         return false;
-    std::lock_guard<std::mutex> lock(m_settingPassword);
-    auto secrets = ParseSecrets(m_parameters.Find(kSecretsKey));
+    Secrets secrets = ReadSecrets();
     secrets[user] = DigestSecret(user, password);
-    std::string lines;
-    for (const auto& [name, secret] : secrets)
-        lines.append(name).append("\t").append(secret).append("\n");
-    return m_parameters.Set(kSecretsKey, std::make_shared<const std::string>(std::move(lines)));
+    return KeepSecrets(secrets);
+}
+
+bool CUsers::LetsIn(const std::string& name) const
+{
+    const auto user = Find(name);
+    return user && user->enabled;
 }
 
 bool CUsers::May(const std::string& name, UserRight right) const
 {
     const auto user = Find(name);
-    return user && (user->level == QXNET_USER_ADMINISTRATOR || (right && (*user).*right));
+    return user && (IsAdministrator(*user) || (right && (*user).*right));
 }
 
 std::string CUsers::SecretOf(const std::string& name) const
 {
-    const auto user = Find(name);
-    if (!user || !user->enabled)
-        return {};
-    const auto secrets = ParseSecrets(m_parameters.Find(kSecretsKey));
-    if (const auto secret = secrets.find(name); secret != secrets.end())
-        return secret->second;
-    return name == m_door.user ? DigestSecret(name, m_door.password) : std::string();
+    const Secrets secrets = ReadSecrets();
+    const auto secret = secrets.find(name);
+    return LetsIn(name) && secret != secrets.end() ? secret->second : std::string();
 }
 
 } // namespace simulator

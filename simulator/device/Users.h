@@ -18,12 +18,17 @@ public:
 
     QxNetUserList List() const;
 
-    /// Whether the list leaves an administrator who may log in.
-    static bool HasAdministrator(const QxNetUserList& list);
+    /// Whether the list can take the place of this one: names are there once, and one administrator at least
+    /// may log in and has a password.
+    bool Takes(const QxNetUserList& list) const;
+    /// Whoever is not in the list has no password any more. False when it can't be kept.
+    [[nodiscard]] bool Set(const QxNetUserList& list);
 
     /// False when the password can't be kept or there is no such user.
     [[nodiscard]] bool SetPassword(const std::string& user, const std::string& password);
     bool Knows(const std::string& user) const { return Find(user).has_value(); }
+    /// Whether it is a user who may log in.
+    bool LetsIn(const std::string& user) const;
 
     /// right: null for what only administrators may.
     bool May(const std::string& user, UserRight right) const;
@@ -31,11 +36,15 @@ public:
     std::string SecretOf(const std::string& user) const override;
 
 private:
+    /// By name; an empty one lets nobody in.
+    using Secrets = std::map<std::string, std::string>;
+    Secrets ReadSecrets() const;
+    [[nodiscard]] bool KeepSecrets(const Secrets& secrets);
     std::optional<QxNetUser> Find(const std::string& user) const;
 
     const DoorSettings& m_door;
     CParameters& m_parameters;
-    std::mutex m_settingPassword;
+    std::mutex m_changing;
 };
 
 } // namespace simulator

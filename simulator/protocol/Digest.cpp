@@ -106,7 +106,8 @@ bool ProvesSecret(const std::map<std::string, std::string>& credentials, const s
     const bool isCount = count.size() == 8 && count != "00000000" &&
                          count.find_first_not_of("0123456789abcdefABCDEF") == std::string::npos;
     if (!isCount || secret.empty() || member("qop") != "auth" || member("algorithm") != "SHA-256" ||
-        member("cnonce").empty() || member("realm") != kRealm || member("uri") != target)
+        member("nonce").empty() || member("cnonce").empty() || member("realm") != kRealm ||
+        member("uri") != target)
         return false;
     const std::string expected = Sha256Hex(secret + ':' + member("nonce") + ':' + count + ':' +
                                            member("cnonce") + ":auth:" + Sha256Hex(method + ':' + target));

@@ -68,8 +68,10 @@ public:
     /// Whether a connection that was just made is kept.
     virtual bool TakesConnection() = 0;
     virtual HttpAnswer Answer(const HttpRequest& request) = 0;
+    /// An upload, or why there is none.
+    using Begun = std::variant<HttpAnswer, std::unique_ptr<IUpload>>;
     /// For a request with a chunked body, before that is read.
-    virtual std::variant<HttpAnswer, std::unique_ptr<IUpload>> BeginUpload(const HttpRequest& request) = 0;
+    virtual Begun BeginUpload(const HttpRequest& request) = 0;
 };
 
 /// An answer without a body of the error numbers that the protocol knows.

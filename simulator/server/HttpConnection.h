@@ -171,14 +171,16 @@ private:
         ReadPiece();
     }
 
-    /// Memory grows with what has come, not with what was announced.
+    /// Memory grows with what has come, not with what was announced. Somebody may speak as long as they like;
+    /// any other request has the time that began with its head.
     void ReadPiece()
     {
         m_piece.resize(kPiece);
         m_parser->get().body().data = m_piece.data();
         m_parser->get().body().size = m_piece.size();
         m_parser->get().body().more = true;
-        Tcp().expires_after(kIdleTime);
+        if (m_upload)
+            Tcp().expires_after(kIdleTime);
         http::async_read_some(m_stream, m_received, *m_parser, Then(&CConnection::OnPiece));
     }
 

@@ -19,6 +19,9 @@ namespace {
 
 constexpr std::size_t kConnections = 256;
 
+/// When the system has no descriptor for a connection, it would say so again at once.
+constexpr std::chrono::milliseconds kTimeToAcceptAgain{100};
+
 std::shared_ptr<asio::ssl::context> MakeTls(const TlsIdentity& identity)
 {
     auto tls = std::make_shared<asio::ssl::context>(asio::ssl::context::tls_server);
@@ -98,6 +101,7 @@ struct CHttpServer::State : std::enable_shared_from_this<CHttpServer::State>
 
     bool Listen(const std::string& address, std::uint16_t wanted, std::string& error);
     void Accept(std::shared_ptr<tcp::acceptor> from);
+    void AcceptLater(std::shared_ptr<tcp::acceptor> from);
     void Serve(tcp::socket socket);
     bool Keep(const std::shared_ptr<IConnection>& connection);
     void Close();
@@ -142,11 +146,19 @@ void CHttpServer::State::Accept(std::shared_ptr<tcp::acceptor> from)
         return;
     from->async_accept(threads.Next(),
                        [self = shared_from_this(), from](ErrorCode error, tcp::socket socket) {
-                           if (!error)
-                               self->Serve(std::move(socket));
-                           if (error != asio::error::operation_aborted)
-                               self->Accept(from);
+                           if (error == asio::error::operation_aborted)
+                               return;
+                           if (error)
+                               return self->AcceptLater(from);
+                           self->Serve(std::move(socket));
+                           self->Accept(from);
                        });
+}
+
+void CHttpServer::State::AcceptLater(std::shared_ptr<tcp::acceptor> from)
+{
+    auto timer = std::make_shared<asio::steady_timer>(from->get_executor(), kTimeToAcceptAgain);
+    timer->async_wait([self = shared_from_this(), from, timer](ErrorCode) { self->Accept(from); });
 }
 
 void CHttpServer::State::Serve(tcp::socket socket)

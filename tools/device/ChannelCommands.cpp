@@ -5,6 +5,7 @@
 #include "Base/StringUtil.h"
 #include "DeviceStructures/Json.h"
 #include "DeviceStructures/MemberPath.h"
+#include "DeviceStructures/Text.h"
 #include "QxNetSDK/Structures.h"
 
 #include <cstring>
@@ -56,7 +57,8 @@ int RunChannels(Context& context)
     if (!context.Json()) {
         std::vector<Row> rows{{"channel", "state", "name"}};
         for (const QxNetChannelState& channel : channels)
-            rows.push_back({std::to_string(channel.channel), StateName(channel.state), channel.name});
+            rows.push_back(
+                {std::to_string(channel.channel), StateName(channel.state), devices::Visible(channel.name)});
         context.out << Columns(rows);
         return kGood;
     }

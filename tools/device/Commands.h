@@ -19,8 +19,14 @@ struct Context
     bool Json() const { return invocation.Has("--json"); }
     /// A line to err, as JSON where that is wanted; kFailed.
     int Failed(const std::string& what) const;
+    /// The same of a mistake in the invocation; kWrongUse.
     int WrongUse(const std::string& why) const;
 };
+
+/// What can be wrong with the words of a command about a parameter, before the device is asked; kGood when
+/// nothing is.
+int CheckParameter(Context& context);
+int CheckChange(Context& context);
 
 int RunInfo(Context& context);
 int RunChannels(Context& context);

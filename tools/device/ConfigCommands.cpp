@@ -158,6 +158,21 @@ void Show(Context& context, const devices::Layout& layout, const Octets& structu
         context.out << devices::ToText(layout, structure.data());
 }
 
+int CheckParameter(Context& context)
+{
+    const ConfigCommand* command = NamedParameter(context);
+    return command && NamedChannel(context, *command) ? kGood : kWrongUse;
+}
+
+int CheckChange(Context& context)
+{
+    if (CheckParameter(context) != kGood)
+        return kWrongUse;
+    const ConfigCommand* command = NamedParameter(context);
+    Octets fresh = devices::Defaults(command->layout());
+    return ChangeMembers(context, command->layout(), fresh) ? kGood : kWrongUse;
+}
+
 int RunGet(Context& context)
 {
     const ConfigCommand* command = NamedParameter(context);

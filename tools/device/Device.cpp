@@ -147,24 +147,36 @@ bool CDevice::SetBatch(const devices::ConfigCommand& command, std::vector<Item>&
     return true;
 }
 
+/// A device that went away is not waited for again: the items that follow have the same failure.
+template<typename Work>
+bool CDevice::OneByOne(std::vector<Item>& items, Work work)
+{
+    bool isAway = false;
+    for (Item& item : items) {
+        const bool success = !isAway && work(item);
+        item.failure = success ? Failure() : m_failure;
+        isAway |=
+            !success && m_failure.error >= QXNET_ERROR_RESOLVE && m_failure.error < QXNET_ERROR_NOT_A_DEVICE;
+    }
+    return true;
+}
+
 bool CDevice::GetMany(const devices::ConfigCommand& command, std::vector<Item>& items)
 {
     if (command.scope == devices::Scope::Item)
         return GetBatch(command, items);
-    for (Item& item : items)
-        item.failure =
-            Get(command, static_cast<std::int32_t>(item.channel), item.structure) ? Failure() : m_failure;
-    return true;
+    return OneByOne(items, [&](Item& item) {
+        return Get(command, static_cast<std::int32_t>(item.channel), item.structure);
+    });
 }
 
 bool CDevice::SetMany(const devices::ConfigCommand& command, std::vector<Item>& items)
 {
     if (command.scope == devices::Scope::Item)
         return SetBatch(command, items);
-    for (Item& item : items)
-        item.failure =
-            Set(command, static_cast<std::int32_t>(item.channel), item.structure) ? Failure() : m_failure;
-    return true;
+    return OneByOne(items, [&](Item& item) {
+        return Set(command, static_cast<std::int32_t>(item.channel), item.structure);
+    });
 }
 
 bool CDevice::Ability(std::uint32_t kind, std::int32_t channel, std::string& document)

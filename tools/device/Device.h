@@ -55,6 +55,8 @@ public:
 private:
     bool Noted(bool success);
     bool Fits(const devices::Layout& layout, const devices::Octets& structure);
+    template<typename Work>
+    bool OneByOne(std::vector<Item>& items, Work work);
     bool GetBatch(const devices::ConfigCommand& command, std::vector<Item>& items);
     bool SetBatch(const devices::ConfigCommand& command, std::vector<Item>& items);
 

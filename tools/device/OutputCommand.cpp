@@ -3,6 +3,7 @@
 #include "device/Tool.h"
 
 #include "Base/StringUtil.h"
+#include "DeviceStructures/Text.h"
 #include "QxNetSDK/Structures.h"
 
 #include <cstring>
@@ -43,7 +44,8 @@ int ListOutputs(Context& context)
     std::vector<Row> rows{{"output", "state", "name"}};
     std::vector<std::string> pieces;
     for (const AlarmOutput& output : outputs) {
-        rows.push_back({std::to_string(rows.size()), output.on ? "on" : "off", output.name});
+        rows.push_back(
+            {std::to_string(rows.size()), output.on ? "on" : "off", devices::Visible(output.name)});
         pieces.push_back(Base::StringUtil::Format("{\"output\":%zu,\"on\":%s,\"name\":", pieces.size() + 1,
                                                   output.on ? "true" : "false") +
                          JsonString(output.name) + "}");

@@ -8,11 +8,10 @@
 
 #include <cstdlib>
 #include <istream>
-#include <ostream>
 
 namespace devicetool {
 
-std::optional<std::string> FindPassword(const Invocation& invocation, std::istream& in, std::ostream& err)
+std::optional<std::string> FindPassword(const Invocation& invocation, std::istream& in, std::string& error)
 {
     if (const std::string file = invocation.Value("--password-file"); !file.empty()) {
         std::string text;
@@ -20,7 +19,7 @@ std::optional<std::string> FindPassword(const Invocation& invocation, std::istre
             file == "-" ? bool(std::getline(in, text)) : Base::FileUtil::ReadFile(file, text, 4096);
         if (read)
             return text.substr(0, text.find_first_of("\r\n"));
-        err << "vantor-device: the password cannot be read from " << file << "\n";
+        error = "the password cannot be read from " + file;
         return std::nullopt;
     }
     if (const char* password = std::getenv("VANTOR_DEVICE_PASSWORD"))
@@ -29,7 +28,7 @@ std::optional<std::string> FindPassword(const Invocation& invocation, std::istre
                                        invocation.target->host + ": ");
     if (typed)
         return Base::LocalToUTF8(*typed);
-    err << "vantor-device: no password: give --password-file or VANTOR_DEVICE_PASSWORD\n";
+    error = "no password: give --password-file or VANTOR_DEVICE_PASSWORD";
     return std::nullopt;
 }
 

@@ -3,6 +3,8 @@
 
 #include "Base/StringUtil.h"
 #include "Base/TimeUtil.h"
+#include "DeviceStructures/ClockTime.h"
+#include "DeviceStructures/Text.h"
 #include "QxNetSDK/Structures.h"
 
 #include <cstdlib>
@@ -15,20 +17,6 @@ namespace devicetool {
 namespace {
 
 using Base::StringUtil::Format;
-
-/// Puts a moment into a clock, given as the seconds since 1970 that its zone's clocks show.
-void Put(std::int64_t shown, QxNetClock& clock)
-{
-    unsigned year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0;
-    std::sscanf(Base::TimeUtil::TimeT2StrDatetime(shown).c_str(), "%u-%u-%u %u:%u:%u", &year, &month, &day,
-                &hour, &minute, &second);
-    clock.year = static_cast<std::uint16_t>(year);
-    clock.month = static_cast<std::uint8_t>(month);
-    clock.day = static_cast<std::uint8_t>(day);
-    clock.hour = static_cast<std::uint8_t>(hour);
-    clock.minute = static_cast<std::uint8_t>(minute);
-    clock.second = static_cast<std::uint8_t>(second);
-}
 
 /// Minutes by which this computer's clock is east of UTC.
 std::int32_t ComputersZone(std::time_t now)
@@ -43,7 +31,7 @@ void PutNow(QxNetClock& clock)
 {
     const std::time_t now = std::time(nullptr);
     clock.zone = ComputersZone(now);
-    Put(now + 60 * clock.zone, clock);
+    devices::PutClockTime(now + 60 * clock.zone, clock);
 }
 
 void ShowClock(Context& context, const QxNetClock& clock)
@@ -52,7 +40,7 @@ void ShowClock(Context& context, const QxNetClock& clock)
                           clock.hour, clock.minute, clock.second, clock.zone < 0 ? '-' : '+',
                           std::abs(clock.zone) / 60, std::abs(clock.zone) % 60);
     if (clock.timeServer)
-        context.out << ", set by the time server " << clock.serverAddress;
+        context.out << ", set by the time server " << devices::Visible(clock.serverAddress);
     context.out << "\n";
 }
 
@@ -80,7 +68,7 @@ int RunTime(Context& context)
         return kGood;
     }
     if (moment)
-        Put(*moment, clock);
+        devices::PutClockTime(*moment, clock);
     else
         PutNow(clock);
     std::memcpy(octets.data(), &clock, sizeof(clock));

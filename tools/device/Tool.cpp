@@ -6,6 +6,7 @@
 
 #include "Base/FileUtil.h"
 #include "DeviceStructures/Markdown.h"
+#include "QxNetSDK/Errors.h"
 
 #include <algorithm>
 #include <istream>
@@ -21,14 +22,15 @@ constexpr struct CommandRow
     int (*run)(Context&);
     bool needsDevice;
     std::size_t mostWords;
-    const char* options; ///< besides the general ones
+    const char* options;              ///< besides the general ones
+    int (*check)(Context&) = nullptr; ///< of the words, before somebody is asked for a password
 } kCommands[] = {
     {"info", RunInfo, true, 0, ""},
     {"channels", RunChannels, true, 0, ""},
     {"abilities", RunAbilities, true, 1, "--channel"},
-    {"get", RunGet, true, 1, "--channel"},
-    {"set", RunSet, true, 1000, "--channel --from"},
-    {"batch", RunBatch, true, 1000, "--channels"},
+    {"get", RunGet, true, 1, "--channel", CheckParameter},
+    {"set", RunSet, true, 1000, "--channel --from", CheckChange},
+    {"batch", RunBatch, true, 1000, "--channels", CheckChange},
     {"outputs", RunOutputs, true, 2, ""},
     {"time", RunTime, true, 2, ""},
     {"commands", RunCommands, false, 0, ""},
@@ -70,6 +72,16 @@ CDevice::Way WayTo(const Invocation& invocation)
     return way;
 }
 
+/// Of a mistake in the arguments; kWrongUse.
+int Complain(bool json, const std::string& why, std::ostream& err)
+{
+    if (json)
+        err << JsonFailure({QXNET_ERROR_ARGUMENT, 0, 0, why}) << "\n";
+    else
+        err << "vantor-device: " << why << "; see vantor-device --help\n";
+    return kWrongUse;
+}
+
 int Run(const CommandRow& command, const Invocation& invocation, std::istream& in, std::ostream& out,
         std::ostream& err)
 {
@@ -79,9 +91,12 @@ int Run(const CommandRow& command, const Invocation& invocation, std::istream& i
         return context.WrongUse(misuse);
     if (!command.needsDevice)
         return command.run(context);
-    const auto password = FindPassword(invocation, in, err);
-    if (!password)
+    if (command.check && command.check(context) != kGood)
         return kWrongUse;
+    std::string error;
+    const auto password = FindPassword(invocation, in, error);
+    if (!password)
+        return context.WrongUse(error);
     if (!device.Login(*invocation.target, *password, WayTo(invocation)))
         return context.Failed("login");
     return command.run(context);
@@ -100,8 +115,7 @@ int Context::Failed(const std::string& what) const
 
 int Context::WrongUse(const std::string& why) const
 {
-    err << "vantor-device: " << why << "; see vantor-device --help\n";
-    return kWrongUse;
+    return Complain(Json(), why, err);
 }
 
 int RunTool(const std::vector<std::string>& arguments, std::istream& in, std::ostream& out, std::ostream& err)
@@ -122,8 +136,8 @@ int RunTool(const std::vector<std::string>& arguments, std::istream& in, std::os
     if (error.empty())
         error =
             invocation->command.empty() ? "a command is missing" : "unknown command " + invocation->command;
-    err << "vantor-device: " << error << "; see vantor-device --help\n";
-    return kWrongUse;
+    const bool json = std::find(arguments.begin(), arguments.end(), "--json") != arguments.end();
+    return Complain(json, error, err);
 }
 
 } // namespace devicetool

@@ -24,7 +24,8 @@ QXNET_LAYOUT(QxNetChannelState, "A channel of a page",
     QXNET_FIELD(name),
     QXNET_FIELD(reserved))
 
-QXNET_LAYOUT(QxNetChannelPage, "Names and states of up to 64 channels, those from the channel asked for on",
+QXNET_LAYOUT(QxNetChannelPage,
+    "Names and states of up to 64 channels, those from the channel asked for on; none behind the last one",
     QXNET_FIELD(size),
     QXNET_FIELD(total).Range(0, 512).Note("channels of the device"),
     QXNET_FIELD(count).Range(0, 64).Note("of this page"),

@@ -66,4 +66,37 @@ TEST_F(SimulatedDevice, TakesMembersBatchesOutputsAndTime)
                                           testing::Not(testing::HasSubstr("\n3  "))));
 }
 
+TEST_F(SimulatedDevice, ShowsTheAbilitiesThatItHas)
+{
+    for (const char* kind : {"input", "basic", "record", "picture", "detection"}) {
+        ASSERT_EQ(Run({"abilities", kind, "--channel", "2"}), 0) << kind << err.str();
+        EXPECT_THAT(out.str(), testing::StartsWith("<?xml ")) << kind;
+    }
+    ASSERT_EQ(Run({"--json", "abilities"}), 0) << err.str();
+    EXPECT_THAT(out.str(), testing::StartsWith(R"({"input":"<?xml )"));
+    EXPECT_EQ(Run({"abilities", "record", "--channel", "9"}), devicetool::kFailed);
+}
+
+TEST(SimulatedTlsDevice, IsTrustedUntilItShowsAnotherCertificate)
+{
+    DeviceSim device({"--devices", "1", "--tls"}, DeviceSim::Keeps::State);
+    const std::string target = "admin@127.0.0.1:" + std::to_string(device.Port());
+    const auto run = [&](std::vector<std::string> way) {
+        std::vector<std::string> arguments{"--password-file", "-",   "--timeout", "20000", target,
+                                           "--json",          "get", "cabac"};
+        arguments.insert(arguments.end(), way.begin(), way.end());
+        std::istringstream in("vantor-device\n");
+        std::ostringstream out;
+        std::ostringstream err;
+        const int code = devicetool::RunTool(arguments, in, out, err);
+        return std::to_string(code) + ' ' + out.str() + err.str();
+    };
+    const std::vector<std::string> tls{"--tls", "--trust-file", device.StateFolder() + "trusted"};
+    EXPECT_EQ(run(tls), "0 {\"enabled\":1}\n");
+    EXPECT_THAT(run({}), testing::StartsWith("1 {\"error\":"));
+    ASSERT_EQ(device.Stop(), 0);
+    ASSERT_TRUE(device.Restart({"--new-certificate"}));
+    EXPECT_THAT(run(tls), testing::StartsWith("1 {\"error\":211,"));
+}
+
 } // namespace

@@ -91,16 +91,17 @@ TEST_F(DeviceSimFaults, LeaveOthersAlone)
 {
     PlainClient waiting(m_sim.Port());
     ASSERT_EQ(waiting.Login().status, 200);
-    m_sim.SetFaults(R"([{"path":"config/6118","times":1,"fault":"silent"},
+    m_sim.SetFaults(R"([{"path":"config/6118","channel":1,"fault":"silent"},
                         {"path":"config/6118","times":1,"fault":"length","bytes":4294967296}])");
     ASSERT_TRUE(waiting.Send(waiting.Head("GET", kRequest, "")));
     PlainClient other(m_sim.Port());
     ASSERT_EQ(other.Login().status, 200);
-    ASSERT_TRUE(other.Send(other.Head("GET", kRequest, "")));
+    const std::string second = "config/6118?channel=2";
+    ASSERT_TRUE(other.Send(other.Head("GET", second, "")));
     EXPECT_NE(other.ReceiveRaw(100).find("Content-Length: 4294967296"), std::string::npos);
     PlainClient third(m_sim.Port());
     ASSERT_EQ(third.Login().status, 200);
-    EXPECT_EQ(third.Ask("GET", kRequest).status, 200);
+    EXPECT_EQ(third.Ask("GET", second).status, 200);
 }
 
 TEST_F(DeviceSimFaults, ABadFileIsToldAndChangesNothing)
@@ -118,6 +119,22 @@ TEST_F(DeviceSimFaults, ABadFileIsToldAndChangesNothing)
     ASSERT_EQ(page.size(), 5152U);
     EXPECT_STREQ(page.data() + 16 + 80 + 8, "Yard");
     EXPECT_EQ(page[12], 2);
+}
+
+TEST(DeviceSimVoice, HasItsFaultsWhenItEnds)
+{
+    DeviceSim sim({"--devices", "1"});
+    sim.SetFaults(R"([{"path": "voice", "fault": "version", "version": 2, "times": 1}])");
+    PlainClient speaker(sim.Port());
+    ASSERT_EQ(speaker.Login().status, 200);
+    for (const char* version : {"2", "1"}) {
+        ASSERT_TRUE(speaker.Send(
+            speaker.Head("POST", "voice/1?encoding=0&rate=8000", "Transfer-Encoding: chunked\r\n") +
+            "1\r\nx\r\n0\r\n\r\n"));
+        const auto answer = speaker.Receive();
+        EXPECT_EQ(answer.status, 204);
+        EXPECT_EQ(answer.Header("Vantor-Protocol"), version);
+    }
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 #include "PlainClient.h"
+#include "simulator/protocol/Digest.h"
 #include "support/DeviceSim.h"
 #include "support/WaitUntil.h"
 
@@ -31,6 +32,21 @@ TEST(DeviceSimLimits, ANonceIsGoodForOneLogin)
     const auto again = client.Ask("POST", "session");
     EXPECT_EQ(again.status, 401);
     EXPECT_NE(again.Header("WWW-Authenticate").find("stale=true"), std::string::npos);
+}
+
+TEST(DeviceSimLimits, CredentialsWithoutANonceAreWrong)
+{
+    DeviceSim sim({"--devices", "1"});
+    PlainClient client(sim.Port());
+    const std::string uri = "/vantor/device/v1/session";
+    const std::string realm = simulator::kRealm;
+    const std::string proof =
+        simulator::Sha256Hex(simulator::DigestSecret("admin", "vantor-device") +
+                             "::00000001:c:auth:" + simulator::Sha256Hex("POST:" + uri));
+    client.authorization = "Digest username=\"admin\", realm=\"" + realm + "\", uri=\"" + uri +
+                           "\", algorithm=SHA-256, qop=auth, nc=00000001, cnonce=\"c\", response=\"" + proof +
+                           '"';
+    EXPECT_EQ(client.Ask("POST", "session").status, 401);
 }
 
 TEST(DeviceSimLimits, SessionsEndAndAreCounted)

@@ -11,7 +11,7 @@ namespace {
 
 TEST(DeviceSimProgram, SaysWhyItDoesNotRun)
 {
-    const DeviceSim other({"--devices", "1"});
+    const DeviceSim other({"--devices", "1"}, DeviceSim::Keeps::State);
     struct Row
     {
         std::vector<std::string> options;
@@ -21,10 +21,14 @@ TEST(DeviceSimProgram, SaysWhyItDoesNotRun)
     const Row rows[] = {
         {{"--port", std::to_string(other.Port())}, 1, "cannot listen on 127.0.0.1 port"},
         {{"--faults", other.StateFolder() + "none"}, 1, "cannot be read"},
-        {{"--state", "/proc/nowhere"}, 1, "state folder /proc/nowhere/device-0/ cannot be used"},
+        {{"--state", "/proc/nowhere"}, 1, "state folder /proc/nowhere/ cannot be used"},
+        {{"--state", other.StateFolder()}, 1, "is in use by another program"},
         {{"--devices", "0"}, 2, "--devices"},
         {{"--channels", "600"}, 2, "more than 512"},
+        {{"--channels", ""}, 2, "--channels"},
         {{"--type-code", "1x"}, 2, "--type-code"},
+        {{"--type-code", "-1"}, 2, "--type-code"},
+        {{"--user", ""}, 2, "--user"},
         {{"--what"}, 2, "unknown argument --what"},
     };
     for (const Row& row : rows) {

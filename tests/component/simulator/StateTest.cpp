@@ -10,6 +10,7 @@
 
 #include <cstring>
 #include <fstream>
+#include <utility>
 
 namespace {
 
@@ -198,6 +199,33 @@ TEST(DeviceSimState, UsersMayWhatTheListSays)
     ASSERT_EQ(viewer.Login("look only").status, 200);
     EXPECT_EQ(Get<tagNET_DVR_STREAM_CABAC>(viewer, QXNET_GET_CABAC, 1).enabled, 1);
     EXPECT_EQ(Put(viewer, QXNET_SET_CABAC, 1, tagNET_DVR_STREAM_CABAC{}), 403);
+
+    PlainClient admin(sim.Port());
+    ASSERT_EQ(admin.Login().status, 200);
+    users.users[0].enabled = 1;
+    const QxNetUser gone = std::exchange(users.users[5], QxNetUser{});
+    EXPECT_EQ(Put(admin, QXNET_SET_USERS, 0, users), 204);
+    EXPECT_EQ(viewer.Ask("GET", "config/6118?channel=1").Header("Vantor-Session"), "ended");
+    users.users[7] = gone;
+    EXPECT_EQ(Put(admin, QXNET_SET_USERS, 0, users), 204);
+    PlainClient again(sim.Port());
+    again.user = "viewer";
+    EXPECT_EQ(again.Login("look only").status, 401);
+}
+
+TEST(DeviceSimState, AListOfUsersThatLetsNoAdministratorInIsRefused)
+{
+    DeviceSim sim({"--devices", "1", "--channels", "1"});
+    PlainClient client(sim.Port());
+    ASSERT_EQ(client.Login().status, 200);
+    const auto users = Get<QxNetUserList>(client, QXNET_GET_USERS, 0);
+    auto stranger = users;
+    std::strcpy(stranger.users[0].name, "stranger");
+    EXPECT_EQ(Put(client, QXNET_SET_USERS, 0, stranger), 400);
+    auto twice = users;
+    twice.users[1] = users.users[0];
+    EXPECT_EQ(Put(client, QXNET_SET_USERS, 0, twice), 400);
+    EXPECT_EQ(PlainClient(sim.Port()).Login().status, 200);
 }
 
 } // namespace

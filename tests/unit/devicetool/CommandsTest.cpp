@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <sstream>
@@ -156,6 +157,37 @@ TEST_F(DeviceTool, PrintsAbilitiesAsTheyComeAndEndsWhenOneFails)
     EXPECT_EQ(Run({"abilities", "record"}), devicetool::kFailed);
     EXPECT_EQ(Run({"abilities"}), devicetool::kGood); // those that a device lacks are left out
     EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(DeviceTool, CallsNoDeviceForAWrongParameterOrValue)
+{
+    EXPECT_EQ(Run({"get", "colour"}), devicetool::kWrongUse);
+    EXPECT_EQ(Run({"batch", "cabac", "--channels", "1-4", "enabled=2"}), devicetool::kWrongUse);
+    EXPECT_EQ(Run({"--json", "set", "cabac", "enabled=2"}), devicetool::kWrongUse);
+    EXPECT_EQ(err.str(), R"({"error":101,"module":0,"own":0,"text":)"
+                         "\"a wrong argument [101]-[0]: enabled: 2 is not within 0 to 1\"}\n");
+    EXPECT_TRUE(sdk.Calls().empty());
+}
+
+TEST_F(DeviceTool, WaitsOnceOnlyForADeviceThatWentAway)
+{
+    sdk.Fail("NET_DVR_GetDVRConfig", {QXNET_ERROR_CONNECT_TIMEOUT, 0, 0});
+    EXPECT_EQ(Run({"--json", "batch", "cabac", "--channels", "1-256"}), devicetool::kFailed);
+    EXPECT_THAT(out.str(), HasSubstr(R"({"channel":256,"error":202,"value":null})"));
+    const auto calls = sdk.Calls();
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(),
+                            [](const auto& call) { return call.function == "NET_DVR_GetDVRConfig"; }),
+              1);
+}
+
+TEST_F(DeviceTool, ShowsControlCharactersOfADeviceAsText)
+{
+    auto info = Fresh<QxNetDeviceInfo>(QXNET_GET_DEVICE_INFO);
+    std::strcpy(info.name, "\x1b[2J\nGate \xc2\x9b \xc3\x9f");
+    sdk.Answer(QXNET_GET_DEVICE_INFO, info);
+    ASSERT_EQ(Run({"info"}), devicetool::kGood) << err.str();
+    EXPECT_THAT(out.str(), HasSubstr(R"(\u001b[2J\u000aGate \u009b )"
+                                     "\xc3\x9f\n"));
 }
 
 struct MisuseRow

@@ -97,6 +97,7 @@ TEST_P(FromJson, RefusesWithTheMembersNameAndChangesNothing)
 INSTANTIATE_TEST_SUITE_P(
     Rows, FromJson,
     testing::Values(JsonRow{"", "the text is no JSON"}, JsonRow{"[]", "the JSON is no object"},
+                    JsonRow{R"({"enabled":1} {"enabled":0})", "something follows the JSON"},
                     JsonRow{R"({"enabled":1,"contact":2})", "contact: 2 is not within 0 to 1"},
                     JsonRow{R"({"enabled":0.5})", "enabled: is no whole number"},
                     JsonRow{R"({"enabled":1e300})", "enabled: is no whole number"},
