@@ -43,10 +43,10 @@ std::string Written(const DataElement& element)
 }
 
 /// The number of elements; the check of depth on the way.
-int Count(const DataElement& element, int depth)
+std::size_t Count(const DataElement& element, std::size_t depth)
 {
     FUZZ_CHECK(depth <= CGenericDataSet::kMaxDepth && !element.name.empty());
-    int count = 1;
+    std::size_t count = 1;
     for (const DataElement& child : element.children) {
         FUZZ_CHECK(element.Child(child.name)->name == child.name);
         count += Count(child, depth + 1);

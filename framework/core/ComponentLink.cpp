@@ -124,6 +124,7 @@ void CComponentLink::Stop()
 {
     m_server.Stop();
     m_worker.Stop();
+    m_deviceWorker.Stop();
 }
 
 void CComponentLink::OnClientConnected(lpcserver::ClientId client, const std::string& name)
@@ -186,7 +187,10 @@ void CComponentLink::ServeLater(lpcserver::ClientId client, const lpc::CallBackD
         m_waitingBytes -= bytes;
         Serve(client, data);
     };
-    if ((m_waitingBytes += bytes) > kMostWaitingBytes || !m_worker.PostTask(std::move(serve))) {
+    const bool waitsForDevices =
+        m_routes.WaitsOf(data.Header("url"), data.Header("method")) == RouteWaits::ForDevices;
+    Base::CMessageLoop& worker = waitsForDevices ? m_deviceWorker : m_worker;
+    if ((m_waitingBytes += bytes) > kMostWaitingBytes || !worker.PostTask(std::move(serve))) {
         m_waitingBytes -= bytes;
         Reply(client, data.requestId, lpcforward::MakeAnswer(503, lpc::kTryAgain, {}));
     }

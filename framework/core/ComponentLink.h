@@ -17,7 +17,8 @@
 
 namespace framework {
 
-/// The framework's end of the local channel. Serves the routes on a worker, passes on to the component what
+/// The framework's end of the local channel. Serves the routes on a worker, those that wait for devices on
+/// another one, passes on to the component what
 /// other clients address to it, and sends to the component. Any thread.
 class CComponentLink : private lpcserver::IServerEvents, Base::CNoncopyable
 {
@@ -94,12 +95,13 @@ private:
     const Events m_events;
     CRouteTable m_routes;
     std::atomic<lpcserver::ClientId> m_component{0};
-    std::atomic<std::size_t> m_waitingBytes{0}; ///< of requests that the worker has not begun
+    std::atomic<std::size_t> m_waitingBytes{0}; ///< of requests that the workers have not begun
     mutable std::mutex m_mutex;
     std::map<lpcserver::ClientId, Client> m_clients;
     lpcserver::CLPCServer m_server;
     lpcforward::CForwarder m_forwarder;
     Base::CMessageLoop m_worker{"routes"};
+    Base::CMessageLoop m_deviceWorker{"device-routes"};
 };
 
 } // namespace framework

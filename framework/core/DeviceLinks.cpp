@@ -2,6 +2,8 @@
 
 #include "Base/Log.h"
 
+#include <utility>
+
 namespace framework {
 
 namespace {
@@ -18,7 +20,10 @@ CDeviceLinks::CDeviceLinks(CResources& resources, std::string trustFile, std::fu
                            const devices::SessionLimits& limits)
     : m_resources(resources), m_trustFile(std::move(trustFile)), m_onStatus(std::move(onStatus)),
       m_limits(limits)
-{}
+{
+    if (!QxNet_Init())
+        BASE_ERROR("The device SDK cannot be used, [%u].", NET_DVR_GetLastError());
+}
 
 CDeviceLinks::~CDeviceLinks()
 {
@@ -27,28 +32,42 @@ CDeviceLinks::~CDeviceLinks()
 
 void CDeviceLinks::Start()
 {
-    m_sessions = std::make_unique<devices::CDeviceSessions>(
-        [this](const devices::DeviceStatus& status) { Hear(status); }, m_limits);
     if (!QxNet_SetTrustFile(m_trustFile.c_str()))
         BASE_ERROR("The certificates of devices cannot be kept in %s, [%u].", m_trustFile.c_str(),
                    NET_DVR_GetLastError());
+    auto sessions = std::make_shared<devices::CDeviceSessions>(
+        [this](const devices::DeviceStatus& status) { Hear(status); }, m_limits);
+    {
+        std::lock_guard<std::mutex> lock(m_mutex);
+        m_sessions = std::move(sessions);
+    }
     for (const auto& device : m_resources.Devices())
         Follow(device.guid);
 }
 
 void CDeviceLinks::Stop()
 {
+    std::shared_ptr<devices::CDeviceSessions> ending;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
-        m_isStopped = true;
+        if (std::exchange(m_isStopped, true))
+            return;
     }
     m_loop.Stop();
-    m_tests.Stop();
-    std::unique_ptr<devices::CDeviceSessions> ending;
     {
         std::lock_guard<std::mutex> lock(m_mutex);
         ending = std::move(m_sessions);
     }
+    // Whoever is the last to let go of the SDK ends the calls that are under way, those of tests as well.
+    (void)QxNet_Cleanup();
+    ending.reset();
+    m_tests.Stop();
+}
+
+std::shared_ptr<devices::CDeviceSessions> CDeviceLinks::Sessions() const
+{
+    std::lock_guard<std::mutex> lock(m_mutex);
+    return m_sessions;
 }
 
 // The session follows on a loop, as the resources tell of a change while they wait for nobody.
@@ -59,12 +78,13 @@ void CDeviceLinks::Follow(const std::string& guid)
 
 void CDeviceLinks::Update(const std::string& guid)
 {
-    if (!m_sessions)
+    const auto sessions = Sessions();
+    if (!sessions)
         return;
     DeviceEntry entry;
     if (m_resources.EntryOf(guid, entry))
-        return m_sessions->Set(AddressOf(guid, entry));
-    m_sessions->Remove(guid);
+        return sessions->Set(AddressOf(guid, entry));
+    sessions->Remove(guid);
     std::lock_guard<std::mutex> lock(m_mutex);
     m_statuses.erase(guid);
 }
@@ -90,8 +110,8 @@ bool CDeviceLinks::IsStopped() const
 void CDeviceLinks::TryNow(const std::string& guid)
 {
     (void)m_loop.PostTask([this, guid] {
-        if (m_sessions)
-            m_sessions->TryNow(guid);
+        if (const auto sessions = Sessions())
+            sessions->TryNow(guid);
     });
 }
 

@@ -42,13 +42,15 @@ public:
     /// only post.
     void Test(const DeviceEntry& entry, OnTried onTried);
 
-    /// Ends the sessions. Waits for one answer at most. May be called again.
+    /// Ends the sessions and the tests under way; waits for the logouts, a second or so. May be called again,
+    /// by the same thread.
     void Stop();
 
 private:
     void Hear(const devices::DeviceStatus& status);
     void Update(const std::string& guid);
     bool IsStopped() const;
+    std::shared_ptr<devices::CDeviceSessions> Sessions() const;
 
     CResources& m_resources;
     const std::string m_trustFile;
@@ -59,7 +61,8 @@ private:
     mutable std::mutex m_mutex;
     bool m_isStopped = false;
     std::map<std::string, devices::DeviceStatus> m_statuses;
-    std::unique_ptr<devices::CDeviceSessions> m_sessions; ///< set at the start, until the end
+    std::shared_ptr<devices::CDeviceSessions> m_sessions; ///< set at the start, until the end; only the
+                                                          ///< loop holds it for a while
 };
 
 } // namespace framework

@@ -1,11 +1,13 @@
 #include "framework/core/Routes.h"
 
+#include "Base/AsyncTask.h"
 #include "LPC_Forward/Answer.h"
 #include "Protocol/JSONStruct/HTTP/Routes.h"
 #include "Protocol/JSONStruct/HTTP/ToolJSONStruct.h"
 #include "framework/core/DeviceActions.h"
 
 #include <algorithm>
+#include <atomic>
 
 namespace framework {
 
@@ -16,6 +18,7 @@ using protocol::DeviceResponseData;
 
 constexpr int kUnknownDevice = 404;
 constexpr int kOfflineDevice = 503;
+constexpr std::size_t kAskedAtOnce = 16;
 
 lpc::Message NoDevice(const std::string& guid)
 {
@@ -143,12 +146,32 @@ protocol::ResultCode ResultFor(const CResources& resources, const RouteServices&
     return result;
 }
 
+/// The results of asking for each of them, several at the same time.
+template<typename Result, typename Ask>
+std::vector<Result> SideBySide(const std::vector<std::string>& guids, Ask ask)
+{
+    std::vector<Result> results(guids.size());
+    std::atomic<std::size_t> next{0};
+    const auto work = [&] {
+        for (std::size_t at = next++; at < guids.size(); at = next++)
+            results[at] = {guids[at], ask(guids[at])};
+    };
+    std::vector<std::future<void>> others;
+    while (others.size() + 1 < std::min(guids.size(), kAskedAtOnce))
+        others.push_back(Base::RunAsync("device-batch", work));
+    work();
+    for (const std::future<void>& other : others)
+        other.wait();
+    return results;
+}
+
 lpc::Message SynchroniseTime(const CResources& resources, const RouteServices& services,
                              const protocol::DeviceList& devices)
 {
     protocol::TimeSyncResultListData list;
-    for (const std::string& guid : devices.deviceGuids)
-        list.results.push_back({guid, ResultFor(resources, services, guid, SetDeviceClock)});
+    list.results = SideBySide<protocol::TimeSyncResult>(devices.deviceGuids, [&](const std::string& guid) {
+        return ResultFor(resources, services, guid, SetDeviceClock);
+    });
     services.logOperation("The clocks of " + std::to_string(list.results.size()) +
                           " devices were to be set.");
     return Found(list);
@@ -159,16 +182,16 @@ lpc::Message MoveWipers(const CResources& resources, const RouteServices& servic
 {
     const auto channels = resources.Channels({});
     protocol::WiperControlResultListData list;
-    for (const std::string& guid : control.channelGuids) {
+    const auto moveOne = [&](const std::string& guid) {
         const auto channel = std::find_if(channels.begin(), channels.end(),
                                           [&](const auto& candidate) { return candidate.guid == guid; });
         const bool isKnown = channel != channels.end();
         const auto move = [&](std::int32_t session) {
             return MoveWiper(session, channel->channelNo, control.action);
         };
-        list.results.push_back(
-            {guid, ResultFor(resources, services, isKnown ? channel->deviceGuid : std::string(), move)});
-    }
+        return ResultFor(resources, services, isKnown ? channel->deviceGuid : std::string(), move);
+    };
+    list.results = SideBySide<protocol::WiperControlResult>(control.channelGuids, moveOne);
     services.logOperation("The wipers of " + std::to_string(list.results.size()) +
                           " cameras were to be moved.");
     return Found(list);
@@ -204,7 +227,8 @@ void AddDeviceRoutes(CRouteTable& routes, CResources& resources, const RouteServ
         WithBody<AlarmOutputControlData>(
             [&resources, services](const RouteRequest& request, const AlarmOutputControlData& control) {
                 return SwitchOutput(resources, services, request, control.active);
-            }));
+            }),
+        RouteWaits::ForDevices);
     routes.Add("GET", route::kGroups, [&resources](const RouteRequest&) { return AllGroups(resources); });
     routes.Add("PUT", route::kGroups,
                WithBody<ModifyGroupCondition>(
@@ -214,12 +238,14 @@ void AddDeviceRoutes(CRouteTable& routes, CResources& resources, const RouteServ
     routes.Add("POST", route::kBatchTimeSynchronization,
                WithBody<DeviceList>([&resources, services](const RouteRequest&, const DeviceList& devices) {
                    return SynchroniseTime(resources, services, devices);
-               }));
+               }),
+               RouteWaits::ForDevices);
     routes.Add("POST", route::kWipers,
                WithBody<WiperControlData>(
                    [&resources, services](const RouteRequest&, const WiperControlData& control) {
                        return MoveWipers(resources, services, control);
-                   }));
+                   }),
+               RouteWaits::ForDevices);
 }
 
 } // namespace framework

@@ -34,15 +34,23 @@ lpc::Message BadBody(const RouteRequest& request, const char* key)
     return Failed(400, std::string("The body holds no ") + key + ".");
 }
 
-void CRouteTable::Add(const char* method, std::string url, RouteHandler handler)
+void CRouteTable::Add(const char* method, std::string url, RouteHandler handler, RouteWaits waits)
 {
-    m_rows.push_back({method, std::move(url), std::move(handler)});
+    m_rows.push_back({method, std::move(url), std::move(handler), waits});
 }
 
 bool CRouteTable::Knows(const std::string& url) const
 {
     return std::any_of(m_rows.begin(), m_rows.end(),
                        [&](const Row& row) { return lpcforward::UrlMatches(row.url, url); });
+}
+
+RouteWaits CRouteTable::WaitsOf(const std::string& url, const std::string& method) const
+{
+    const auto row = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row& candidate) {
+        return candidate.method == method && lpcforward::UrlMatches(candidate.url, url);
+    });
+    return row == m_rows.end() ? RouteWaits::ForTheDisk : row->waits;
 }
 
 lpc::Message CRouteTable::Serve(const std::string& url, const std::string& method, RouteRequest request) const

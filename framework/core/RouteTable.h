@@ -41,16 +41,23 @@ RouteHandler WithBody(Work work)
     };
 }
 
+/// What a route waits for, at most.
+enum class RouteWaits { ForTheDisk, ForDevices };
+
 /// The framework's routes, one row each. Filled before the server starts; from then on only read, from any
 /// thread.
 class CRouteTable
 {
 public:
     /// url: see lpcforward::UrlMatches.
-    void Add(const char* method, std::string url, RouteHandler handler);
+    void Add(const char* method, std::string url, RouteHandler handler,
+             RouteWaits waits = RouteWaits::ForTheDisk);
 
     /// Whether a row has this url.
     bool Knows(const std::string& url) const;
+
+    /// Of the row that Serve would take.
+    RouteWaits WaitsOf(const std::string& url, const std::string& method) const;
 
     /// The answer of the first row that fits; status 404 for a url, 405 for a method that no row has.
     lpc::Message Serve(const std::string& url, const std::string& method, RouteRequest request) const;
@@ -61,6 +68,7 @@ private:
         std::string method;
         std::string url;
         RouteHandler handler;
+        RouteWaits waits;
     };
     std::vector<Row> m_rows;
 };

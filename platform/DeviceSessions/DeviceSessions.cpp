@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::int32_t kNoSession = -1;
 constexpr std::int32_t kNoDevice = -999;
+constexpr std::size_t kFewThreads = 16;
 
 } // namespace
 
@@ -29,9 +30,12 @@ bool DeviceAddress::operator==(const DeviceAddress& other) const
 // that do.
 struct CDeviceSessions::State
 {
-    State(OnStatus listener, const SessionLimits& given) : onStatus(std::move(listener)), limits(given) {}
+    State(OnStatus listener, const SessionLimits& given, OnSessionEnd endListener)
+        : onStatus(std::move(listener)), onSessionEnd(std::move(endListener)), limits(given)
+    {}
 
     const OnStatus onStatus;
+    const OnSessionEnd onSessionEnd;
     const SessionLimits limits;
 
     mutable std::mutex mutex;
@@ -46,7 +50,7 @@ struct CDeviceSessions::State
     std::recursive_mutex telling; ///< held while an event is told
     Base::CMessageLoop events{"device-events"};
 
-    std::size_t SlowLimit() const { return std::max<std::size_t>(limits.threads / 2, 1); }
+    std::size_t SlowLimit() const { return std::max<std::size_t>(threads.size() / 2, 1); }
     void StartThreads();
     void Stop();
     void Work();
@@ -64,7 +68,8 @@ struct CDeviceSessions::State
 
 void CDeviceSessions::State::StartThreads()
 {
-    while (threads.size() < std::max<std::size_t>(limits.threads, 1))
+    const std::size_t wanted = std::min(std::max(devices.size(), kFewThreads), limits.threads);
+    while (threads.size() < std::max<std::size_t>(wanted, 1))
         threads.emplace_back([this] {
             Base::ProcessUtil::NameThisThread("device-session");
             Work();
@@ -81,6 +86,8 @@ void CDeviceSessions::State::Stop()
         devices.clear();
     }
     changed.notify_all();
+    // Calls to devices that do not answer end by this; the logouts that are left then have nothing to do.
+    (void)QxNet_Cleanup();
     for (std::thread& thread : threads)
         thread.join();
     events.Stop();
@@ -126,6 +133,8 @@ void CDeviceSessions::State::EndSession(std::unique_lock<std::mutex>& lock)
     ++slowCalls;
     lock.unlock();
     LogOut(login);
+    if (onSessionEnd)
+        onSessionEnd(login);
     lock.lock();
     --slowCalls;
     changed.notify_all();
@@ -234,8 +243,8 @@ void CDeviceSessions::State::Tell(const WatchedPtr& device, const DeviceStatus& 
     onStatus(status);
 }
 
-CDeviceSessions::CDeviceSessions(OnStatus onStatus, SessionLimits limits)
-    : m_state(std::make_shared<State>(std::move(onStatus), limits))
+CDeviceSessions::CDeviceSessions(OnStatus onStatus, SessionLimits limits, OnSessionEnd onSessionEnd)
+    : m_state(std::make_shared<State>(std::move(onStatus), limits, std::move(onSessionEnd)))
 {
     if (!QxNet_Init())
         BASE_ERROR("The device SDK cannot be used, [%u].", NET_DVR_GetLastError());
@@ -244,7 +253,6 @@ CDeviceSessions::CDeviceSessions(OnStatus onStatus, SessionLimits limits)
 CDeviceSessions::~CDeviceSessions()
 {
     m_state->Stop();
-    (void)QxNet_Cleanup();
 }
 
 void CDeviceSessions::Set(const DeviceAddress& address)

@@ -60,22 +60,27 @@ struct SessionLimits
     std::chrono::milliseconds again{2000};    ///< first pause before a device that is offline is tried again
     std::chrono::milliseconds longest{8000};  ///< the pauses double up to this
     std::chrono::milliseconds refused{60000}; ///< pause after a wrong password, so that nobody is locked out
-    std::size_t threads = 16;
+    std::size_t threads = 64;                 ///< at most; there are fewer for few devices
 };
 
 /// Logs devices in, watches those that are logged in and comes back to those that are not. The session of a
 /// device is there at once for anybody who asks; nobody waits for a login here.
 ///
-/// Threads: the calls are for any thread and never wait for a device, Remove and the destructor excepted,
-/// which wait at most for one answer. Events come one at a time, on a thread of this class.
+/// Threads: the calls are for any thread and never wait for a device. Remove waits for an event that is being
+/// told, and the destructor for the logouts, a second or so. Events come one at a time, on a thread of this
+/// class.
 class CDeviceSessions : Base::CNoncopyable
 {
 public:
     /// Told of every change of a status. Must return soon; may call everything here but the destructor.
     using OnStatus = std::function<void(const DeviceStatus& status)>;
 
-    explicit CDeviceSessions(OnStatus onStatus, SessionLimits limits = {});
-    /// Logs everybody out. No event comes afterwards.
+    /// Told of every login handle that has ended, on any thread of this class. Must call nothing here.
+    using OnSessionEnd = std::function<void(std::int32_t login)>;
+
+    explicit CDeviceSessions(OnStatus onStatus, SessionLimits limits = {}, OnSessionEnd onSessionEnd = {});
+    /// Logs everybody out, and ends all calls of the SDK that are under way where nobody else has started it.
+    /// No event comes afterwards.
     ~CDeviceSessions();
 
     /// Adds a device, or changes how one is reached: then its old session ends. Unchanged: nothing happens.

@@ -8,14 +8,9 @@ TriedDevice TryDevice(const DeviceAddress& address, std::chrono::milliseconds an
 {
     TriedDevice tried;
     CallError error;
-    if (!QxNet_Init()) {
-        tried.error = QXNET_ERROR_NOT_INITIALISED;
-        return tried;
-    }
     const std::int32_t login = LogIn(address, answer, tried.info, error);
     if (login >= 0)
         LogOut(login);
-    (void)QxNet_Cleanup();
     tried.error = error.error;
     tried.moduleError = error.module;
     return tried;

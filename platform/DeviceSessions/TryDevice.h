@@ -16,7 +16,7 @@ struct TriedDevice
 };
 
 /// Logs in to a device and out again, to see whether it can be reached so. Waits for the device, twice the
-/// answer's time at most. Any thread.
+/// answer's time at most. The SDK has been started; its end ends the wait. Any thread.
 TriedDevice TryDevice(const DeviceAddress& address,
                       std::chrono::milliseconds answer = std::chrono::milliseconds(5000));
 

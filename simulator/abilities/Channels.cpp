@@ -74,8 +74,8 @@ const Options kPreRecordTimes = {{0, "disable"}, {1, "5s"},  {2, "10s"}, {3, "15
                                  {4, "20s"},     {5, "25s"}, {6, "30s"}, {7, "0xffffffff"}};
 const Options kPostRecordTimes = {{0, "5s"},   {1, "10s"},  {2, "30s"},  {3, "1min"},
                                   {4, "2min"}, {5, "5min"}, {6, "10min"}};
-const Options kRecordStreams = {{0, "mainstream"}, {1, "substream"}, {2, "main_and_sub"},
-                                {3, "stream3"},    {4, "stream4"},   {5, "stream5"}};
+const Options kRecordStreams = {{0, "mainstream"}, {1, "substream"}, {2, "main_and_sub"}, {3, "stream3"},
+                                {4, "stream4"},    {5, "stream5"},   {6, "virtualstream"}};
 
 PictureOptions Pictures(Options resolutions, Range interval, std::optional<Range> count)
 {

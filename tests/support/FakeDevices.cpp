@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <chrono>
+#include <condition_variable>
 #include <cstring>
 #include <map>
 #include <mutex>
-#include <thread>
 
 namespace {
 
@@ -29,6 +29,10 @@ struct World
     std::map<std::string, Entry> devices;
     std::map<std::int32_t, Session> sessions;
     std::int32_t next = 0;
+    int inits = 0;
+    int cleanups = 0; ///< that were the last ones
+    int hanging = 0;  ///< calls that wait for an answer
+    std::condition_variable ended;
 };
 
 World& TheWorld()
@@ -39,12 +43,24 @@ World& TheWorld()
 
 thread_local std::uint32_t t_error = 0;
 
-int Fail(std::uint32_t error, std::uint32_t timeoutMs)
+int Fail(std::uint32_t error)
 {
-    if (error == QXNET_ERROR_ANSWER_TIMEOUT)
-        std::this_thread::sleep_for(std::chrono::milliseconds(timeoutMs));
     t_error = error;
     return 0;
+}
+
+/// A device that does not answer takes the time that the login gave, unless the library ends meanwhile.
+int FailInTime(std::uint32_t error, std::uint32_t timeoutMs, std::unique_lock<std::mutex>& lock)
+{
+    World& world = TheWorld();
+    if (error != QXNET_ERROR_ANSWER_TIMEOUT)
+        return Fail(error);
+    const int before = world.cleanups;
+    ++world.hanging;
+    const bool isEnded = world.ended.wait_for(lock, std::chrono::milliseconds(timeoutMs),
+                                              [&] { return world.cleanups != before; });
+    --world.hanging;
+    return Fail(isEnded ? std::uint32_t{QXNET_ERROR_CLOSED} : error);
 }
 
 void FillPage(const fakedevices::Device& device, std::uint32_t from, QxNetChannelPage& page)
@@ -98,6 +114,12 @@ int Sessions(const std::string& host)
         std::count_if(all.begin(), all.end(), [&](const auto& entry) { return entry.second.host == host; }));
 }
 
+int Hanging()
+{
+    std::lock_guard<std::mutex> lock(TheWorld().mutex);
+    return TheWorld().hanging;
+}
+
 int Logins(const std::string& host)
 {
     std::lock_guard<std::mutex> lock(TheWorld().mutex);
@@ -120,11 +142,22 @@ std::string Written(const std::string& host, std::uint32_t command, int channel)
 
 int QxNet_Init(void)
 {
+    std::lock_guard<std::mutex> lock(TheWorld().mutex);
+    ++TheWorld().inits;
     return 1;
 }
 
 int QxNet_Cleanup(void)
 {
+    World& world = TheWorld();
+    std::lock_guard<std::mutex> lock(world.mutex);
+    if (world.inits == 0)
+        return Fail(QXNET_ERROR_NOT_INITIALISED);
+    if (--world.inits > 0)
+        return 1;
+    world.sessions.clear();
+    ++world.cleanups;
+    world.ended.notify_all();
     return 1;
 }
 
@@ -138,8 +171,8 @@ int32_t QxNet_Login(const QxNetLogin* login, QxNetDeviceInfo* info)
     World& world = TheWorld();
     std::unique_lock<std::mutex> lock(world.mutex);
     const auto found = world.devices.find(login->address);
-    if (found == world.devices.end())
-        return Fail(QXNET_ERROR_UNREACHABLE, 0) - 1;
+    if (world.inits == 0 || found == world.devices.end())
+        return Fail(world.inits == 0 ? QXNET_ERROR_NOT_INITIALISED : QXNET_ERROR_UNREACHABLE) - 1;
     Entry& entry = found->second;
     ++entry.logins;
     std::uint32_t error = entry.device.error;
@@ -150,8 +183,7 @@ int32_t QxNet_Login(const QxNetLogin* login, QxNetDeviceInfo* info)
         world.sessions[world.next] = {login->address, login->exchangeTimeoutMs};
         return world.next++;
     }
-    lock.unlock();
-    return Fail(error, login->connectTimeoutMs) - 1;
+    return FailInTime(error, login->connectTimeoutMs, lock) - 1;
 }
 
 int QxNet_Logout(int32_t login)
@@ -167,7 +199,7 @@ int NET_DVR_SetDVRConfig(int32_t login, uint32_t command, int32_t channel, const
     std::lock_guard<std::mutex> lock(world.mutex);
     const auto session = world.sessions.find(login);
     if (session == world.sessions.end())
-        return Fail(QXNET_ERROR_HANDLE, 0);
+        return Fail(QXNET_ERROR_HANDLE);
     world.devices[session->second.host].written[{command, channel}].assign(
         static_cast<const char*>(structure), size);
     return 1;
@@ -180,13 +212,11 @@ int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void*
     std::unique_lock<std::mutex> lock(world.mutex);
     const auto session = world.sessions.find(login);
     if (session == world.sessions.end())
-        return Fail(QXNET_ERROR_HANDLE, 0);
+        return Fail(QXNET_ERROR_HANDLE);
     Entry& entry = world.devices[session->second.host];
     if (entry.device.error != 0) {
         const std::uint32_t timeoutMs = session->second.timeoutMs;
-        const std::uint32_t error = entry.device.error;
-        lock.unlock();
-        return Fail(error, timeoutMs);
+        return FailInTime(entry.device.error, timeoutMs, lock);
     }
     if (command == QXNET_GET_DEVICE_INFO) {
         std::memcpy(structure, &entry.device.info, sizeof entry.device.info);
@@ -199,6 +229,11 @@ int NET_DVR_GetDVRConfig(int32_t login, uint32_t command, int32_t channel, void*
                  *static_cast<QxNetChannelPage*>(structure));
     }
     return 1;
+}
+
+int QxNet_GetAbility(int32_t, uint32_t, int32_t, char*, uint32_t, uint32_t*)
+{
+    return Fail(QXNET_ERROR_NOT_SUPPORTED);
 }
 
 uint32_t NET_DVR_GetLastError(void)

@@ -11,7 +11,8 @@ namespace fakedevices {
 
 struct Device
 {
-    std::uint32_t error = 0; ///< of every call; ANSWER_TIMEOUT comes after the time that the login gave
+    /// Of every call; ANSWER_TIMEOUT comes after the time that the login gave, or when the library is ended.
+    std::uint32_t error = 0;
     QxNetDeviceInfo info{};
     std::vector<QxNetChannelState> channels;
     std::uint32_t changes = 0;
@@ -25,6 +26,7 @@ void Set(const std::string& host, const Device& device);
 void Clear();
 
 int Sessions(const std::string& host); ///< open at this moment
+int Hanging();                         ///< calls of devices that do not answer
 int Logins(const std::string& host);   ///< tried so far
 int Pages(const std::string& host);    ///< read so far
 

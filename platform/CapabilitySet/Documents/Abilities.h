@@ -10,7 +10,8 @@
 
 namespace CapabilitySet {
 
-/// Every ability that there is. A new one stands here, and the cache, the tests and the fuzz target have it.
+/// Every ability that there is. A new one stands here and at the end of AbilityCache.cpp; tests and fuzz
+/// target have it then.
 using AnyAbility = std::variant<ChannelInput, BasicFeatures, RecordOptions, CaptureOptions, DetectionOptions>;
 
 } // namespace CapabilitySet

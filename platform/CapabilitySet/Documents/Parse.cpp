@@ -43,7 +43,7 @@ bool HasIndex(const Options& options, std::uint32_t index)
                        [&](const Option& option) { return option.index == index; });
 }
 
-bool AddOption(const DocumentElement& element, std::uint32_t greatest, Options& options, Problem& problem)
+bool AddOption(const XmlTree::Element& element, std::uint32_t greatest, Options& options, Problem& problem)
 {
     Option option;
     if (options.size() >= kMostOptions)
@@ -56,13 +56,13 @@ bool AddOption(const DocumentElement& element, std::uint32_t greatest, Options& 
     return true;
 }
 
-bool ReadEnd(const DocumentElement& element, const char* name, std::uint32_t greatest, std::uint32_t& value,
+bool ReadEnd(const XmlTree::Element& element, const char* name, std::uint32_t greatest, std::uint32_t& value,
              Problem& problem)
 {
-    const std::string* text = element.Attribute(name);
-    if (!text)
+    const auto attribute = element.attributes.find(name);
+    if (attribute == element.attributes.end())
         return Refuse(problem, std::string(name) + " is missing");
-    return ReadNumber(*text, greatest, value, problem);
+    return ReadNumber(attribute->second, greatest, value, problem);
 }
 
 } // namespace
@@ -79,11 +79,11 @@ bool RefuseIn(const char* element, Problem& problem)
     return false;
 }
 
-bool OnlyChild(const DocumentElement& parent, const char* name, const DocumentElement*& child,
+bool OnlyChild(const XmlTree::Element& parent, const char* name, const XmlTree::Element*& child,
                Problem& problem)
 {
     child = nullptr;
-    for (const DocumentElement& candidate : parent.children) {
+    for (const XmlTree::Element& candidate : parent.children) {
         if (candidate.name != name)
             continue;
         if (child)
@@ -93,15 +93,14 @@ bool OnlyChild(const DocumentElement& parent, const char* name, const DocumentEl
     return true;
 }
 
-bool IsRoot(const DocumentElement& root, const char* name, Problem& problem)
+bool IsRoot(const XmlTree::Element& root, const char* name, Problem& problem)
 {
     if (root.name != name)
         return Refuse(problem, "the document is another one");
-    const std::string* version = root.Attribute("version");
-    return (version && *version == "1") || Refuse(problem, "not version 1");
+    return root.Attribute("version") == "1" || Refuse(problem, "not version 1");
 }
 
-bool Read(const DocumentElement& element, std::uint32_t, bool& value, Problem& problem)
+bool Read(const XmlTree::Element& element, std::uint32_t, bool& value, Problem& problem)
 {
     if (element.text != "true" && element.text != "false")
         return Refuse(problem, "neither true nor false");
@@ -109,12 +108,12 @@ bool Read(const DocumentElement& element, std::uint32_t, bool& value, Problem& p
     return true;
 }
 
-bool Read(const DocumentElement& element, std::uint32_t greatest, std::uint32_t& value, Problem& problem)
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, std::uint32_t& value, Problem& problem)
 {
     return ReadNumber(element.text, greatest, value, problem);
 }
 
-bool Read(const DocumentElement& element, std::uint32_t greatest, std::optional<Range>& range,
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, std::optional<Range>& range,
           Problem& problem)
 {
     Range ends;
@@ -127,9 +126,9 @@ bool Read(const DocumentElement& element, std::uint32_t greatest, std::optional<
     return true;
 }
 
-bool Read(const DocumentElement& element, std::uint32_t greatest, Options& options, Problem& problem)
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, Options& options, Problem& problem)
 {
-    for (const DocumentElement& child : element.children) {
+    for (const XmlTree::Element& child : element.children) {
         if (child.name == "option" && !AddOption(child, greatest, options, problem))
             return RefuseIn("option", problem);
     }

@@ -24,30 +24,30 @@ bool Refuse(Problem& problem, std::string reason);
 bool RefuseIn(const char* element, Problem& problem);
 
 /// The only child of the name, nullptr when there is none; false when there are several.
-bool OnlyChild(const DocumentElement& parent, const char* name, const DocumentElement*& child,
+bool OnlyChild(const XmlTree::Element& parent, const char* name, const XmlTree::Element*& child,
                Problem& problem);
 /// Whether the document's outermost element is the one wanted, in a version that is understood.
-bool IsRoot(const DocumentElement& root, const char* name, Problem& problem);
+bool IsRoot(const XmlTree::Element& root, const char* name, Problem& problem);
 
-bool Read(const DocumentElement& element, std::uint32_t greatest, bool& value, Problem& problem);
-bool Read(const DocumentElement& element, std::uint32_t greatest, std::uint32_t& value, Problem& problem);
-bool Read(const DocumentElement& element, std::uint32_t greatest, std::optional<Range>& range,
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, bool& value, Problem& problem);
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, std::uint32_t& value, Problem& problem);
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, std::optional<Range>& range,
           Problem& problem);
-bool Read(const DocumentElement& element, std::uint32_t greatest, Options& options, Problem& problem);
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, Options& options, Problem& problem);
 
 template<typename T>
-bool ReadFields(const DocumentElement& element, T& structure, Problem& problem);
+bool ReadFields(const XmlTree::Element& element, T& structure, Problem& problem);
 
 template<typename T, std::enable_if_t<HasFields<T>::value, int> = 0>
-bool Read(const DocumentElement& element, std::uint32_t, std::optional<T>& structure, Problem& problem)
+bool Read(const XmlTree::Element& element, std::uint32_t, std::optional<T>& structure, Problem& problem)
 {
     return ReadFields(element, structure.emplace(), problem);
 }
 
 template<typename T, std::enable_if_t<HasFields<T>::value, int> = 0>
-bool Read(const DocumentElement& element, std::uint32_t greatest, std::vector<T>& list, Problem& problem)
+bool Read(const XmlTree::Element& element, std::uint32_t greatest, std::vector<T>& list, Problem& problem)
 {
-    for (const DocumentElement& child : element.children) {
+    for (const XmlTree::Element& child : element.children) {
         if (child.name != T::kElement)
             continue;
         if (list.size() >= greatest)
@@ -59,9 +59,9 @@ bool Read(const DocumentElement& element, std::uint32_t greatest, std::vector<T>
 }
 
 template<typename T, typename M>
-bool ReadField(const DocumentElement& element, const Field<T, M>& field, T& structure, Problem& problem)
+bool ReadField(const XmlTree::Element& element, const Field<T, M>& field, T& structure, Problem& problem)
 {
-    const DocumentElement* child = nullptr;
+    const XmlTree::Element* child = nullptr;
     if (!OnlyChild(element, field.name, child, problem))
         return false;
     return !child || Read(*child, field.greatest, structure.*field.member, problem) ||
@@ -69,7 +69,7 @@ bool ReadField(const DocumentElement& element, const Field<T, M>& field, T& stru
 }
 
 template<typename T>
-bool ReadFields(const DocumentElement& element, T& structure, Problem& problem)
+bool ReadFields(const XmlTree::Element& element, T& structure, Problem& problem)
 {
     bool good = true;
     ForEachField<T>([&](const auto& field) { good = good && ReadField(element, field, structure, problem); });
@@ -84,7 +84,7 @@ bool ReadFields(const DocumentElement& element, T& structure, Problem& problem)
 template<typename Ability>
 [[nodiscard]] bool ParseAbility(std::string_view document, Ability& ability, std::string& problem)
 {
-    DocumentElement root;
+    XmlTree::Element root;
     if (!ReadDocument(document, root, problem))
         return false;
     Ability fresh;

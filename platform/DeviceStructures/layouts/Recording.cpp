@@ -4,7 +4,7 @@ namespace devices {
 
 static constexpr char kPreRecord[] = "none|5s|10s|15s|20s|25s|30s|unlimited";
 static constexpr char kPostRecord[] = "5s|10s|30s|1min|2min|5min|10min";
-static constexpr char kStreams[] = "main|sub|main-and-sub|stream3|stream4|stream5";
+static constexpr char kStreams[] = "main|sub|main-and-sub|stream3|stream4|stream5|virtual";
 static constexpr char kInsteadOfDay[] = "0: holidays are days like any other";
 
 QXNET_LAYOUT(NET_DVR_RECORD_V30, "Recording of a channel, on older devices",

@@ -30,6 +30,7 @@ enum {
     QXNET_RECORD_STREAM3 = 3,
     QXNET_RECORD_STREAM4 = 4,
     QXNET_RECORD_STREAM5 = 5,
+    QXNET_RECORD_VIRTUAL = 6, /* the one that the device makes when somebody watches */
 };
 
 typedef struct NET_DVR_RECORD_V40

@@ -84,10 +84,14 @@ ModelCounts CElementTable::Counts() const
 
 void CElementTable::Take(const DeviceResource& device)
 {
+    DeviceHeard heard;
+    if (const auto former = m_devices.find(device.id); former != m_devices.end())
+        heard = former->second.heard;
     if (!MakesRoomFor(device.id, TypeOf(device)))
         return;
     Device& known = m_devices[device.id];
     known.told = device;
+    known.heard = std::move(heard); // also of a device that turns out to be a storage server
     ShowDevice(known);
 }
 
@@ -117,6 +121,8 @@ void CElementTable::Take(const GroupResource& group)
     m_wanting[group.parentId].groups.insert(group.id);
     ShowGroup(known);
     ShowThoseWanting(group.id);
+    for (const QID& id : std::set<QID>(m_inCircles))
+        ShowGroup(m_groups.at(id));
 }
 
 void CElementTable::Take(const GroupMembers& members)
@@ -234,6 +240,10 @@ void CElementTable::ShowGroup(Group& group)
     now.id = group.told.id;
     now.type = ElementType::Group;
     now.groupId = ShownParent(group);
+    if (now.groupId.isEmpty() && IsGroup(group.told.parentId))
+        m_inCircles.insert(now.id);
+    else
+        m_inCircles.erase(now.id);
     now.name = group.told.name;
     now.state = ElementState::Online;
     now.number = group.shown.number ? group.shown.number : ++m_places[PlacesOf(now.type)];
@@ -335,6 +345,7 @@ void CElementTable::RemoveOneGroup(const QID& id)
 {
     const Group group = std::move(m_groups.at(id));
     m_groups.erase(id);
+    m_inCircles.erase(id);
     Unwant(&Wanting::groups, group.told.parentId, id);
     ShowThoseWanting(id);
     NoteRemoval(group.shown);

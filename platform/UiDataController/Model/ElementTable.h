@@ -87,6 +87,7 @@ private:
     std::unordered_map<QID, Channel> m_channels;
     std::unordered_map<QID, Group> m_groups;
     std::unordered_map<QID, Wanting> m_wanting; ///< by the group that they want
+    std::set<QID> m_inCircles;                  ///< groups that want one which stands below them
     std::array<int, 3> m_places{};              ///< the last ones given to devices, servers and groups
     ElementChanges m_changes;
 };

@@ -1,5 +1,6 @@
 #include "logical/SDK/Session/ResourceCentre.h"
 #include "support/CapturedLog.h"
+#include "support/FakeDevices.h"
 #include "support/WaitUntil.h"
 
 #include <gmock/gmock.h>
@@ -245,6 +246,30 @@ TEST_F(TheFeed, SaysWhichNotificationItCannotRead)
     EXPECT_TRUE(Shows({"a", "g"}));
     EXPECT_EQ(log.Count("The notification [channelChange] of [a1] cannot be read."), 1u);
     EXPECT_EQ(log.Errors().size(), 2u);
+}
+
+TEST(TheCentre, LetsNeitherPagesNorItsEndWaitForADeviceThatHangs)
+{
+    fakedevices::Device device = fakedevices::Make(1);
+    device.error = QXNET_ERROR_ANSWER_TIMEOUT;
+    fakedevices::Set("198.51.100.1", device);
+    devices::SessionLimits limits;
+    limits.answer = 1min;
+    Directory directory;
+    directory.Put("a", 1);
+    Base::CMessageLoop loop("test");
+    video::CSessionPool pool("", limits);
+    video::CResourceCentre centre(loop, directory, pool);
+    centre.Start();
+    std::shared_ptr<ICamera> camera;
+    ASSERT_TRUE(WaitUntil([&] { return (camera = centre.Model().Camera("a1")) != nullptr; }));
+    ASSERT_TRUE(WaitUntil([] { return fakedevices::Hanging() == 1; }));
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(camera->Login(kLoginOfDevice), kLoginFailed);
+    centre.Stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 10s);
+    EXPECT_EQ(camera->Login(kLoginOfDevice), kLoginFailed);
+    fakedevices::Clear();
 }
 
 } // namespace

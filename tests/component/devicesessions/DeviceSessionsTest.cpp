@@ -44,6 +44,12 @@ protected:
         states.push_back(status.state);
     }
 
+    void Left(std::int32_t login)
+    {
+        std::lock_guard<std::mutex> lock(mutex);
+        left.push_back(login);
+    }
+
     DeviceStatus Told(const std::string& id)
     {
         std::lock_guard<std::mutex> lock(mutex);
@@ -63,6 +69,7 @@ protected:
     std::mutex mutex;
     std::map<std::string, DeviceStatus> told;
     std::vector<SessionState> states;
+    std::vector<std::int32_t> left; ///< sessions that ended
     std::unique_ptr<CDeviceSessions> sessions =
         std::make_unique<CDeviceSessions>([this](const DeviceStatus& status) { Hear(status); }, Quick());
 };
@@ -120,6 +127,35 @@ TEST_F(DeviceSessions, NoticeADeviceThatDiesAmongManyThatDoNotAnswer)
     EXPECT_TRUE(Becomes("well50", SessionState::Offline, QXNET_ERROR_UNREACHABLE));
     // The logins to the dead ones take 5 s a round.
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
+}
+
+// Whoever asks for a session, and the end of the program, do not wait for devices that do not answer.
+TEST_F(DeviceSessions, LetNobodyWaitForADeviceThatHangs)
+{
+    SessionLimits limits = Quick();
+    limits.answer = std::chrono::minutes(1);
+    sessions = std::make_unique<CDeviceSessions>([this](const DeviceStatus& status) { Hear(status); }, limits,
+                                                 [this](std::int32_t login) { Left(login); });
+    fakedevices::Device device = fakedevices::Make(1);
+    fakedevices::Set("dies", device);
+    Add("dies");
+    ASSERT_TRUE(Becomes("dies", SessionState::Online));
+    const std::int32_t login = sessions->Session("dies");
+    device.error = QXNET_ERROR_ANSWER_TIMEOUT;
+    for (const char* host : {"dies", "hangs", "too"})
+        fakedevices::Set(host, device);
+    Add("hangs");
+    Add("too");
+    ASSERT_TRUE(WaitUntil([] { return fakedevices::Hanging() == 3; }));
+    const auto begin = std::chrono::steady_clock::now();
+    DeviceStatus status;
+    EXPECT_EQ(sessions->Session("hangs"), -1);
+    EXPECT_EQ(sessions->Session("dies"), login);
+    EXPECT_TRUE(sessions->Status("hangs", status));
+    sessions->Remove("too");
+    sessions.reset();
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(10));
+    EXPECT_EQ(left, std::vector<std::int32_t>{login});
 }
 
 TEST_F(DeviceSessions, WaitLongAfterAWrongPasswordUnlessAsked)

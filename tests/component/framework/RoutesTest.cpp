@@ -9,6 +9,7 @@
 #include "support/WaitUntil.h"
 
 #include <cstring>
+#include <future>
 
 using testing::AllOf;
 using testing::HasSubstr;
@@ -147,6 +148,21 @@ TEST_F(Routes, AnswerTheComponentAndSayWhatIsWrongWithARequest)
     std::memcpy(&clock, fakedevices::Written("yard.example", QXNET_SET_CLOCK, 0).data(), sizeof clock);
     EXPECT_GE(clock.year, 2025);
     EXPECT_EQ(fakedevices::Written("yard.example", QXNET_SET_WIPER, 1).size(), sizeof(QxNetWiper));
+}
+
+TEST_F(Routes, AskDevicesSideBySideWhileOtherRoutesAreServed)
+{
+    fakedevices::Device hanging = fakedevices::Make(2);
+    hanging.error = QXNET_ERROR_ANSWER_TIMEOUT;
+    fakedevices::Set("yard.example", hanging);
+    TestClient component(lpc::kVideoComponentName);
+    const auto batch = std::async(std::launch::async, [&] {
+        return component.Request("POST", kManagement + "batchTimeSynchronization",
+                                 Filled(R"({"deviceGuidList":["$device","$device","$device"]})"));
+    });
+    EXPECT_TRUE(WaitUntil([] { return fakedevices::Hanging() >= 3; }));
+    EXPECT_EQ(component.Request("GET", kDevices).status, "200");
+    EXPECT_EQ(batch.wait_for(std::chrono::seconds(0)), std::future_status::timeout);
 }
 
 TEST_F(Routes, GiveCredentialsToTheComponentOnlyAndEnciphered)

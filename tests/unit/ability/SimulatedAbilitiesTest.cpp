@@ -25,7 +25,7 @@ struct Row
 
 const Row kRows[] = {
     {"encoder", QXNET_DEVICE_ENCODER, QXNET_DEVICE_ENCODER, 0, 1, "12345", false, true, 0, 7},
-    {"recorder, network camera", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 1, "12345", true, true, 6,
+    {"recorder, network camera", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 1, "12345", true, true, 7,
      8},
     {"recorder, analog camera", QXNET_DEVICE_RECORDER, QXNET_DEVICE_RECORDER, 0, 4, "12345", true, true, 3,
      8},
@@ -37,7 +37,7 @@ const Row kRows[] = {
     {"type 102", QXNET_DEVICE_ENCODER, 102, 0, 1, "125", false, false, 0, 0},
     {"type 15, sub-type 6", QXNET_DEVICE_ENCODER, 15, 6, 1, "125", false, false, 0, 0},
     {"type 15", QXNET_DEVICE_ENCODER, 15, 5, 1, "12345", false, true, 0, 7},
-    {"type 107", QXNET_DEVICE_RECORDER, 107, 0, 1, "12345", true, false, 6, 8},
+    {"type 107", QXNET_DEVICE_RECORDER, 107, 0, 1, "12345", true, false, 7, 8},
 };
 
 /// The ability that the channel has, or what one has whose every element is missing; notes the kind.

@@ -49,6 +49,11 @@ const Step kSteps[] = {
      "~d ~c1 ~c2"},
     {"a channel gets another number", {ChannelResource{"c2", "d", "g", "", 3}}, "~c2"},
     {"exactly one channel is in the group", {GroupMembers{"g", {"c2", "unknown"}}}, "~c1"},
+    {"a circle of groups is open where it was closed last",
+     {GroupResource{"x", "y", "X"}, GroupResource{"y", "z", "Y"}, GroupResource{"z", "x", "Z"}},
+     "+x +y ~x +z"},
+    {"and none when one of them leaves it", {GroupResource{"x", "", "X"}}, "~x ~y"},
+    {"groups of the circle go", {Removal{"x"}}, "-y -z -x"},
     {"groups go with those below; their channels stay", {Removal{"top"}}, "~c2 -g -top"},
     {"all other channels go", {KeepOnly{"d", {"c2"}}}, "-c1"},
     {"another type is another element", {DeviceResource{"d", "Door", "host", 128, 0}}, "-c2 -d +d"},
@@ -97,6 +102,18 @@ TEST(AChannel, ShowsWhatItsDeviceTellsAndElseWhatTheFrameworkTold)
     table.Apply({DeviceHeard{"d", ElementState::Offline, "why", 0, 0, {}}});
     EXPECT_EQ(table.Find("c1")->problem, "why");
     EXPECT_EQ(table.Find("c3")->state, ElementState::Offline);
+}
+
+// The framework hears of a device's kind from the device itself, as do the sessions, which then tell no more.
+TEST(ADevice, KeepsWhatWasHeardOfItWhenItTurnsOutToBeAStorageServer)
+{
+    CElementTable table;
+    table.Apply({DeviceResource{"s", "Store", "host", 0, 0}, ChannelResource{"c", "s", "", "One", 1}});
+    table.Apply({DeviceHeard{"s", ElementState::Online, "", 128, 0, {Heard(1, ElementState::Recording)}}});
+    table.Apply({DeviceResource{"s", "Store", "host", 128, 0}, ChannelResource{"c", "s", "", "One", 1}});
+    EXPECT_EQ(table.Find("s")->type, ElementType::StorageServer);
+    EXPECT_EQ(table.Find("s")->state, ElementState::Online);
+    EXPECT_EQ(table.Find("c")->state, ElementState::Recording);
 }
 
 /// Edits of few identifiers, so that they meet; nonsense among them.

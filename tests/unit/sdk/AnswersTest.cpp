@@ -97,7 +97,8 @@ TEST(SdkAbility, DocumentsAreTakenOnlyWithinTheirLimits)
         {"<a/><b/>", false},
         {"<a>\xE4</a>", false},
         {std::string("<a/>\0", 5), false},
-        {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a/>", false},
+        {"<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>\xE4</a>", false},
+        {"<a><!-- <!DOCTYPE a> --></a>", true},
         {"", false},
         {"text", false},
     };

@@ -1,6 +1,7 @@
 #include "logical/SDK/Session/SessionPool.h"
 
 #include "Base/Log.h"
+#include "CapabilitySet/CapabilitySet.h"
 
 #include <mutex>
 
@@ -15,7 +16,10 @@ bool CSessionPool::Start(OnStatus onStatus)
     // Without the file certificates are remembered until the end of the process.
     if (!QxNet_SetTrustFile(m_trustFile.c_str()))
         BASE_ERROR("QxNet_SetTrustFile failed, [%u].", NET_DVR_GetLastError());
-    auto sessions = std::make_shared<devices::CDeviceSessions>(std::move(onStatus));
+    auto sessions =
+        std::make_shared<devices::CDeviceSessions>(std::move(onStatus), m_limits, &CapabilitySet::Forget);
+    // From here on the SDK is the sessions' alone, so that their end is the end of every call to a device.
+    (void)QxNet_Cleanup();
     const std::lock_guard<std::shared_mutex> lock(m_mutex);
     m_sessions = std::move(sessions);
     return true;
@@ -28,10 +32,6 @@ void CSessionPool::End()
         const std::lock_guard<std::shared_mutex> lock(m_mutex);
         sessions.swap(m_sessions);
     }
-    if (!sessions)
-        return;
-    sessions.reset();
-    QxNet_Cleanup();
 }
 
 void CSessionPool::Set(const devices::DeviceAddress& address)

@@ -24,12 +24,15 @@ public:
     virtual void Remove(const std::string& id) = 0;
 };
 
-/// Real ones, over the device SDK, which it starts and ends.
+/// Real ones, over the device SDK, which it starts and ends. What is known of the abilities behind a session
+/// is forgotten with it.
 class CSessionPool final : public ISessionPool
 {
 public:
     /// trustFile: where the certificates of devices are kept, in the platform's file name encoding.
-    explicit CSessionPool(std::string trustFile) : m_trustFile(std::move(trustFile)) {}
+    explicit CSessionPool(std::string trustFile, const devices::SessionLimits& limits = {})
+        : m_trustFile(std::move(trustFile)), m_limits(limits)
+    {}
     ~CSessionPool() override { End(); }
 
     bool Start(OnStatus onStatus) override;
@@ -42,6 +45,7 @@ private:
     std::shared_ptr<devices::CDeviceSessions> Sessions() const;
 
     const std::string m_trustFile;
+    const devices::SessionLimits m_limits;
     mutable std::shared_mutex m_mutex; ///< of the pointer
     std::shared_ptr<devices::CDeviceSessions> m_sessions;
 };
