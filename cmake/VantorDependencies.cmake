@@ -16,8 +16,11 @@ if(NOT WIN32)
     pkg_check_modules(XCB_DAMAGE REQUIRED IMPORTED_TARGET xcb-damage)
     pkg_check_modules(XCB_XTEST REQUIRED IMPORTED_TARGET xcb-xtest)
     pkg_check_modules(LIBSECRET REQUIRED IMPORTED_TARGET libsecret-1)
+    pkg_check_modules(ALSA REQUIRED IMPORTED_TARGET alsa)
 endif()
 pkg_check_modules(AVCODEC REQUIRED IMPORTED_TARGET libavcodec libavutil)
+pkg_check_modules(SWRESAMPLE REQUIRED IMPORTED_TARGET libswresample)
+pkg_check_modules(PORTAUDIO REQUIRED IMPORTED_TARGET portaudio-2.0)
 
 # SQLCipher exports the symbols of libsqlite3. Linking its archive, with the symbols kept inside, makes sure that no
 # other library's plain engine is called in its place, which would write files unencrypted without a word.

@@ -21,23 +21,15 @@ constexpr long kMostDevices = 256;
 constexpr std::size_t kMostCameras = 512; ///< of a device
 
 const std::vector<OptionSpec> kOptions = {
-    {"--devices", Kind::Value},
-    {"--channels", Kind::Value},
-    {"--port", Kind::Value},
-    {"--listen", Kind::Value},
-    {"--state", Kind::Value},
-    {"--faults", Kind::Value},
-    {"--tls", Kind::Flag},
-    {"--new-certificate", Kind::Flag},
-    {"--user", Kind::Value},
-    {"--password-file", Kind::Value},
-    {"--first-kind", Kind::Value},
-    {"--type-code", Kind::Value},
-    {"--with-parent", Kind::Flag},
-    {"--sessions", Kind::Value},
-    {"--session-seconds", Kind::Value},
-    {"--lock-seconds", Kind::Value},
-    {"--reboot-seconds", Kind::Value},
+    {"--devices", Kind::Value},      {"--channels", Kind::Value},
+    {"--port", Kind::Value},         {"--listen", Kind::Value},
+    {"--state", Kind::Value},        {"--faults", Kind::Value},
+    {"--tls", Kind::Flag},           {"--new-certificate", Kind::Flag},
+    {"--user", Kind::Value},         {"--password-file", Kind::Value},
+    {"--first-kind", Kind::Value},   {"--type-code", Kind::Value},
+    {"--voice", Kind::Value},        {"--with-parent", Kind::Flag},
+    {"--sessions", Kind::Value},     {"--session-seconds", Kind::Value},
+    {"--lock-seconds", Kind::Value}, {"--reboot-seconds", Kind::Value},
     {"--help", Kind::Flag},
 };
 
@@ -124,6 +116,20 @@ bool ReadTypes(const COptions& options, Settings& settings, std::string& error)
     return true;
 }
 
+bool ReadVoice(const COptions& options, Settings& settings, std::string& error)
+{
+    if (!options.Has("--voice"))
+        return true;
+    const std::string text = options.Value("--voice");
+    VoicePlan voice;
+    int end = 0;
+    const int read = std::sscanf(text.c_str(), "%3u/%3u%n", &voice.encoding, &voice.rate, &end);
+    if (read != 2 || static_cast<std::size_t>(end) != text.size() || voice.encoding > 255 || voice.rate > 255)
+        error = "--voice wants ENCODING/THOUSANDS, such as 1/8";
+    settings.voice = voice;
+    return error.empty();
+}
+
 bool ReadUser(const COptions& options, Settings& settings, std::string& error)
 {
     std::string& user = settings.door.user;
@@ -191,8 +197,8 @@ std::optional<Settings> ReadSettings(const std::vector<std::string>& arguments, 
     ReadPlaces(*options, settings);
     if (!ReadNumbers(*options, settings, error) || !ReadPorts(*options, settings, error) ||
         !ReadKind(*options, settings, error) || !ReadTypes(*options, settings, error) ||
-        !ReadUser(*options, settings, error) || !ReadPassword(*options, settings, error) ||
-        !HasRoomForCameras(settings, error))
+        !ReadVoice(*options, settings, error) || !ReadUser(*options, settings, error) ||
+        !ReadPassword(*options, settings, error) || !HasRoomForCameras(settings, error))
         return std::nullopt;
     return settings;
 }
@@ -210,6 +216,7 @@ When ready it prints one line of JSON with user, devices and ports. It runs unti
   --channels M          cameras in all (4); a recorder gets three times an encoder's share, and what is left
   --first-kind KIND     encoder (usual) or recorder
   --type-code LIST      type codes of the devices in order: "102,15/6,,107" (code/sub-type; empty: as usual)
+  --voice ENCODING/RATE how every device takes voice, such as 1/8: G.711 A-law, 8000 samples a second
   --port P              ports P, P+1, ...; "P,Q,..." for each device; without it free ports
   --listen ADDRESS      IP address to listen on (127.0.0.1)
   --state DIR           keep everything that is set there; without it nothing outlives the program

@@ -23,6 +23,7 @@ struct Settings
     bool endsWithParent = false;
     std::uint32_t firstKind = 1; ///< QXNET_DEVICE_ENCODER or _RECORDER
     std::vector<std::optional<TypeCode>> types;
+    std::optional<VoicePlan> voice; ///< of every device; none: by kind
     DoorSettings door;
     std::chrono::milliseconds rebootTime{3000};
 };

@@ -66,6 +66,7 @@ bool CSimulator::LoadDevices(std::string& error)
                                        ? std::string()
                                        : m_settings.state + "device-" + std::to_string(plan.index) + '/';
         const unsigned index = plan.index;
+        plan.voice = m_settings.voice.value_or(plan.voice);
         m_devices.push_back(std::make_unique<CDevice>(
             std::move(plan), m_settings.door, m_faults, folder, m_complain,
             [this, index](std::chrono::seconds delay) { Restart(index, delay + kTimeToAnswer); }));

@@ -10,7 +10,7 @@ enum {
     QXNET_ERROR_ARGUMENT = 101,
     QXNET_ERROR_HANDLE = 102, /* no such session, or it was ended */
     QXNET_ERROR_MEMORY = 103,
-    QXNET_ERROR_TOO_MANY_SESSIONS = 104, /* 4096 in a process */
+    QXNET_ERROR_TOO_MANY_SESSIONS = 104, /* 4096 in a process; 64 devices that hear voice */
     QXNET_ERROR_CLOSED = 105,            /* the session was ended while the call was under way */
     QXNET_ERROR_BUFFER_TOO_SMALL = 106,  /* module: the bytes needed */
     QXNET_ERROR_TRUST_FILE = 107,        /* the file cannot be read or written; module: the system's number */

@@ -128,15 +128,28 @@ QXNET_API int NET_DVR_GetCurrentAudioCompress(int32_t login, QxNetAudioCompress*
  * library; must return soon. */
 typedef void (*QxNetAudioCallback)(const int16_t* samples, uint32_t count, void* user);
 
-/* Starts capturing this computer's sound input for all devices that are added. callback may be null.
- * QXNET_ERROR_AUDIO_STARTED when it runs already, QXNET_ERROR_NO_AUDIO_INPUT without a device. */
+/* Fills count samples of the same kind, 20 ms of them every 20 ms; 0: silence. */
+typedef int (*QxNetAudioSource)(int16_t* samples, uint32_t count, void* user);
+
+/* What is captured from the next start on, instead of this computer's sound input: announcements, or
+ * computers without an input. Called on a thread of the library; must return soon. Null: the sound input. */
+QXNET_API int QxNet_SetAudioSource(QxNetAudioSource source, void* user);
+
+/* Starts capturing for all devices that are added. callback may be null. QXNET_ERROR_AUDIO_STARTED when it
+ * runs already, QXNET_ERROR_NO_AUDIO_INPUT without a device. When the input fails later, it is opened again
+ * as soon as it can be; the devices hear nothing meanwhile. */
 QXNET_API int NET_DVR_ClientAudioStart_V30(QxNetAudioCallback callback, void* user);
-/* Ends capturing; added devices stay added and hear nothing. */
+/* Ends capturing; added devices stay added and hear nothing. Neither callback nor source is called any more
+ * when it returns, unless it was called by one of them. A success also when nothing is captured. */
 QXNET_API int NET_DVR_ClientAudioStop(void);
 
 /* Adds a device's voice channel (from 1) to those that hear what is captured. The handle, 0 or more and never
- * used twice; -1 on failure. A device that stops taking voice is removed by itself. */
+ * used twice; -1 on failure: QXNET_ERROR_AUDIO_BUSY, QXNET_ERROR_AUDIO_ENCODING,
+ * QXNET_ERROR_TOO_MANY_SESSIONS, or as any call. A device that stops taking voice is removed by itself, as is
+ * that of a session that ends. */
 QXNET_API int32_t NET_DVR_AddDVR_V30(int32_t login, uint32_t voiceChannel);
+/* Lets the device hear what was captured before, a second at most, and no more. QXNET_ERROR_HANDLE when it
+ * was removed already. */
 QXNET_API int NET_DVR_DelDVR_V30(int32_t handle);
 
 /* ---- errors ---- */

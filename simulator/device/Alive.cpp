@@ -58,9 +58,8 @@ QxNetDeviceInfo CConfiguration::Info() const
 QxNetAudioCompress CConfiguration::Audio() const
 {
     QxNetAudioCompress audio{};
-    const bool isRecorder = m_plan.kind == QXNET_DEVICE_RECORDER;
-    audio.encoding = isRecorder ? QXNET_AUDIO_G722 : QXNET_AUDIO_G711_MU;
-    audio.sampleRate = isRecorder ? 16 : 8;
+    audio.encoding = static_cast<std::uint8_t>(m_plan.voice.encoding);
+    audio.sampleRate = static_cast<std::uint8_t>(m_plan.voice.rate);
     audio.bitRate = 64;
     return audio;
 }

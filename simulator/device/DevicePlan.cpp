@@ -76,6 +76,7 @@ void Equip(DevicePlan& device, std::size_t cameras, std::size_t& named)
     device.alarmInputs = hasCameras ? (isRecorder ? 16 : 2) : 0;
     device.alarmOutputs = hasCameras ? (isRecorder ? 4 : 1) : 0;
     device.voiceChannels = hasCameras ? 1 : 0;
+    device.voice = isRecorder ? VoicePlan{QXNET_AUDIO_G722, 16} : VoicePlan{QXNET_AUDIO_G711_MU, 8};
     device.disks = hasCameras ? (isRecorder ? 4 : 1) : 8;
 }
 

@@ -14,6 +14,13 @@ struct ChannelPlan
     std::uint32_t state = 1; ///< QXNET_CHANNEL_...
 };
 
+/// How a device takes voice: encoding and thousands of samples a second.
+struct VoicePlan
+{
+    std::uint32_t encoding = 0; ///< QXNET_AUDIO_...
+    std::uint32_t rate = 8;
+};
+
 /// What one device is.
 struct DevicePlan
 {
@@ -27,6 +34,7 @@ struct DevicePlan
     unsigned alarmInputs = 0;
     unsigned alarmOutputs = 0;
     unsigned voiceChannels = 0;
+    VoicePlan voice;
     unsigned disks = 0;
 };
 

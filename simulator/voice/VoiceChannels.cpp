@@ -12,6 +12,7 @@ namespace simulator {
 
 namespace {
 
+constexpr unsigned kAdpcmBlockBytes = 256;
 constexpr std::array<unsigned, 4> kRates = {8000, 16000, 32000, 48000};
 
 /// How an encoding stands in a file. Numbers of formats: the registry of RIFF (RFC 2361).
@@ -32,7 +33,7 @@ constexpr std::array<VoiceFormat, 9> kFormats = {{
     {QXNET_AUDIO_MP2, 0x0050, 0, 0, nullptr},
     {QXNET_AUDIO_MP3, 0x0055, 0, 0, nullptr},
     {QXNET_AUDIO_G726, 0x0045, 4, 500, nullptr},
-    {QXNET_AUDIO_AAC, 0x00ff, 0, 0, nullptr},
+    {QXNET_AUDIO_AAC, 0x1600, 0, 0, nullptr},
     {QXNET_AUDIO_ADPCM_IMA, 0x0011, 4, 500, nullptr},
 }};
 
@@ -51,7 +52,8 @@ WavFormat WavOf(const VoiceFormat& voice, unsigned rate)
     wav.bitsPerSample = voice.bits;
     wav.rate = rate;
     wav.bytesPerSecond = voice.bytesPer1000Samples * (rate / 1000);
-    wav.blockAlign = static_cast<std::uint16_t>(std::max(1, voice.bits / 8));
+    const bool isAdpcm = voice.encoding == QXNET_AUDIO_ADPCM_IMA;
+    wav.blockAlign = static_cast<std::uint16_t>(isAdpcm ? kAdpcmBlockBytes : std::max(1, voice.bits / 8));
     return wav;
 }
 

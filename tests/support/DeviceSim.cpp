@@ -113,6 +113,11 @@ void DeviceSim::Kill()
     m_process->WaitForExit(10000);
 }
 
+void DeviceSim::Pause()
+{
+    m_process->Signal(SIGSTOP);
+}
+
 bool DeviceSim::Restart(const std::vector<std::string>& moreOptions)
 {
     std::string ports;

@@ -46,6 +46,8 @@ public:
     std::optional<int> Stop();
     /// Ends it by SIGKILL.
     void Kill();
+    /// Stops it by SIGSTOP: connections stay, and nobody reads them.
+    void Pause();
     /// Starts it again on the same ports, with more options if that is wanted.
     [[nodiscard]] bool Restart(const std::vector<std::string>& moreOptions = {});
 

@@ -264,6 +264,11 @@ int NET_DVR_GetCurrentAudioCompress(int32_t login, QxNetAudioCompress* compress)
     return sdk != nullptr;
 }
 
+int QxNet_SetAudioSource(QxNetAudioSource, void*)
+{
+    return Enter(Named(__func__)) != nullptr;
+}
+
 int NET_DVR_ClientAudioStart_V30(QxNetAudioCallback, void*)
 {
     return Enter(Named(__func__)) != nullptr;

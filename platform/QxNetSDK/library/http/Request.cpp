@@ -13,8 +13,9 @@ std::string RequestHead(const Request& request, const RequestContext& context)
         head.append("Vantor-Session: ").append(context.session).append("\r\n");
     if (!context.authorization.empty())
         head.append("Authorization: ").append(context.authorization).append("\r\n");
-    head.append("Content-Length: ").append(std::to_string(request.body.size())).append("\r\n\r\n");
-    return head;
+    if (request.isChunked)
+        return head.append("Transfer-Encoding: chunked\r\n\r\n");
+    return head.append("Content-Length: ").append(std::to_string(request.body.size())).append("\r\n\r\n");
 }
 
 std::string HostText(const std::string& address, std::uint16_t port)

@@ -22,6 +22,8 @@ struct Request
     ExpectedAnswer expected;
     /// Changes nothing at the device, so that it may be sent again when the connection was closed.
     bool isRead = true;
+    /// The body is none of it, but follows in chunks.
+    bool isChunked = false;
 };
 
 /// What the connection adds to a request; empty texts are left out.

@@ -58,6 +58,11 @@ void ShutDown(SocketHandle socket)
     (void)shutdown(static_cast<int>(socket), SHUT_RDWR);
 }
 
+void LimitUnsent(SocketHandle socket, int bytes)
+{
+    (void)setsockopt(static_cast<int>(socket), SOL_SOCKET, SO_SNDBUF, &bytes, sizeof bytes);
+}
+
 int StartConnect(SocketHandle socket, const Endpoint& endpoint)
 {
     const auto* address = reinterpret_cast<const sockaddr*>(endpoint.bytes.data());

@@ -40,6 +40,11 @@ Failure CConnectionPool::Take(CLease& lease, bool mustBeFresh, Deadline deadline
     return Connect(lease, deadline, interrupt);
 }
 
+Failure CConnectionPool::TakeExtra(CLease& lease, Deadline deadline, CInterrupt& interrupt)
+{
+    return Connect(lease, deadline, interrupt);
+}
+
 Failure CConnectionPool::WaitForPlace(CLease& lease, Deadline deadline, const CInterrupt& interrupt)
 {
     std::unique_lock lock(m_mutex);

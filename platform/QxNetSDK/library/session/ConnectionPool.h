@@ -41,6 +41,9 @@ public:
     /// the connect timeout. mustBeFresh: none that served before.
     Failure Take(CLease& lease, bool mustBeFresh, Deadline deadline, CInterrupt& interrupt);
 
+    /// A connection beyond the places, for one long exchange.
+    Failure TakeExtra(CLease& lease, Deadline deadline, CInterrupt& interrupt);
+
     /// After a login: keeps the device's certificate for good.
     Failure Trust();
 

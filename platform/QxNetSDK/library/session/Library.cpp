@@ -63,6 +63,7 @@ Failure CLibrary::Cleanup()
             ending.push_back(std::move(session));
         m_sessions.clear();
     }
+    m_voice.End();
     for (const SessionPointer& session : ending)
         session->Close();
     LogOutAll(ending);
@@ -71,12 +72,15 @@ Failure CLibrary::Cleanup()
 
 Failure CLibrary::SetTrustFile(const char* path)
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (m_inits == 0)
-            return {QXNET_ERROR_NOT_INITIALISED};
-    }
+    if (!IsInitialised())
+        return {QXNET_ERROR_NOT_INITIALISED};
     return m_trust.UseFile(path ? path : "");
+}
+
+bool CLibrary::IsInitialised()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_inits > 0;
 }
 
 Failure CLibrary::LogIn(LoginSettings settings, QxNetDeviceInfo* info, std::int32_t& handle)
@@ -139,6 +143,7 @@ Failure CLibrary::LogOut(std::int32_t handle)
         session = std::move(found->second);
         m_sessions.erase(found);
     }
+    m_voice.RemoveAllOf(handle);
     session->Close();
     session->LogOut(Clock::now() + kLogoutTime);
     return {};

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "QxNetSDK/library/session/Session.h"
+#include "QxNetSDK/library/voice/Voice.h"
 
 #include <map>
 
@@ -17,12 +17,15 @@ public:
     /// NOT_INITIALISED when there is nothing to clean up.
     Failure Cleanup();
     Failure SetTrustFile(const char* path);
+    bool IsInitialised();
 
     /// Logs in and gives the handle. TOO_MANY_SESSIONS, CLOSED by a clean-up meanwhile, or why it failed.
     Failure LogIn(LoginSettings settings, QxNetDeviceInfo* info, std::int32_t& handle);
     Failure LogOut(std::int32_t handle);
     /// HANDLE when there is none.
     Failure Find(std::int32_t handle, std::shared_ptr<CSession>& session);
+
+    CVoice& Voice() { return m_voice; }
 
 private:
     using SessionPointer = std::shared_ptr<CSession>;
@@ -32,6 +35,7 @@ private:
     void Forget(const SessionPointer& session);
 
     CTrustStore m_trust;
+    CVoice m_voice;
     std::mutex m_mutex;
     unsigned m_inits = 0;
     std::int64_t m_nextHandle = 0;

@@ -33,6 +33,9 @@ public:
     /// more and repeats the request. CLOSED when the session is ended meanwhile, HANDLE when it was before.
     Failure Call(const Request& request, Answer& answer);
 
+    /// A request whose body is sent while it is made; see Upload.h.
+    class CUpload;
+
     /// Makes calls under way fail, and all to come.
     void Close();
     /// After Close: waits until no call is under way any more, which is soon, and tells the device until the
@@ -40,7 +43,6 @@ public:
     void LogOut(Deadline deadline);
 
 private:
-    /// Counts the calls under way.
     class CUse;
 
     /// The device's name for the session. Each login has another number.

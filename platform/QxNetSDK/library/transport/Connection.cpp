@@ -119,6 +119,12 @@ Failure CConnection::Receive(CAnswerReader& reader, Deadline deadline)
     return {};
 }
 
+Failure CConnection::Look(CAnswerReader& reader)
+{
+    Io ignored = Io::Blocked;
+    return TakeWhatCame(reader, ignored);
+}
+
 Failure CConnection::TakeWhatCame(CAnswerReader& reader, Io& io)
 {
     char bytes[kReceiveBytes];

@@ -35,10 +35,19 @@ public:
     Failure Exchange(const std::string& request, CAnswerReader& reader, Deadline deadline,
                      CInterrupt& interrupt);
 
-private:
-    Failure ShakeHands(const DeviceEndpoint& device, Deadline deadline);
+    // An exchange by hand, for a request that is made while it is sent.
+
+    /// For the guard that wakes it.
+    CSocket& Socket() { return m_socket; }
+    /// isSent: all of it. It is not when an answer came, or when the connection broke, which Receive then
+    /// tells.
     Failure Send(const std::string& request, CAnswerReader& reader, Deadline deadline, bool& isSent);
     Failure Receive(CAnswerReader& reader, Deadline deadline);
+    /// Takes what of an answer is there, without waiting.
+    Failure Look(CAnswerReader& reader);
+
+private:
+    Failure ShakeHands(const DeviceEndpoint& device, Deadline deadline);
     Failure TakeWhatCame(CAnswerReader& reader, Io& io);
     Failure Lost() const;
 

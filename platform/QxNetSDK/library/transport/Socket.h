@@ -30,6 +30,8 @@ public:
 
     Io Receive(char* data, std::size_t size, std::size_t& came);
     Io Send(const char* data, std::size_t size, std::size_t& sent);
+    /// See system::LimitUnsent.
+    void LimitUnsent(int bytes) { system::LimitUnsent(m_handle, bytes); }
     /// See system::Wait.
     unsigned Wait(unsigned readiness, Deadline deadline) const;
 

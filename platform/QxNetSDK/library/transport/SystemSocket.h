@@ -36,6 +36,9 @@ void Close(SocketHandle socket);
 /// Ends both directions, which wakes who waits for the socket.
 void ShutDown(SocketHandle socket);
 
+/// How many bytes that were not sent yet the system may keep, about.
+void LimitUnsent(SocketHandle socket, int bytes);
+
 /// 0: connected. IsUnderWay(result): wait until it is writable, then ask ConnectResult. Otherwise why not.
 int StartConnect(SocketHandle socket, const Endpoint& endpoint);
 int ConnectResult(SocketHandle socket);

@@ -60,6 +60,12 @@ void ShutDown(SocketHandle socket)
     (void)shutdown(static_cast<SOCKET>(socket), SD_BOTH);
 }
 
+void LimitUnsent(SocketHandle socket, int bytes)
+{
+    (void)setsockopt(static_cast<SOCKET>(socket), SOL_SOCKET, SO_SNDBUF,
+                     reinterpret_cast<const char*>(&bytes), sizeof bytes);
+}
+
 int StartConnect(SocketHandle socket, const Endpoint& endpoint)
 {
     const auto* address = reinterpret_cast<const sockaddr*>(endpoint.bytes.data());
