@@ -73,8 +73,10 @@ Failure CSession::CallWithTicket(const Request& request, Deadline deadline, Answ
             return {};
         if (answer.status != 401)
             return answer.refusal;
-        if (isRenewed || answer.session != "ended")
+        if (answer.session != "ended")
             return {QXNET_ERROR_PASSWORD, answer.status};
+        if (isRenewed)
+            return {QXNET_ERROR_CONNECTION_LOST};
         if (const Failure failure = Renew(ticket.login, deadline))
             return failure;
     }

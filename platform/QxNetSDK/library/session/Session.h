@@ -30,7 +30,8 @@ public:
 
     /// One request and its answer, which is the expected one: refusals are failures. Takes at most the
     /// connect timeout and the exchange timeout together. When the device has ended the session, logs in once
-    /// more and repeats the request. CLOSED when the session is ended meanwhile, HANDLE when it was before.
+    /// more and repeats the request; no more when the password was refused then. CLOSED when the session is
+    /// ended meanwhile, HANDLE when it was before.
     Failure Call(const Request& request, Answer& answer);
 
     /// Makes calls under way fail, and all to come.
@@ -73,6 +74,7 @@ private:
     std::condition_variable m_changed;
     Ticket m_ticket;
     std::shared_ptr<Renewal> m_renewal; ///< under way
+    Failure m_refusal;                  ///< of the password, when logging in again
     unsigned m_uses = 0;
     bool m_isClosed = false;
 };

@@ -30,7 +30,7 @@ public:
 
     Io Receive(char* data, std::size_t size, std::size_t& came);
     Io Send(const char* data, std::size_t size, std::size_t& sent);
-    /// See system::Wait.
+    /// See system::Wait; 0 once the deadline has passed, ready or not, so that nobody can go on for ever.
     unsigned Wait(unsigned readiness, Deadline deadline) const;
 
     /// The system's number of the last failure.
