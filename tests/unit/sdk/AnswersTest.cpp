@@ -90,7 +90,7 @@ TEST(SdkAnswer, IsTheSameHoweverItsBytesArrive)
             continue;
         const unsigned status = static_cast<unsigned>(std::stoul(message.bytes.substr(9, 3)));
         for (const std::size_t step : {std::size_t{1}, std::size_t{7}, message.bytes.size()}) {
-            sdk::CAnswerReader reader({status, 0, 1024});
+            sdk::CAnswerReader reader({status, 0, 4096});
             for (std::size_t at = 0; at < message.bytes.size(); at += step) {
                 EXPECT_FALSE(reader.IsComplete());
                 EXPECT_FALSE(

@@ -123,12 +123,18 @@ void CSession::Close()
     m_changed.notify_all();
 }
 
+void CSession::WaitForCalls()
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_uses == 0; });
+}
+
 void CSession::LogOut(Deadline deadline)
 {
+    WaitForCalls();
     Ticket ticket;
     {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_uses == 0; });
+        const std::lock_guard lock(m_mutex);
         std::swap(ticket, m_ticket);
     }
     if (ticket.session.empty())

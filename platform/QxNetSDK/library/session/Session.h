@@ -36,8 +36,9 @@ public:
 
     /// Makes calls under way fail, and all to come.
     void Close();
-    /// After Close: waits until no call is under way any more, which is soon, and tells the device until the
-    /// deadline.
+    /// After Close: waits until no call is under way any more, which is soon.
+    void WaitForCalls();
+    /// After Close: waits for the calls, and tells the device until the deadline.
     void LogOut(Deadline deadline);
 
 private:
