@@ -313,7 +313,8 @@ TEST_F(BareClient, StartsWithoutSkinsStyleAndTranslations)
     const std::string bin = client.component.Path() + "product/bin/";
     const std::string built = Base::FileUtil::GetCurExeDir();
     fs::create_directories(bin);
-    for (const char* part : {"Vantor.Framework", "Vantor.Video.C", "maintain", "WidgetLayout"})
+    for (const char* part :
+         {"Vantor.Framework", "Vantor.Video.C", "libQxNetSDK.so", "maintain", "WidgetLayout"})
         fs::copy(built + part, bin + part, fs::copy_options::recursive);
     client.Start({"--language", "3"}, bin);
     const Window page = client.OpenTab(kGallery);

@@ -11,7 +11,7 @@ namespace UiDataController {
 /// result the position in text that it comes from. Any thread.
 QString foldedText(const QString& text, std::vector<int>* origins = nullptr);
 
-/// Where in a text something is found; length 0 for nowhere.
+/// Where in a text something is found; length 0 when it is not.
 struct TextRange
 {
     int start = 0;
