@@ -158,13 +158,9 @@ Failure CLibrary::LogOut(std::int32_t handle)
     SessionPointer session;
     {
         const std::lock_guard lock(m_mutex);
-        if (m_inits == 0)
-            return {QXNET_ERROR_NOT_INITIALISED};
-        const auto found = m_sessions.find(handle);
-        if (found == m_sessions.end())
-            return {QXNET_ERROR_HANDLE};
-        session = std::move(found->second);
-        m_sessions.erase(found);
+        if (const Failure failure = FindLocked(handle, session))
+            return failure;
+        m_sessions.erase(handle);
     }
     session->Close();
     session->LogOut(Clock::now() + kLogoutTime);
@@ -174,6 +170,11 @@ Failure CLibrary::LogOut(std::int32_t handle)
 Failure CLibrary::Find(std::int32_t handle, std::shared_ptr<CSession>& session)
 {
     const std::lock_guard lock(m_mutex);
+    return FindLocked(handle, session);
+}
+
+Failure CLibrary::FindLocked(std::int32_t handle, SessionPointer& session) const
+{
     if (m_inits == 0)
         return {QXNET_ERROR_NOT_INITIALISED};
     const auto found = m_sessions.find(handle);

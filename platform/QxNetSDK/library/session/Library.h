@@ -27,6 +27,7 @@ public:
 private:
     using SessionPointer = std::shared_ptr<CSession>;
 
+    Failure FindLocked(std::int32_t handle, SessionPointer& session) const;
     std::vector<SessionPointer> TakeAll();
     /// Ends the calls under way, before what they use is cleaned up. The devices hear nothing: they would
     /// hold the process up.
