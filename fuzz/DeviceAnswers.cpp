@@ -82,8 +82,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     sdk::CAnswerReader pieces(expected);
     const sdk::Failure failure = TakeAll(whole, bytes, bytes.size());
     const sdk::Failure inPieces = TakeAll(pieces, bytes, first);
-    // A head that does not end may be found bad earlier or later.
-    const bool hasHead = bytes.find("\r\n\r\n") != std::string::npos;
+    // A head that does not end may be found bad earlier or later, and so may one shorter than "HTTP/1.1 200".
+    const bool hasHead = bytes.find("\r\n\r\n", 12) != std::string::npos;
     FUZZ_CHECK(!hasHead ||
                (failure.code == inPieces.code && (failure || whole.IsComplete() == pieces.IsComplete())));
     if (!failure && whole.IsComplete())

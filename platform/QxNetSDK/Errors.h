@@ -20,7 +20,7 @@ enum {
     QXNET_ERROR_UNREACHABLE = 201, /* refused, or no way to the host */
     QXNET_ERROR_CONNECT_TIMEOUT = 202,
     QXNET_ERROR_ANSWER_TIMEOUT = 203,
-    QXNET_ERROR_CONNECTION_LOST = 204,
+    QXNET_ERROR_CONNECTION_LOST = 204,     /* or the device ended the session again right after a login */
     QXNET_ERROR_TLS = 210,                 /* no TLS could be agreed on */
     QXNET_ERROR_CERTIFICATE_CHANGED = 211, /* not the one that was pinned */
 

@@ -44,7 +44,8 @@ QXNET_API int QxNet_Cleanup(void);
 
 /* The file of the certificates that devices showed at their first TLS session, in the platform's file name
  * encoding; it is made when missing. Null: they are kept for the process's life only. Before the first login.
- */
+ * After a failure logins by TLS fail with the same error, until a file or null is taken: nobody is trusted
+ * anew for want of a file. */
 QXNET_API int QxNet_SetTrustFile(const char* path);
 
 /* ---- sessions ---- */
@@ -70,7 +71,8 @@ typedef struct QxNetLogin
 
 /* Logs in with the digest of the password and fills info, which may be null. The session's handle, 0 or more
  * and never used twice in a process; -1 on failure. A device that was restarted meanwhile is logged in to
- * again by itself, at the next call. */
+ * again by itself, at the next call. When it refuses the password then, calls of the session fail with
+ * QXNET_ERROR_PASSWORD and it is not tried again: devices lock users out. */
 QXNET_API int32_t QxNet_Login(const QxNetLogin* login, QxNetDeviceInfo* info);
 
 /* Ends the session. Calls of it that are under way on other threads end with QXNET_ERROR_CLOSED before this

@@ -173,24 +173,6 @@ TEST_P(SdkHostile, AnswersEndInTheirErrorAndLeaveTheBufferAlone)
 
 INSTANTIATE_TEST_SUITE_P(Rows, SdkHostile, testing::ValuesIn(Rows()));
 
-TEST(SdkHostileDevice, OneByteATimeMeetsTheTimeout)
-{
-    CSdk sdk;
-    CWellBehaved device;
-    CPlayedDevice played([&](CPlayedConnection& connection, int) {
-        std::string request;
-        while (IsLogin(request = connection.Request()))
-            connection.Send(device.Answer(request));
-        connection.Drip(kOk + std::string(4000, 'x'), 5);
-    });
-    const std::int32_t session = CSdk::LogIn(played.Port(), kTimeoutMs);
-    Octets octets;
-    const auto start = Clock::now();
-    EXPECT_EQ(NET_DVR_GetDVRConfig(session, 1008, 1, &octets, sizeof octets), 0);
-    EXPECT_EQ(LastError().code, static_cast<std::uint32_t>(QXNET_ERROR_ANSWER_TIMEOUT));
-    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
-}
-
 namespace {
 
 /// What a device answers to a login: without credentials, and with them.
@@ -266,3 +248,73 @@ TEST_P(SdkHostileLogin, IsRefusedWithItsError)
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, SdkHostileLogin, testing::ValuesIn(LoginRows()));
+
+namespace {
+
+/// Where in a session a device begins to send one byte at a time, and what it sends.
+struct SlowRow
+{
+    const char* name;
+    int exchange; ///< exchanges that it serves well before
+    std::string bytes;
+    bool isTls;
+    std::uint32_t error;
+};
+
+std::vector<SlowRow> SlowRows()
+{
+    const std::string head = kOk + std::string("Vantor-Session: 0123456789abcdef0123456789abcdef\r\n");
+    const std::string endless = kOk + std::string(4000, 'x');
+    const std::string body = kOk + std::string("Content-Length: 32\r\n\r\n") + GoodOctets();
+    return {
+        {"agreeing on TLS", 0, std::string("\x16\x03\x03\x40\0", 5) + std::string(4000, 'x'), true, 202},
+        {"being asked for credentials", 0, endless, false, 203},
+        {"the answer to the credentials", 1, head + "Content-Length: 256\r\n\r\n" + DeviceInfoBytes(), false,
+         203},
+        {"the head", 2, endless, false, 203},
+        {"the body", 2, body, false, 203},
+    };
+}
+
+} // namespace
+
+TEST(SdkSlowDevice, OneByteATimeMeetsTheTimeoutWhereverItBegins)
+{
+    CSdk sdk;
+    for (const SlowRow& row : SlowRows()) {
+        SCOPED_TRACE(row.name);
+        CWellBehaved device;
+        CPlayedDevice played([&](CPlayedConnection& connection, int) {
+            for (int i = 0; i < row.exchange; ++i)
+                connection.Send(device.Answer(connection.Request()));
+            connection.BeginRequest();
+            connection.Drip(row.bytes, 20);
+        });
+        QxNetLogin login = CSdk::To(played.Port(), kTimeoutMs);
+        login.useTls = row.isTls;
+        const auto start = Clock::now();
+        const std::int32_t session = QxNet_Login(&login, nullptr);
+        ASSERT_EQ(session >= 0, row.exchange == 2);
+        Octets octets;
+        EXPECT_FALSE(session >= 0 && NET_DVR_GetDVRConfig(session, 1008, 1, &octets, sizeof octets));
+        EXPECT_EQ(LastError(), (ErrorTriple{row.error, 0, 0}));
+        EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+    }
+}
+
+TEST(SdkSlowDevice, OneThatNeverStopsTalkingMeetsTheTimeoutToo)
+{
+    CSdk sdk;
+    // Requests to begin anew, which a TLS client passes over while it is agreeing.
+    const std::string record = std::string("\x16\x03\x03\x40\0", 5) + std::string(0x4000, '\0');
+    CPlayedDevice played([&](CPlayedConnection& connection, int) {
+        while (connection.Send(record))
+            continue;
+    });
+    QxNetLogin login = CSdk::To(played.Port(), kTimeoutMs);
+    login.useTls = 1;
+    const auto start = Clock::now();
+    EXPECT_EQ(QxNet_Login(&login, nullptr), -1);
+    EXPECT_EQ(LastError(), (ErrorTriple{QXNET_ERROR_CONNECT_TIMEOUT, 0, 0}));
+    EXPECT_LT(Clock::now() - start, std::chrono::seconds(5));
+}

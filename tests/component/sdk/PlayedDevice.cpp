@@ -157,6 +157,10 @@ std::string CWellBehaved::LogIn(const std::string& request)
 {
     if (HeaderOf(request, "Authorization").empty())
         return AnswerBytes("401 Log in", kChallenge);
+    if (m_isPasswordChanged) {
+        ++m_wrongPasswords;
+        return AnswerBytes("401 Log in", kChallenge);
+    }
     char session[33];
     std::snprintf(session, sizeof session, "%032x", static_cast<unsigned>(++m_logins));
     const std::lock_guard lock(m_mutex);

@@ -75,7 +75,10 @@ public:
     std::string Answer(const std::string& request);
     /// Ends all sessions, as a restart does.
     void ForgetSessions();
+    /// From now on nobody's password is the right one.
+    void ChangePassword() { m_isPasswordChanged = true; }
     int Logins() const { return m_logins; }
+    int WrongPasswords() const { return m_wrongPasswords; }
 
 private:
     std::string LogIn(const std::string& request);
@@ -85,6 +88,8 @@ private:
     std::map<std::string, bool> m_sessions;
     std::map<std::string, std::string> m_kept;
     std::atomic<int> m_logins = 0;
+    std::atomic<bool> m_isPasswordChanged = false;
+    std::atomic<int> m_wrongPasswords = 0;
 };
 
 /// An answer's bytes: status line, the protocol's header, the given header lines ("Name: value\r\n"...),

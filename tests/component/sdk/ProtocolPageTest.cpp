@@ -60,9 +60,10 @@ TEST(SdkProtocolPage, ItsSessionIsWhatTheLibrarySendsAndTakes)
     groups[0].channel = 1;
     groups[1].channel = 9;
     std::uint32_t status[2] = {7, 7};
-    tagNET_DVR_STREAM_CABAC batch[2] = {Cabac(7), Cabac(7)};
-    EXPECT_EQ(NET_DVR_GetDeviceConfig(session, QXNET_GET_CABAC, 2, groups, sizeof groups, status, batch,
-                                      sizeof batch),
+    tagNET_DVR_AUDIO_EXCEPTION batch[2] = {};
+    batch[1].size = sizeof batch[1];
+    EXPECT_EQ(NET_DVR_GetDeviceConfig(session, QXNET_GET_AUDIO_EXCEPTION, 2, groups, sizeof groups, status,
+                                      batch, sizeof batch),
               1);
     EXPECT_THAT(status, testing::ElementsAre(0, QXNET_ERROR_CHANNEL));
     EXPECT_EQ(batch[0].enabled, 1);

@@ -63,4 +63,9 @@ TEST(SdkSession, WhatIsLongerThanItsBufferSaysHowLongAndBadDocumentsAreKept)
     body = "nine octs";
     EXPECT_EQ(NET_DVR_GetSTDConfig(session, 7, &config), 1);
     EXPECT_EQ(std::string(text, config.outputLength), body);
+    body.assign((1 << 20) + 1, ' ');
+    EXPECT_EQ(NET_DVR_GetSTDConfig(session, 7, &config), 0);
+    EXPECT_EQ(LastError(), (ErrorTriple{QXNET_ERROR_TOO_LONG, 0, 0}));
+    EXPECT_EQ(QxNet_GetAbility(session, QXNET_ABILITY_BASIC, 0, text, sizeof text, &length), 0);
+    EXPECT_EQ(LastError(), (ErrorTriple{QXNET_ERROR_TOO_LONG, 0, 0}));
 }

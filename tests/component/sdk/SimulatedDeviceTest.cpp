@@ -43,6 +43,45 @@ TEST(SdkWithSimulator, TwoHundredLoginsAtOnceGetHandlesOfTheirOwn)
     EXPECT_EQ(std::set<std::int32_t>(handles.begin(), handles.end()).size(), handles.size());
 }
 
+TEST(SdkWithSimulator, WhatIsSetInABatchOrByStandardConfigurationIsReadBack)
+{
+    CSdk sdk;
+    DeviceSim sim({"--devices", "1", "--channels", "2"});
+    const std::int32_t session = LogIn(ToSim(sim));
+    tagNET_DVR_CHANNEL_GROUP groups[2] = {};
+    groups[0].size = groups[1].size = sizeof groups[0];
+    groups[0].channel = 2;
+    groups[1].channel = 9;
+    std::uint32_t status[2] = {};
+    tagNET_DVR_AUDIO_EXCEPTION sounds[2];
+    const auto batch = [&](auto call, std::uint32_t command) {
+        ASSERT_EQ(call(session, command, 2, groups, sizeof groups, status, sounds, sizeof sounds), 1)
+            << testing::PrintToString(LastError());
+        EXPECT_THAT(status, testing::ElementsAre(0, QXNET_ERROR_CHANNEL));
+    };
+    batch(NET_DVR_GetDeviceConfig, QXNET_GET_AUDIO_EXCEPTION);
+    sounds[1] = sounds[0];
+    const std::uint8_t enabled = sounds[0].enabled ^= 1;
+    batch(NET_DVR_SetDeviceConfig, QXNET_SET_AUDIO_EXCEPTION);
+    sounds[0] = {};
+    batch(NET_DVR_GetDeviceConfig, QXNET_GET_AUDIO_EXCEPTION);
+    EXPECT_EQ(sounds[0].enabled, enabled);
+
+    tagNET_DVR_STREAM_CABAC cabac{};
+    tagNET_DVR_STD_CONFIG config{};
+    const std::uint32_t channel = 2;
+    config.condition = &channel;
+    config.conditionSize = sizeof channel;
+    config.input = config.output = &cabac;
+    config.inputSize = config.outputSize = sizeof cabac;
+    ASSERT_EQ(NET_DVR_GetSTDConfig(session, QXNET_GET_CABAC, &config), 1);
+    EXPECT_EQ(config.outputLength, sizeof cabac);
+    const std::uint8_t coded = cabac.enabled ^= 1;
+    ASSERT_EQ(NET_DVR_SetSTDConfig(session, QXNET_SET_CABAC, &config), 1);
+    ASSERT_EQ(NET_DVR_GetDVRConfig(session, QXNET_GET_CABAC, 2, &cabac, sizeof cabac), 1);
+    EXPECT_EQ(cabac.enabled, coded);
+}
+
 TEST(SdkWithSimulator, TheSessionOutlivesARestartOfTheDevice)
 {
     CSdk sdk;

@@ -54,6 +54,34 @@ TEST(SdkDigest, TakesOnlyChallengesThatItCanAnswer)
     }
 }
 
+TEST(SdkDigest, FindsTheChallengeThatItCanAnswerAmongOthers)
+{
+    const std::string good =
+        "WWW-Authenticate: Digest realm=\"a\", nonce=\"b\", qop=\"auth\", algorithm=SHA-256, stale=TRUE\r\n";
+    const std::string md5 =
+        "WWW-Authenticate: Digest realm=\"a\", nonce=\"c\", qop=\"auth\", algorithm=MD5\r\n";
+    const std::string other =
+        "WWW-Authenticate: Digest realm=\"SHA-256\", nonce=\"d\", qop=\"auth\", algorithm=SHA-256-sess\r\n";
+    for (const std::string& offered : {md5 + good, good + md5, good + other, other + good}) {
+        sdk::CAnswerReader reader({200, 0, 0});
+        const std::string bytes =
+            "HTTP/1.1 401 No\r\nVantor-Protocol: 1\r\nWWW-Authenticate: Basic realm=\"a\"\r\n" + offered +
+            "Content-Length: 0\r\n\r\n";
+        EXPECT_FALSE(reader.Take(bytes.data(), bytes.size()));
+        sdk::DigestChallenge challenge;
+        EXPECT_TRUE(sdk::ReadChallenge(reader.Result().challenge, challenge)) << offered;
+        EXPECT_EQ(challenge.nonce, "b");
+        EXPECT_TRUE(challenge.isStale);
+    }
+}
+
+TEST(SdkRequest, NamesTheHostAsOthersKnowIt)
+{
+    EXPECT_EQ(sdk::HostText("camera", 80), "camera:80");
+    EXPECT_EQ(sdk::HostText("::1", 8000), "[::1]:8000");
+    EXPECT_EQ(sdk::HostText("fe80::1%eth0", 80), "[fe80::1]:80");
+}
+
 TEST(SdkAnswer, IsTheSameHoweverItsBytesArrive)
 {
     int answers = 0;
@@ -62,7 +90,7 @@ TEST(SdkAnswer, IsTheSameHoweverItsBytesArrive)
             continue;
         const unsigned status = static_cast<unsigned>(std::stoul(message.bytes.substr(9, 3)));
         for (const std::size_t step : {std::size_t{1}, std::size_t{7}, message.bytes.size()}) {
-            sdk::CAnswerReader reader({status, 0, 1024});
+            sdk::CAnswerReader reader({status, 0, 4096});
             for (std::size_t at = 0; at < message.bytes.size(); at += step) {
                 EXPECT_FALSE(reader.IsComplete());
                 EXPECT_FALSE(

@@ -105,7 +105,8 @@ Failure CAnswerReader::CheckFraming()
     if (status != m_expected.status)
         return NotADevice(status);
     const std::uint64_t size = length.value_or(0);
-    if (size > kMostBodyBytes)
+    const bool mayVary = m_expected.leastBytes != m_expected.mostBytes;
+    if (size > (mayVary ? m_expected.mostBytes : kMostBodyBytes))
         return {QXNET_ERROR_TOO_LONG};
     if (size < m_expected.leastBytes || size > m_expected.mostBytes)
         return {QXNET_ERROR_WRONG_SIZE, static_cast<std::uint32_t>(size)};

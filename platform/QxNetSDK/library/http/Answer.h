@@ -15,7 +15,7 @@ struct Answer
     unsigned status = 0;
     bool keepsAlive = false;
     std::string session;   ///< "ended", or 32 hexadecimal digits
-    std::string challenge; ///< the digest challenge, as it came
+    std::string challenge; ///< the first digest challenge that can be answered
     Failure refusal;       ///< why, of an answer of 400 or above; none for 401
     std::string body;      ///< of an answer that was expected
 };

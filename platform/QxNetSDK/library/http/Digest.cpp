@@ -43,15 +43,20 @@ bool TakeQuoted(std::string_view& text, std::string& value)
     return false;
 }
 
+std::string Lowered(std::string text)
+{
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
+    return text;
+}
+
 /// Takes `name=value` or `name="value"`, and the comma behind it.
 bool TakeParameter(std::string_view& text, std::string& name, std::string& value)
 {
     const std::size_t end = text.find_first_of("= \t,\"");
     if (end == std::string_view::npos || end == 0)
         return false;
-    name = text.substr(0, end);
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? c + 32 : c; });
+    name = Lowered(std::string(text.substr(0, end)));
     text.remove_prefix(end);
     SkipBlanks(text);
     if (text.empty() || text.front() != '=')
@@ -125,7 +130,7 @@ bool ReadChallenge(std::string_view text, DigestChallenge& challenge)
         if (!TakeParameter(text, name, value) || !values.emplace(name, value).second)
             return false;
     }
-    challenge = {values["realm"], values["nonce"], values["opaque"], values["stale"] == "true"};
+    challenge = {values["realm"], values["nonce"], values["opaque"], Lowered(values["stale"]) == "true"};
     return values["algorithm"] == "SHA-256" && Lists(values["qop"], "auth") && !challenge.nonce.empty();
 }
 

@@ -1,5 +1,6 @@
 #include "QxNetSDK/library/http/Headers.h"
 
+#include "QxNetSDK/library/http/Digest.h"
 #include "QxNetSDK/library/http/Limits.h"
 
 #include <algorithm>
@@ -94,8 +95,8 @@ Failure CHeaders::Session(std::string_view value)
 void CHeaders::Challenge(std::string_view value)
 {
     // A device may offer other schemes and algorithms beside ours, each in a header of its own.
-    const bool isBetter = value.find("SHA-256") != std::string_view::npos;
-    if (value.size() > 7 && IsSame(value.substr(0, 7), "Digest ") && (m_challenge.empty() || isBetter))
+    DigestChallenge ignored;
+    if (m_challenge.empty() && IsSame(value.substr(0, 7), "Digest ") && ReadChallenge(value, ignored))
         m_challenge = value;
 }
 

@@ -1,5 +1,7 @@
 #include "QxNetSDK/library/http/Request.h"
 
+#include <algorithm>
+
 namespace sdk {
 
 std::string RequestHead(const Request& request, const RequestContext& context)
@@ -20,8 +22,14 @@ std::string RequestHead(const Request& request, const RequestContext& context)
 
 std::string HostText(const std::string& address, std::uint16_t port)
 {
-    const bool isIpv6 = address.find(':') != std::string::npos;
-    return (isIpv6 ? "[" + address + "]" : address) + ":" + std::to_string(port);
+    const std::string host = address.substr(0, address.find('%'));
+    const bool isIpv6 = host.find(':') != std::string::npos;
+    return (isIpv6 ? "[" + host + "]" : host) + ":" + std::to_string(port);
+}
+
+std::string ZoneOf(const std::string& address)
+{
+    return address.substr(std::min(address.find('%'), address.size()));
 }
 
 } // namespace sdk

@@ -37,7 +37,10 @@ struct RequestContext
 /// Header lines and empty line, as they are sent; see docs/device-protocol.md.
 std::string RequestHead(const Request& request, const RequestContext& context);
 
-/// Address and port as the header Host has them.
+/// Address and port as the header Host has them, which is without the zone of an IPv6 address (RFC 6874).
 std::string HostText(const std::string& address, std::uint16_t port);
+/// The zone, such as "%eth0", which tells apart equal addresses in several networks of this computer; or
+/// empty.
+std::string ZoneOf(const std::string& address);
 
 } // namespace sdk

@@ -1,6 +1,7 @@
 #include "QxNetSDK/library/transport/SystemSocket.h"
 
 #include <cerrno>
+#include <cstdlib>
 #include <cstring>
 #include <netdb.h>
 #include <netinet/in.h>
@@ -12,6 +13,11 @@
 namespace sdk::system {
 
 void StartSockets() {}
+
+void AtExit(void (*work)())
+{
+    (void)std::atexit(work);
+}
 
 int LookUp(const std::string& host, std::uint16_t port, bool numericOnly, std::vector<Endpoint>& endpoints)
 {

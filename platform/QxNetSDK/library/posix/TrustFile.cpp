@@ -1,10 +1,12 @@
 #include "QxNetSDK/library/session/TrustFile.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace sdk {
@@ -12,6 +14,19 @@ namespace sdk {
 namespace {
 
 constexpr std::size_t kMostBytes = 4 * 1024 * 1024;
+constexpr int kLockAttempts = 100;
+constexpr std::chrono::milliseconds kLockPause{10};
+
+/// The system has no time limit for it.
+bool Lock(int file)
+{
+    for (int attempt = 1; flock(file, LOCK_EX | LOCK_NB) != 0; ++attempt) {
+        if ((errno != EWOULDBLOCK && errno != EINTR) || attempt == kLockAttempts)
+            return false;
+        std::this_thread::sleep_for(kLockPause);
+    }
+    return true;
+}
 
 bool WriteAll(int file, const std::string& text)
 {
@@ -30,7 +45,7 @@ bool WriteAll(int file, const std::string& text)
 CTrustFile::CTrustFile(const std::string& path) : m_path(path)
 {
     m_lock = open((path + ".lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (m_lock < 0 || flock(static_cast<int>(m_lock), LOCK_EX) != 0)
+    if (m_lock < 0 || !Lock(static_cast<int>(m_lock)))
         m_error = errno;
 }
 

@@ -11,7 +11,8 @@ constexpr std::size_t kMostIdle = 2;
 
 CConnectionPool::CConnectionPool(DeviceEndpoint device, std::chrono::milliseconds connectTimeout,
                                  CTrustStore& trust)
-    : m_device(std::move(device)), m_name(HostText(m_device.address, m_device.port)),
+    : m_device(std::move(device)),
+      m_name(HostText(m_device.address, m_device.port) + ZoneOf(m_device.address)),
       m_connectTimeout(connectTimeout), m_trust(trust)
 {
     m_idle.reserve(kMostIdle); // so that giving a connection back cannot fail
@@ -21,10 +22,16 @@ CConnectionPool::CLease::~CLease()
 {
     if (!m_hasPlace)
         return;
-    const std::lock_guard lock(m_pool.m_mutex);
-    --m_pool.m_places;
-    if (m_isKept && m_pool.m_idle.size() < kMostIdle)
+    std::unique_lock lock(m_pool.m_mutex);
+    if (m_isKept && m_pool.m_idle.size() < kMostIdle) {
         m_pool.m_idle.push_back(std::move(m_connection));
+    } else {
+        // Closed before somebody else opens one in its place.
+        lock.unlock();
+        m_connection.reset();
+        lock.lock();
+    }
+    --m_pool.m_places;
     m_pool.m_placeFree.notify_one();
 }
 
@@ -32,7 +39,9 @@ Failure CConnectionPool::Take(CLease& lease, bool mustBeFresh, Deadline deadline
 {
     if (const Failure failure = WaitForPlace(lease, deadline, interrupt))
         return failure;
-    while (!mustBeFresh && TakeIdle(lease)) {
+    if (mustBeFresh)
+        CloseIdle();
+    while (TakeIdle(lease)) {
         if (!lease.m_connection->CheckQuiet())
             return {};
     }
@@ -56,6 +65,12 @@ Failure CConnectionPool::WaitForPlace(CLease& lease, Deadline deadline, const CI
     ++m_places;
     lease.m_hasPlace = true;
     return {};
+}
+
+void CConnectionPool::CloseIdle()
+{
+    const std::lock_guard lock(m_mutex);
+    m_idle.clear();
 }
 
 bool CConnectionPool::TakeIdle(CLease& lease)

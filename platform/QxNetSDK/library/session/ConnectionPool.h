@@ -38,7 +38,8 @@ public:
     };
 
     /// Waits for one of the places, and connects if need be: no longer than the deadline, and for connecting
-    /// the connect timeout. mustBeFresh: none that served before.
+    /// the connect timeout. mustBeFresh: none that served before, as those
+    /// who wait have most likely been closed with another one.
     Failure Take(CLease& lease, bool mustBeFresh, Deadline deadline, CInterrupt& interrupt);
 
     /// A connection beyond the places, for one long exchange.
@@ -51,6 +52,7 @@ public:
 
 private:
     Failure WaitForPlace(CLease& lease, Deadline deadline, const CInterrupt& interrupt);
+    void CloseIdle();
     bool TakeIdle(CLease& lease);
     Failure Connect(CLease& lease, Deadline deadline, CInterrupt& interrupt);
     Failure CheckFingerprint(const std::string& fingerprint);

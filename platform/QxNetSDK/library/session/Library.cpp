@@ -2,6 +2,7 @@
 
 #include <libxml/parser.h>
 #include <limits>
+#include <openssl/ssl.h>
 #include <thread>
 
 namespace sdk {
@@ -43,8 +44,14 @@ CLibrary& CLibrary::Instance()
 
 void CLibrary::Init()
 {
-    system::StartSockets();
-    xmlInitParser();
+    static std::once_flag once;
+    std::call_once(once, [] {
+        system::StartSockets();
+        // They clean up when the process ends, in the opposite order: so after us.
+        (void)OPENSSL_init_ssl(0, nullptr);
+        xmlInitParser();
+        system::AtExit([] { Instance().EndWithProcess(); });
+    });
     const std::lock_guard lock(m_mutex);
     ++m_inits;
 }
@@ -58,16 +65,36 @@ Failure CLibrary::Cleanup()
             return {QXNET_ERROR_NOT_INITIALISED};
         if (--m_inits > 0)
             return {};
-        ending.swap(m_beginning);
-        for (auto& [handle, session] : m_sessions)
-            ending.push_back(std::move(session));
-        m_sessions.clear();
+        ending = TakeAll();
     }
     m_voice.End();
     for (const SessionPointer& session : ending)
         session->Close();
     LogOutAll(ending);
     return {};
+}
+
+std::vector<CLibrary::SessionPointer> CLibrary::TakeAll()
+{
+    std::vector<SessionPointer> all = std::move(m_beginning);
+    m_beginning.clear();
+    for (auto& [handle, session] : m_sessions)
+        all.push_back(std::move(session));
+    m_sessions.clear();
+    return all;
+}
+
+void CLibrary::EndWithProcess()
+{
+    {
+        const std::lock_guard lock(m_mutex);
+        m_inits = 0;
+        m_outlived = TakeAll();
+    }
+    for (const SessionPointer& session : m_outlived)
+        session->Close();
+    for (const SessionPointer& session : m_outlived)
+        session->WaitForCalls();
 }
 
 Failure CLibrary::SetTrustFile(const char* path)
@@ -135,13 +162,9 @@ Failure CLibrary::LogOut(std::int32_t handle)
     SessionPointer session;
     {
         const std::lock_guard lock(m_mutex);
-        if (m_inits == 0)
-            return {QXNET_ERROR_NOT_INITIALISED};
-        const auto found = m_sessions.find(handle);
-        if (found == m_sessions.end())
-            return {QXNET_ERROR_HANDLE};
-        session = std::move(found->second);
-        m_sessions.erase(found);
+        if (const Failure failure = FindLocked(handle, session))
+            return failure;
+        m_sessions.erase(handle);
     }
     m_voice.RemoveAllOf(handle);
     session->Close();
@@ -152,6 +175,11 @@ Failure CLibrary::LogOut(std::int32_t handle)
 Failure CLibrary::Find(std::int32_t handle, std::shared_ptr<CSession>& session)
 {
     const std::lock_guard lock(m_mutex);
+    return FindLocked(handle, session);
+}
+
+Failure CLibrary::FindLocked(std::int32_t handle, SessionPointer& session) const
+{
     if (m_inits == 0)
         return {QXNET_ERROR_NOT_INITIALISED};
     const auto found = m_sessions.find(handle);

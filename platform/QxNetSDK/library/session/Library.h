@@ -7,7 +7,7 @@
 namespace sdk {
 
 /// All sessions of the process, and what they share. For any thread; there is one, which is never destroyed,
-/// as threads of the program may still call when it ends.
+/// as threads of the program may still call when it ends: from then on nothing is initialised any more.
 class CLibrary
 {
 public:
@@ -30,6 +30,11 @@ public:
 private:
     using SessionPointer = std::shared_ptr<CSession>;
 
+    Failure FindLocked(std::int32_t handle, SessionPointer& session) const;
+    std::vector<SessionPointer> TakeAll();
+    /// Ends the calls under way, before what they use is cleaned up. The devices hear nothing: they would
+    /// hold the process up.
+    void EndWithProcess();
     Failure Begin(const SessionPointer& session);
     Failure Admit(const SessionPointer& session, std::int32_t& handle);
     void Forget(const SessionPointer& session);
@@ -41,6 +46,7 @@ private:
     std::int64_t m_nextHandle = 0;
     std::vector<SessionPointer> m_beginning; ///< being logged in
     std::map<std::int32_t, SessionPointer> m_sessions;
+    std::vector<SessionPointer> m_outlived; ///< at the end of the process; must not close TLS any more
 };
 
 /// One call of a session that is known by its handle; see CSession::Call.

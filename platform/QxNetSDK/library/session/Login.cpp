@@ -80,6 +80,9 @@ Failure CSession::Renew(unsigned staleLogin, Deadline deadline)
     std::unique_lock lock(m_mutex);
     if (m_ticket.login != staleLogin)
         return {};
+    // Each call would be one more wrong password, until the device locks the user out.
+    if (m_refusal)
+        return m_refusal;
     if (const std::shared_ptr<Renewal> renewal = m_renewal) {
         const auto isOver = [&] { return renewal->isDone || m_isClosed; };
         if (!m_changed.wait_until(lock, deadline, isOver))
@@ -94,7 +97,9 @@ Failure CSession::Renew(unsigned staleLogin, Deadline deadline)
     const Failure failure = Authenticate(deadline, ignored, session);
     lock.lock();
     if (!failure)
-        m_ticket = {session, staleLogin + 1};
+        m_ticket = {std::move(session), staleLogin + 1};
+    if (failure.code == QXNET_ERROR_PASSWORD)
+        m_refusal = failure;
     renewal->failure = failure;
     renewal->isDone = true;
     m_renewal.reset();

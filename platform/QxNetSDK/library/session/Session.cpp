@@ -46,8 +46,10 @@ Failure CSession::CallWithTicket(const Request& request, Deadline deadline, Answ
             return {};
         if (answer.status != 401)
             return answer.refusal;
-        if (isRenewed || answer.session != "ended")
+        if (answer.session != "ended")
             return {QXNET_ERROR_PASSWORD, answer.status};
+        if (isRenewed)
+            return {QXNET_ERROR_CONNECTION_LOST};
         if (const Failure failure = Renew(ticket.login, deadline))
             return failure;
     }
@@ -94,12 +96,18 @@ void CSession::Close()
     m_changed.notify_all();
 }
 
+void CSession::WaitForCalls()
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [this] { return m_uses == 0; });
+}
+
 void CSession::LogOut(Deadline deadline)
 {
+    WaitForCalls();
     Ticket ticket;
     {
-        std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [this] { return m_uses == 0; });
+        const std::lock_guard lock(m_mutex);
         std::swap(ticket, m_ticket);
     }
     if (ticket.session.empty())

@@ -30,7 +30,8 @@ public:
 
     /// One request and its answer, which is the expected one: refusals are failures. Takes at most the
     /// connect timeout and the exchange timeout together. When the device has ended the session, logs in once
-    /// more and repeats the request. CLOSED when the session is ended meanwhile, HANDLE when it was before.
+    /// more and repeats the request; no more when the password was refused then. CLOSED when the session is
+    /// ended meanwhile, HANDLE when it was before.
     Failure Call(const Request& request, Answer& answer);
 
     /// A request whose body is sent while it is made; see Upload.h.
@@ -38,8 +39,9 @@ public:
 
     /// Makes calls under way fail, and all to come.
     void Close();
-    /// After Close: waits until no call is under way any more, which is soon, and tells the device until the
-    /// deadline.
+    /// After Close: waits until no call is under way any more, which is soon.
+    void WaitForCalls();
+    /// After Close: waits for the calls, and tells the device until the deadline.
     void LogOut(Deadline deadline);
 
 private:
@@ -75,6 +77,7 @@ private:
     std::condition_variable m_changed;
     Ticket m_ticket;
     std::shared_ptr<Renewal> m_renewal; ///< under way
+    Failure m_refusal;                  ///< of the password, when logging in again
     unsigned m_uses = 0;
     bool m_isClosed = false;
 };

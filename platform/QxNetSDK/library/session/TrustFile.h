@@ -4,8 +4,8 @@
 
 namespace sdk {
 
-/// The file of pinned certificates as one text, locked against other processes while this object lives. It
-/// belongs to the user alone.
+/// The file of pinned certificates as one text, locked against other processes while this object lives; one
+/// of them that holds it for a second is an error. It belongs to the user alone.
 class CTrustFile
 {
 public:

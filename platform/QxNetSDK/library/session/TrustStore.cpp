@@ -28,11 +28,12 @@ Failure CTrustStore::UseFile(const std::string& path)
 {
     const std::lock_guard lock(m_mutex);
     Pins pins;
+    m_failure = {};
     if (!path.empty()) {
         CTrustFile file(path);
         std::string text;
         if (!file.Read(text) || !ReadPins(text, pins) || (text.empty() && !file.Write(text)))
-            return FileFailure(file);
+            return m_failure = FileFailure(file);
     }
     m_path = path;
     m_pins = std::move(pins);
@@ -47,6 +48,8 @@ Failure CTrustStore::Check(const std::string& device, const std::string& fingerp
 
 Failure CTrustStore::CheckLocked(const std::string& device, const std::string& fingerprint) const
 {
+    if (m_failure)
+        return m_failure;
     const auto pin = m_pins.find(device);
     const bool isOther = pin != m_pins.end() && pin->second != fingerprint;
     return isOther ? Failure{QXNET_ERROR_CERTIFICATE_CHANGED} : Failure{};
@@ -55,7 +58,7 @@ Failure CTrustStore::CheckLocked(const std::string& device, const std::string& f
 Failure CTrustStore::Keep(const std::string& device, const std::string& fingerprint)
 {
     const std::lock_guard lock(m_mutex);
-    if (m_pins.count(device) != 0)
+    if (m_failure || m_pins.count(device) != 0)
         return CheckLocked(device, fingerprint);
     if (m_path.empty()) {
         m_pins[device] = fingerprint;

@@ -13,7 +13,8 @@ namespace sdk {
 class CTrustStore
 {
 public:
-    /// Reads the file, and makes it when it is missing; empty: none. TRUST_FILE.
+    /// Reads the file, and makes it when it is missing; empty: none. TRUST_FILE: then the others fail with it
+    /// too, as nobody knows who was trusted.
     Failure UseFile(const std::string& path);
 
     /// CERTIFICATE_CHANGED when another one is kept for the device.
@@ -32,6 +33,7 @@ private:
     std::mutex m_mutex;
     std::string m_path;
     Pins m_pins;
+    Failure m_failure; ///< of the file that was to be used
 };
 
 } // namespace sdk

@@ -49,7 +49,7 @@ Io CSocket::Send(const char* data, std::size_t size, std::size_t& sent)
 
 unsigned CSocket::Wait(unsigned readiness, Deadline deadline) const
 {
-    return system::Wait(m_handle, readiness, deadline, m_isWoken);
+    return Clock::now() >= deadline ? 0 : system::Wait(m_handle, readiness, deadline, m_isWoken);
 }
 
 void CSocket::Wake()

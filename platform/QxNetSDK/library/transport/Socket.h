@@ -32,7 +32,7 @@ public:
     Io Send(const char* data, std::size_t size, std::size_t& sent);
     /// See system::LimitUnsent.
     void LimitUnsent(int bytes) { system::LimitUnsent(m_handle, bytes); }
-    /// See system::Wait.
+    /// See system::Wait; 0 once the deadline has passed, ready or not, so that nobody can go on for ever.
     unsigned Wait(unsigned readiness, Deadline deadline) const;
 
     /// The system's number of the last failure.

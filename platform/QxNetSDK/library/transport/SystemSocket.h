@@ -26,6 +26,10 @@ struct Endpoint
 /// Must have been called before the others; may be called again.
 void StartSockets();
 
+/// Has the work done when the process ends while its other threads still run; never where they do not. May be
+/// called once.
+void AtExit(void (*work)());
+
 /// Looks a host up; numericOnly: an IP address without asking anybody. 0, or the system's number of the
 /// failure. Waits as long as the system likes.
 int LookUp(const std::string& host, std::uint16_t port, bool numericOnly, std::vector<Endpoint>& endpoints);

@@ -9,24 +9,40 @@ namespace sdk {
 
 namespace {
 
-// OpenSSL's own socket BIO could raise SIGPIPE in the caller's program, so that TLS writes through ours.
+// Of the socket in one attempt. OpenSSL reads on while there are messages that it passes over, and a device
+// could send such for ever; two reads make a record.
+constexpr int kMostReads = 64;
 
-int WriteBio(BIO* bio, const char* data, int size)
+} // namespace
+
+// OpenSSL's own socket BIO could raise SIGPIPE in the caller's program, so that TLS writes through ours.
+struct CTlsStream::Bio
+{
+    static CTlsStream& StreamOf(BIO* bio) { return *static_cast<CTlsStream*>(BIO_get_data(bio)); }
+    static int Write(BIO* bio, const char* data, int size);
+    static int Read(BIO* bio, char* data, int size);
+    static long Control(BIO*, int command, long, void*) { return command == BIO_CTRL_FLUSH ? 1 : 0; }
+    static BIO_METHOD* Method();
+};
+
+int CTlsStream::Bio::Write(BIO* bio, const char* data, int size)
 {
     std::size_t sent = 0;
     BIO_clear_retry_flags(bio);
-    const Io io = static_cast<CSocket*>(BIO_get_data(bio))->Send(data, static_cast<std::size_t>(size), sent);
+    const Io io = StreamOf(bio).m_socket.Send(data, static_cast<std::size_t>(size), sent);
     if (io == Io::Blocked)
         BIO_set_retry_write(bio);
     return io == Io::Done ? static_cast<int>(sent) : -1;
 }
 
-int ReadBio(BIO* bio, char* data, int size)
+int CTlsStream::Bio::Read(BIO* bio, char* data, int size)
 {
     std::size_t came = 0;
     BIO_clear_retry_flags(bio);
-    const Io io =
-        static_cast<CSocket*>(BIO_get_data(bio))->Receive(data, static_cast<std::size_t>(size), came);
+    CTlsStream& stream = StreamOf(bio);
+    const Io io = stream.m_readsLeft-- > 0
+                      ? stream.m_socket.Receive(data, static_cast<std::size_t>(size), came)
+                      : Io::Blocked;
     if (io == Io::Blocked)
         BIO_set_retry_read(bio);
     if (io == Io::Ended)
@@ -34,22 +50,19 @@ int ReadBio(BIO* bio, char* data, int size)
     return io == Io::Done ? static_cast<int>(came) : -1;
 }
 
-long ControlBio(BIO*, int command, long, void*)
-{
-    return command == BIO_CTRL_FLUSH ? 1 : 0;
-}
-
-BIO_METHOD* SocketBio()
+BIO_METHOD* CTlsStream::Bio::Method()
 {
     static BIO_METHOD* const method = [] {
         BIO_METHOD* made = BIO_meth_new(BIO_get_new_index() | BIO_TYPE_SOURCE_SINK, "device socket");
-        BIO_meth_set_write(made, WriteBio);
-        BIO_meth_set_read(made, ReadBio);
-        BIO_meth_set_ctrl(made, ControlBio);
+        BIO_meth_set_write(made, Write);
+        BIO_meth_set_read(made, Read);
+        BIO_meth_set_ctrl(made, Control);
         return made;
     }();
     return method;
 }
+
+namespace {
 
 SSL_CTX* ClientContext()
 {
@@ -78,20 +91,26 @@ CTlsStream::~CTlsStream()
     SSL_free(m_ssl);
 }
 
+void CTlsStream::BeginAttempt()
+{
+    ERR_clear_error();
+    m_readsLeft = kMostReads;
+}
+
 Failure CTlsStream::ShakeHands(const std::string& host, Deadline deadline)
 {
     ERR_clear_error();
     m_ssl = SSL_new(ClientContext());
-    BIO* bio = m_ssl ? BIO_new(SocketBio()) : nullptr;
+    BIO* bio = m_ssl ? BIO_new(Bio::Method()) : nullptr;
     if (!bio)
         return {QXNET_ERROR_MEMORY};
-    BIO_set_data(bio, &m_socket);
+    BIO_set_data(bio, this);
     BIO_set_init(bio, 1);
     SSL_set_bio(m_ssl, bio, bio);
     if (!IsNumericAddress(host))
         SSL_set_tlsext_host_name(m_ssl, host.c_str());
     for (;;) {
-        ERR_clear_error();
+        BeginAttempt();
         const int result = SSL_connect(m_ssl);
         if (result == 1)
             return {};
@@ -116,7 +135,7 @@ std::string CTlsStream::Fingerprint() const
 
 Io CTlsStream::Receive(char* data, std::size_t size, std::size_t& came)
 {
-    ERR_clear_error();
+    BeginAttempt();
     came = 0;
     const int result = SSL_read_ex(m_ssl, data, size, &came);
     return result == 1 ? Io::Done : Explain(result);
@@ -124,7 +143,7 @@ Io CTlsStream::Receive(char* data, std::size_t size, std::size_t& came)
 
 Io CTlsStream::Send(const char* data, std::size_t size, std::size_t& sent)
 {
-    ERR_clear_error();
+    BeginAttempt();
     sent = 0;
     const int result = SSL_write_ex(m_ssl, data, size, &sent);
     return result == 1 ? Io::Done : Explain(result);

@@ -28,11 +28,15 @@ public:
     unsigned Wanted() const override { return m_wanted; }
 
 private:
+    struct Bio;
+
+    void BeginAttempt();
     Io Explain(int result);
 
     CSocket& m_socket;
     SSL* m_ssl = nullptr;
     unsigned m_wanted = system::kReadable;
+    int m_readsLeft = 0; ///< of the attempt under way
 };
 
 } // namespace sdk

@@ -13,6 +13,9 @@ void StartSockets()
     (void)WSAStartup(MAKEWORD(2, 2), &ignored);
 }
 
+// The system has ended all other threads by then, perhaps with a lock in their hands.
+void AtExit(void (*)()) {}
+
 int LookUp(const std::string& host, std::uint16_t port, bool numericOnly, std::vector<Endpoint>& endpoints)
 {
     addrinfo hints{};

@@ -7,6 +7,21 @@ namespace sdk {
 namespace {
 
 constexpr std::size_t kMostBytes = 4 * 1024 * 1024;
+constexpr int kLockAttempts = 100;
+constexpr DWORD kLockPauseMs = 10;
+
+/// The system has no time limit for it.
+bool Lock(HANDLE file)
+{
+    constexpr DWORD kKind = LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY;
+    OVERLAPPED from{};
+    for (int attempt = 1; !LockFileEx(file, kKind, 0, 1, 0, &from); ++attempt) {
+        if (GetLastError() != ERROR_LOCK_VIOLATION || attempt == kLockAttempts)
+            return false;
+        Sleep(kLockPauseMs);
+    }
+    return true;
+}
 
 bool WriteAll(HANDLE file, const std::string& text)
 {
@@ -22,8 +37,7 @@ CTrustFile::CTrustFile(const std::string& path) : m_path(path)
 {
     const HANDLE lock = CreateFileA((path + ".lock").c_str(), GENERIC_READ | GENERIC_WRITE,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_ALWAYS, 0, nullptr);
-    OVERLAPPED from{};
-    if (lock == INVALID_HANDLE_VALUE || !LockFileEx(lock, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &from))
+    if (lock == INVALID_HANDLE_VALUE || !Lock(lock))
         m_error = static_cast<int>(GetLastError());
     m_lock = reinterpret_cast<long long>(lock);
 }

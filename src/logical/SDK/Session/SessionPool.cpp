@@ -13,7 +13,7 @@ bool CSessionPool::Start(OnStatus onStatus)
         BASE_ERROR("QxNet_Init failed, [%u].", NET_DVR_GetLastError());
         return false;
     }
-    // Without the file certificates are remembered until the end of the process.
+    // Without the file no device is let in by TLS.
     if (!QxNet_SetTrustFile(m_trustFile.c_str()))
         BASE_ERROR("QxNet_SetTrustFile failed, [%u].", NET_DVR_GetLastError());
     auto sessions =
