@@ -1,9 +1,8 @@
 #include "framework/core/DeviceActions.h"
 
-#include "Base/TimeUtil.h"
+#include "DeviceStructures/ClockTime.h"
 #include "QxNetSDK/QxNetSDK.h"
 
-#include <cstdio>
 #include <ctime>
 
 namespace framework {
@@ -41,21 +40,7 @@ ResultCode SetDeviceClock(std::int32_t login)
     QxNetClock clock{};
     if (!Read(login, QXNET_GET_CLOCK, 0, clock))
         return LastError();
-    const std::string time =
-        Base::TimeUtil::TimeT2StrDatetime(std::time(nullptr) + std::int64_t{clock.zone} * 60);
-    unsigned year = 0;
-    unsigned month = 0;
-    unsigned day = 0;
-    unsigned hour = 0;
-    unsigned minute = 0;
-    unsigned second = 0;
-    std::sscanf(time.c_str(), "%4u-%2u-%2u %2u:%2u:%2u", &year, &month, &day, &hour, &minute, &second);
-    clock.year = static_cast<std::uint16_t>(year);
-    clock.month = static_cast<std::uint8_t>(month);
-    clock.day = static_cast<std::uint8_t>(day);
-    clock.hour = static_cast<std::uint8_t>(hour);
-    clock.minute = static_cast<std::uint8_t>(minute);
-    clock.second = static_cast<std::uint8_t>(second);
+    devices::PutClockTime(std::time(nullptr) + std::int64_t{clock.zone} * 60, clock);
     return Write(login, QXNET_SET_CLOCK, 0, clock);
 }
 

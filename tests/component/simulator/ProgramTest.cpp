@@ -1,6 +1,7 @@
 #include "PlainClient.h"
 #include "support/DeviceSim.h"
 #include "support/FileContent.h"
+#include "support/TestDataRoot.h"
 #include "support/WaitUntil.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@ namespace {
 
 TEST(DeviceSimProgram, SaysWhyItDoesNotRun)
 {
+    const TestDataRoot root;
     const DeviceSim other({"--devices", "1"}, DeviceSim::Keeps::State);
     struct Row
     {
@@ -35,7 +37,7 @@ TEST(DeviceSimProgram, SaysWhyItDoesNotRun)
         CChildProcess program;
         std::vector<std::string> command{DeviceSim::Program()};
         command.insert(command.end(), row.options.begin(), row.options.end());
-        const std::string output = testing::TempDir() + "device-sim-output";
+        const std::string output = root.Path() + "output";
         std::string error;
         ASSERT_TRUE(program.Start(command, output, error));
         EXPECT_EQ(program.WaitForExit(10000), row.status) << row.says;
