@@ -20,9 +20,9 @@ namespace framework {
 
 /// What the core is made of, and what goes on between the parts.
 ///
-/// Threads: the server's (never waits), the workers of the routes, "component" (supervision, timers), "events"
-/// (calls of IFrameworkEvents and of window answers), "answers" (of the component's routes), those of
-/// CDeviceLinks, and the callers'.
+/// Threads: the server's (never waits), the workers of the routes, "component" (supervision, timers),
+/// "events" (calls of IFrameworkEvents and of window answers), "answers" (of the component's routes), those
+/// of CDeviceLinks, and the callers'.
 struct FrameworkParts : Base::CNoncopyable
 {
     FrameworkParts(IFrameworkEvents& events, FrameworkOptions options);

@@ -7,7 +7,8 @@
 #include <functional>
 #include <string>
 
-/// What the framework serves, one row a route. See docs/framework.md. Handlers run on one of the link's workers.
+/// What the framework serves, one row a route. See docs/framework.md. Handlers run on one of the link's
+/// workers.
 namespace framework {
 
 /// What routes need beside the settings and resources.
