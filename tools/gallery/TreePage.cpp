@@ -56,6 +56,11 @@ TreePage::TreePage(const QString& search, QWidget* parent) : QWidget(parent)
     m_life.start();
 }
 
+TreePage::~TreePage()
+{
+    qDeleteAll(findChildren<CResourceTree*>());
+}
+
 void TreePage::ChangeSomething()
 {
     ElementInfo channel = manyElements(16, 16).at(2 + std::size_t(++m_beat % 16));

@@ -16,6 +16,8 @@ class TreePage : public QWidget
 public:
     /// The text that the searched tree is searched for; "a" if empty.
     explicit TreePage(const QString& search, QWidget* parent = nullptr);
+    /// Ends the trees before their elements, which child widgets would outlive.
+    ~TreePage() override;
 
 private:
     void ChangeSomething();

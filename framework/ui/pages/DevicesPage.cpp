@@ -59,6 +59,12 @@ CDevicesPage::CDevicesPage(CResources& resources, CDeviceLinks& devices, CDevice
     ShowDetails();
 }
 
+CDevicesPage::~CDevicesPage()
+{
+    m_tree->disconnect(this);
+    delete m_tree;
+}
+
 QPushButton* CDevicesPage::AddButton(const QString& text, const char* name, void (CDevicesPage::*action)())
 {
     QPushButton* button = m_header->AddAction(text, ButtonKind::Normal);

@@ -35,6 +35,8 @@ public:
 
     CDevicesPage(CResources& resources, CDeviceLinks& devices, CDeviceDialog::Test test,
                  RaiseAlarm raiseAlarm, QWidget* parent = nullptr);
+    /// Ends the tree before its elements, which child widgets would outlive.
+    ~CDevicesPage() override;
 
     /// Something has changed.
     void Reload();
